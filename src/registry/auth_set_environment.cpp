@@ -1,0 +1,115 @@
+// SPDX-FileCopyrightText: The Kelto developers
+// SPDX-License-Identifier: MIT
+
+// What a registry knows of its surroundings: log file, paths, update file and language.
+
+#include "auth_set.h"
+
+#include "core/inifile_p.h"
+#include "registry/auth_set_p.h"
+
+#include <QDate>
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QLocale>
+#include <QTextStream>
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+QString logDirectory()
+{
+    return QDir::currentPath() + QLatin1String("/log");
+}
+
+/// @p name without the differences in which the spellings of one application name may vary.
+QString normalisedName(const QString &name)
+{
+    return name.toLower().remove(QLatin1Char('-')).remove(QLatin1Char('_'));
+}
+
+/// Whether the application is one of those that are updated as part of another one.
+bool isUpdatedElsewhere(const QString &applicationName)
+{
+    static const char *const names[] = { "member", "membership", "general" };
+    const QString name = normalisedName(applicationName);
+    return std::any_of(std::begin(names), std::end(names),
+                       [&name](const char *other) { return name == QLatin1String(other); });
+}
+
+void writeIniValue(const QString &path, const QString &key, const QString &value)
+{
+    IniFile(path).setValue(key, value);
+}
+
+} // namespace
+
+void AUTH_SET::log(QString text) const
+{
+    const QString stamp
+        = QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd hh:mm:ss"));
+    QFile file(filepath_log());
+    if (!file.exists())
+        QDir().mkpath(logDirectory());
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Text))
+        return;
+    QTextStream stream(&file);
+    stream.setCodec("utf-8");
+    stream << stamp << ' ' << text << Qt::endl;
+}
+
+QString AUTH_SET::filepath_log() const
+{
+    return logDirectory() + QLatin1Char('/')
+        + QDate::currentDate().toString(QStringLiteral("yyyy-MM-dd")) + QLatin1Char('_')
+        + d->applicationName + QLatin1String(".log");
+}
+
+QString AUTH_SET::filepath_updater() const
+{
+#ifdef Q_OS_WIN
+    const QLatin1String extension(".bat");
+#else
+    const QLatin1String extension(".sh");
+#endif
+    return QDir::currentPath() + QLatin1String("/Update/Update") + extension;
+}
+
+QString AUTH_SET::filepath_update_inf() const
+{
+    return QDir::currentPath() + QLatin1String("/Config/update.ini");
+}
+
+void AUTH_SET::write_update() const
+{
+    if (isUpdatedElsewhere(d->applicationName))
+        return;
+    if (d->moduleIndex(QStringLiteral("Update")) < 0)
+        return;
+    writeIniValue(filepath_update_inf(), QStringLiteral("Current/Name"), d->applicationName);
+    writeIniValue(filepath_update_inf(), QStringLiteral("Current/Version"), d->applicationVersion);
+}
+
+QString AUTH_SET::language_local(int id) const
+{
+    return id == 1 ? QStringLiteral("zh_CN") : QStringLiteral("en");
+}
+
+QString AUTH_SET::language_local() const
+{
+    return QLocale::system().name();
+}
+
+int AUTH_SET::language_ID(QString name) const
+{
+    // Identifiers are looked for up to 49; a host may rely on none beyond being tried.
+    constexpr int searchEnd = 50;
+    for (int id = 0; id < searchEnd; ++id) {
+        if (language_local(id) == name)
+            return id;
+    }
+    return 0;
+}

@@ -1,0 +1,151 @@
+// SPDX-FileCopyrightText: The Kelto developers
+// SPDX-License-Identifier: MIT
+
+#ifndef EXCLUSIVEGROUPS_P_H
+#define EXCLUSIVEGROUPS_P_H
+
+#include "auth_inf.h"
+#include "core/firstpositions_p.h"
+
+#include <QHash>
+#include <QPair>
+#include <QSet>
+#include <QStringList>
+#include <QVector>
+
+#include <vector>
+
+using NamePair = QPair<QString, QString>;
+using NamePairs = QVector<NamePair>;
+
+/// Where a mode of an exclusive group comes from.
+struct ModeOrigin
+{
+    int moduleIndex = -1;
+    int innerMode = -1;
+};
+
+/**
+ * One exclusive group: its modes, its name pairs and its selection.
+ *
+ * The modes are kept per module and not one by one, so that a senseless inner mode count costs no
+ * memory. The name pairs are gathered when they are first asked for, and go on from there when
+ * modules are added, so that neither building a registry nor growing it pays for them.
+ */
+class ExclusiveGroup
+{
+public:
+    explicit ExclusiveGroup(const QString &groupName)
+        : name(groupName)
+    {
+    }
+
+    /// Adds the modes of a module behind those that are there; a count below 1 adds none.
+    void addModule(int moduleIndex, int innerModeCount);
+
+    /// Drops modes and name pairs; the name and the selection stay.
+    void dropModes();
+
+    int modeCount() const { return m_modeCount; }
+    bool hasMode(int position) const { return position >= 0 && position < m_modeCount; }
+
+    /// The mode at @p position, which has to be one of the group's.
+    ModeOrigin modeAt(int position) const;
+
+    /// Calls @p visit with the origin of each of the first @p limit modes, in mode order.
+    template <typename Visitor> void visitModes(int limit, Visitor visit) const
+    {
+        const int end = qMin(limit, m_modeCount);
+        for (const ModuleModes &part : m_modules) {
+            for (int i = 0; i < part.count && part.firstPosition + i < end; ++i)
+                visit(ModeOrigin { part.moduleIndex, i });
+        }
+    }
+
+    /// The distinct name pairs of the group's modules, in order of first appearance.
+    NamePairs namePairs(const QVector<AUTH_INF> &modules) const;
+    /// Index of the first name pair with the plain name @p mode; -1 when there is none.
+    int indexOfPlainName(const QVector<AUTH_INF> &modules, const QString &mode) const;
+    /// Index of the first name pair with @p mode as either name; -1 when there is none.
+    int indexOfEitherName(const QVector<AUTH_INF> &modules, const QString &mode) const;
+    /// The name pair at that index; a pair of empty texts when there is none.
+    NamePair findNamePair(const QVector<AUTH_INF> &modules, const QString &mode) const;
+
+    QString name;
+    int selected = 0;
+
+private:
+    struct ModuleModes
+    {
+        int moduleIndex;
+        int firstPosition;
+        int count;
+    };
+
+    void gatherNames(const QVector<AUTH_INF> &modules) const;
+
+    std::vector<ModuleModes> m_modules;
+    int m_modeCount = 0;
+
+    mutable std::size_t m_gatheredModules = 0;
+    mutable NamePairs m_namePairs;
+    mutable QSet<NamePair> m_knownPairs;
+    mutable FirstPositions m_plainNames;
+    mutable FirstPositions m_translatedNames;
+};
+
+/// All exclusive groups of a registry.
+class ExclusiveGroups
+{
+public:
+    /// Takes in the module that stands at @p moduleIndex; modules have to come in registry order.
+    void addModule(int moduleIndex, const AUTH_INF &module);
+
+    /// Drops the modes of all groups; names and selections stay.
+    void dropModes();
+
+    /// Selects the first mode of every group.
+    void resetSelections();
+
+    const QStringList &names() const { return m_names; }
+    const QStringList &translatedNames() const { return m_translatedNames; }
+
+    /// Plain and translated name of the group at @p index; what is missing is empty.
+    NamePair namePair(int index) const
+    {
+        return { m_names[index], m_translatedNames.value(index) };
+    }
+
+    /// Index of the first group with the plain or translated name @p name; -1 when there is none.
+    int indexOf(const QString &name) const;
+
+    int size() const { return static_cast<int>(m_groups.size()); }
+    const ExclusiveGroup &at(int index) const { return m_groups[static_cast<std::size_t>(index)]; }
+
+    /// The selected position of the group at @p index, to be written.
+    int &selection(int index);
+
+private:
+    ExclusiveGroup &ensureGroup(const QString &name);
+
+    std::vector<ExclusiveGroup> m_groups;
+    QStringList m_names;
+    QStringList m_translatedNames;
+    FirstPositions m_namePositions;
+    FirstPositions m_translatedNamePositions;
+
+    struct Waiting
+    {
+        int moduleIndex;
+        int innerModeCount;
+    };
+    /// Modules without the flag, by group name: they join when a later module makes their group an
+    /// exclusive one.
+    QHash<QString, QVector<Waiting>> m_waiting;
+
+    /// The groups whose selection may differ from the first mode. Resetting only these keeps the
+    /// adding of one module independent of the number of groups.
+    QSet<int> m_selectedGroups;
+};
+
+#endif
