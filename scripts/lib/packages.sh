@@ -1,0 +1,72 @@
+# SPDX-FileCopyrightText: The Kelto developers
+# SPDX-License-Identifier: MIT
+# shellcheck shell=bash
+
+# What this project needs of Debian, by what it is needed for. Sourced by the
+# other scripts; each asks for the lists that it uses.
+
+build_packages=(
+    g++ cmake ninja-build
+    qtbase5-dev qttools5-dev qttools5-dev-tools # Qt 5, and its tools for translations
+)
+walk_packages=(
+    pkg-config libxcb1-dev libxcb-xtest0-dev # the walk sends real input events
+    xvfb xauth                               # where there is no display
+    fonts-dejavu-core fonts-wqy-microhei     # Latin and Chinese glyphs
+)
+test_packages=(
+    make pkg-config xdotool # hosts built with qmake and pkg-config, and a key press for them
+    libbenchmark-dev clang-format-14 clazy shellcheck codespell
+)
+
+say() {
+    printf '\n== %s\n' "$*"
+}
+
+fail() {
+    printf '%s: %s\n' "${0##*/}" "$*" >&2
+    exit 1
+}
+
+is_installed() {
+    [ "$(dpkg-query -W -f='${db:Status-Status}' "$1" 2>/dev/null)" = installed ]
+}
+
+as_root() {
+    if [ "$(id -u)" -eq 0 ]; then
+        "$@"
+    elif command -v sudo >/dev/null; then
+        sudo "$@"
+    else
+        fail "root is needed to run '$*', and there is no sudo. Run it as root, then start again."
+    fi
+}
+
+# need PACKAGE...: installs those that are missing, and asks for root only then.
+need() {
+    if ! command -v dpkg-query >/dev/null; then
+        say "This is no Debian system: make sure that it has what these packages hold: $*"
+        return
+    fi
+    local missing=() package
+    for package in "$@"; do
+        is_installed "$package" || missing+=("$package")
+    done
+    [ ${#missing[@]} -gt 0 ] || return 0
+    say "Installing ${missing[*]}"
+    as_root apt-get update
+    as_root env DEBIAN_FRONTEND=noninteractive \
+        apt-get install -y --no-install-recommends "${missing[@]}"
+}
+
+# build PRESET [CMAKE-OPTION...]: configures and builds build/PRESET.
+build() {
+    local preset=$1
+    shift
+    say "Building build/$preset"
+    cmake --preset "$preset" "$@" >"build/$preset.log" || {
+        cat "build/$preset.log"
+        fail "cmake could not configure the preset '$preset'; its last lines above say why."
+    }
+    cmake --build --preset "$preset"
+}

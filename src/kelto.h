@@ -1,0 +1,13 @@
+// SPDX-FileCopyrightText: The Kelto developers
+// SPDX-License-Identifier: MIT
+
+#ifndef KELTO_H
+#define KELTO_H
+
+#include "auth_inf.h"
+#include "auth_set.h"
+#include "kelto_version.h"
+#include "utaskselectdialog.h"
+#include "vdataitem.h"
+
+#endif
