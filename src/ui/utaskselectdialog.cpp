@@ -1,0 +1,284 @@
+// SPDX-FileCopyrightText: The Kelto developers
+// SPDX-License-Identifier: MIT
+
+#include "utaskselectdialog.h"
+
+#include "core/firstpositions_p.h"
+#include "registry/auth_set.h"
+#include "registry/standardmodename_p.h"
+#include "ui_utaskselectdialog.h"
+
+#include <QButtonGroup>
+#include <QEventLoop>
+#include <QFontMetrics>
+#include <QHideEvent>
+#include <QMessageBox>
+#include <QMetaType>
+#include <QPointer>
+#include <QScreen>
+#include <QShowEvent>
+#include <QStyle>
+#include <QStyleOptionComboBox>
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+namespace {
+
+enum ButtonId { AcceptId = 0, CancelId = 1, DefaultId = 2 };
+
+// Under these names hosts reach setItems() through the meta-object system. A declaration in the
+// header would clash with that of a host which declares the same template instance.
+const int pairTypeId = qRegisterMetaType<VStringPair>("VStringPair");
+const int pairListTypeId = qRegisterMetaType<VStringPairList>("VStringPairList");
+
+bool hasGroup(const QString &modeName, const QString &group)
+{
+    return standardModeNameFields(modeName).value(StandardModeName::Group) == group;
+}
+
+FirstPositions firstPositions(const QStringList &texts)
+{
+    FirstPositions positions;
+    for (const QString &text : texts)
+        positions.append(text);
+    return positions;
+}
+
+/// What @p box needs to show each of its entries whole. Its own size hint is fixed by the entries
+/// that it has when it is shown first, and knows no bounds.
+int widthOfEntries(const QComboBox &box)
+{
+    const QFontMetrics metrics = box.fontMetrics();
+    QSize size;
+    for (int i = 0; i < box.count(); ++i)
+        size = size.expandedTo(metrics.boundingRect(box.itemText(i)).size());
+    QStyleOptionComboBox option;
+    option.initFrom(&box);
+    return box.style()->sizeFromContents(QStyle::CT_ComboBox, &option, size, &box).width();
+}
+
+} // namespace
+
+class UTaskSelectDialogPrivate
+{
+public:
+    void makeRoomForNames(int screenWidth) const;
+    void tellThatNothingIsBound();
+    void endShow() const;
+    void accept(const QString &modeName) const;
+
+    QPointer<QEventLoop> loop;
+    QPointer<QMessageBox> messageBox;
+    QButtonGroup buttons;
+    Ui::UTaskSelectDialog ui;
+    AUTH_SET *registry = nullptr;
+    VStringPairList items;
+};
+
+void UTaskSelectDialogPrivate::makeRoomForNames(int screenWidth) const
+{
+    ui.comboBox->setMinimumWidth(std::min(widthOfEntries(*ui.comboBox), screenWidth * 3 / 4));
+}
+
+void UTaskSelectDialogPrivate::tellThatNothingIsBound()
+{
+    QMessageBox box(QMessageBox::Information, UTaskSelectDialog::tr("Wrong Sets"),
+                    UTaskSelectDialog::tr("Please connect Kelto first."), QMessageBox::Ok);
+    messageBox = &box;
+    box.exec();
+}
+
+void UTaskSelectDialogPrivate::endShow() const
+{
+    // An open box would hold up show() although the dialog that it speaks of has gone.
+    if (messageBox)
+        messageBox->reject();
+    if (loop)
+        loop->quit();
+}
+
+void UTaskSelectDialogPrivate::accept(const QString &modeName) const
+{
+    const QStringList fields = standardModeNameFields(modeName);
+    if (!registry || fields.size() != StandardModeName::FieldCount)
+        return;
+    registry->current_group = fields.at(StandardModeName::Group);
+    registry->current_mode = fields.at(StandardModeName::Mode);
+    registry->exclusive_group_set_mode(registry->current_group, registry->current_mode);
+}
+
+UTaskSelectDialog::UTaskSelectDialog()
+    : operateIndex(-1)
+    , d(std::make_unique<UTaskSelectDialogPrivate>())
+{
+    d->ui.setupUi(this);
+    d->buttons.addButton(d->ui.pushButton_accept, AcceptId);
+    d->buttons.addButton(d->ui.pushButton_cancel, CancelId);
+    d->buttons.addButton(d->ui.pushButton_Default, DefaultId);
+    connect(&d->buttons, &QButtonGroup::idClicked, this, &UTaskSelectDialog::operate);
+}
+
+UTaskSelectDialog::~UTaskSelectDialog()
+{
+    d->endShow();
+}
+
+void UTaskSelectDialog::set(AUTH_SET *registry)
+{
+    d->registry = registry;
+    setItems(availableModeItems());
+}
+
+QPair<QString, QString> UTaskSelectDialog::currentItem() const
+{
+    return d->items.value(currentItemIndex());
+}
+
+int UTaskSelectDialog::currentItemIndex() const
+{
+    return d->ui.comboBox->currentIndex();
+}
+
+QVector<QPair<QString, QString>> UTaskSelectDialog::availableModeItems() const
+{
+    return d->registry ? d->registry->currentModeList() : VStringPairList();
+}
+
+QVector<QPair<QString, QString>> UTaskSelectDialog::availableModeItemsWithModeCodeList(
+    QStringList codes) const
+{
+    return availableModeItemsWithModeCodeList(availableModeItems(), codes);
+}
+
+QVector<QPair<QString, QString>> UTaskSelectDialog::availableModeItemsWithModeCodeList(
+    QVector<QPair<QString, QString>> list, QStringList codes) const
+{
+    const FirstPositions firsts = firstPositions(getFirstItems(list));
+    const FirstPositions seconds = firstPositions(getSecondItems(list));
+    VStringPairList found;
+    for (const QString &code : std::as_const(codes)) {
+        const int first = firsts.indexOf(code);
+        const int position = first >= 0 ? first : seconds.indexOf(code);
+        if (position >= 0)
+            found.append(list.at(position));
+    }
+    return found;
+}
+
+QStringList UTaskSelectDialog::getFirstItems(QVector<QPair<QString, QString>> list) const
+{
+    QStringList firsts;
+    for (const VStringPair &item : std::as_const(list))
+        firsts.append(item.first);
+    return firsts;
+}
+
+QStringList UTaskSelectDialog::getSecondItems(QVector<QPair<QString, QString>> list) const
+{
+    QStringList seconds;
+    for (const VStringPair &item : std::as_const(list))
+        seconds.append(item.second);
+    return seconds;
+}
+
+void UTaskSelectDialog::showEvent(QShowEvent *event)
+{
+    event->accept();
+    // Coming back from being minimised: what the user has chosen so far stays.
+    if (event->spontaneous())
+        return;
+    d->makeRoomForNames(screen()->availableGeometry().width());
+    QDialog::showEvent(event);
+    d->ui.comboBox->setFocus();
+    if (!d->registry) {
+        // show() opens the box itself as soon as Qt is done with the window: one that is closed or
+        // deleted within this event would be put on the screen all the same.
+        if (!d->loop)
+            d->tellThatNothingIsBound();
+        return;
+    }
+    const QString name
+        = d->registry->stdModeNameForm(d->registry->current_group, d->registry->current_mode);
+    const int first = getFirstItems(d->items).indexOf(name);
+    d->ui.comboBox->setCurrentIndex(first >= 0 ? first : getSecondItems(d->items).indexOf(name));
+    operateIndex = -1;
+}
+
+void UTaskSelectDialog::closeEvent(QCloseEvent *event)
+{
+    event->accept();
+    d->endShow();
+}
+
+void UTaskSelectDialog::hideEvent(QHideEvent *event)
+{
+    QDialog::hideEvent(event);
+    // accept(), reject(), done() and hide() send no close event. A spontaneous event means that
+    // the window was minimised.
+    if (!event->spontaneous())
+        d->endShow();
+}
+
+void UTaskSelectDialog::operate(int id)
+{
+    operateIndex = id;
+    if (id == AcceptId) {
+        d->accept(currentItem().first);
+    } else if (id == DefaultId) {
+        d->ui.comboBox->setCurrentIndex(0);
+        operate(AcceptId);
+    }
+    close();
+}
+
+void UTaskSelectDialog::resetToExclusiveGroup(QString eGroup_or_tr)
+{
+    const VStringPairList modes = availableModeItems();
+    VStringPairList kept;
+    std::copy_if(modes.cbegin(), modes.cend(), std::back_inserter(kept),
+                 [&](const VStringPair &mode) {
+                     return hasGroup(mode.first, eGroup_or_tr)
+                         || hasGroup(mode.second, eGroup_or_tr);
+                 });
+    setItems(kept);
+}
+
+void UTaskSelectDialog::resetToProjectMode()
+{
+    setItems(availableModeItems());
+}
+
+void UTaskSelectDialog::setItems(VStringPairList list)
+{
+    d->ui.comboBox->clear();
+    d->items = list;
+    d->ui.comboBox->addItems(getSecondItems(list));
+    d->makeRoomForNames(screen()->availableGeometry().width());
+}
+
+int UTaskSelectDialog::show()
+{
+    if (isVisible()) {
+        setWindowState(windowState() & ~Qt::WindowMinimized);
+        raise();
+        activateWindow();
+        return 0;
+    }
+    // Each showing has its own loop: that of an earlier one may still be on its way out when a
+    // slot that is told of the closing shows the dialog again.
+    QEventLoop loop;
+    d->loop = &loop;
+    const QPointer<UTaskSelectDialog> self(this);
+    QWidget::show();
+    if (!d->registry)
+        d->tellThatNothingIsBound();
+    // A loop that was told to quit before it runs would run for ever.
+    if (!self || !isVisible())
+        return 0;
+    activateWindow();
+    // The choice is read elsewhere; a program that is told to end in the meantime changes nothing.
+    loop.exec();
+    return 0;
+}

@@ -1,0 +1,106 @@
+// SPDX-FileCopyrightText: The Kelto developers
+// SPDX-License-Identifier: MIT
+
+#ifndef UTASKSELECTDIALOG_H
+#define UTASKSELECTDIALOG_H
+
+#include "kelto_export.h"
+
+#include <QDialog>
+#include <QPair>
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+#include <memory>
+
+class AUTH_SET;
+class UTaskSelectDialogPrivate;
+
+/// Plain and translated standard mode name of one mode.
+using VStringPair = QPair<QString, QString>;
+/// Modes, each as its pair of standard mode names. Both types are known to Qt's meta-type system
+/// under these names as soon as the library is loaded.
+using VStringPairList = QVector<QPair<QString, QString>>;
+
+/**
+ * The window in which the user confirms the task type, that is the mode, when a project is opened.
+ *
+ * A host creates it, binds its registry with set(), may narrow the offer with
+ * resetToExclusiveGroup(), and calls show(), which comes back when the window has closed. The
+ * outcome then stands in AUTH_SET::current_group and AUTH_SET::current_mode, in the selection of
+ * the exclusive group, and in operateIndex.
+ */
+class KELTO_EXPORT UTaskSelectDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// A dialog without parent, registry and entries.
+    UTaskSelectDialog();
+    /// Leaves the registry alone. A show() that is still running comes back.
+    ~UTaskSelectDialog() override;
+
+    /// The id last given to operate(): 0 after "Accept" and after "Default", 1 after "Cancel"; -1
+    /// from each showing with a registry until then.
+    int operateIndex;
+
+    /// Binds @p registry and offers all its modes. The registry stays the caller's and has to
+    /// outlive the dialog; nullptr unbinds and offers nothing.
+    void set(AUTH_SET *registry);
+
+    /// The entry under the current index of the combo box; a pair of empty texts when there is
+    /// none.
+    QPair<QString, QString> currentItem() const;
+
+    /// Current index of the combo box; -1 when there is none.
+    int currentItemIndex() const;
+
+    /// All modes of the registry; empty without a registry.
+    QVector<QPair<QString, QString>> availableModeItems() const;
+
+    /// The modes of the registry that @p codes names, as the other overload picks them.
+    QVector<QPair<QString, QString>> availableModeItemsWithModeCodeList(QStringList codes) const;
+
+    /// For each of @p codes, in order and with doubles kept, the first entry of @p list with the
+    /// code as its first member, or else the first with it as its second; unknown codes are left
+    /// out.
+    QVector<QPair<QString, QString>> availableModeItemsWithModeCodeList(
+        QVector<QPair<QString, QString>> list, QStringList codes) const;
+
+    /// The first members of @p list, in order.
+    QStringList getFirstItems(QVector<QPair<QString, QString>> list) const;
+    /// The second members of @p list, in order.
+    QStringList getSecondItems(QVector<QPair<QString, QString>> list) const;
+
+    /// Makes the mode that the registry holds as accepted last the current entry. Without a
+    /// registry it tells the user so in an information box.
+    void showEvent(QShowEvent *event) override;
+    /// Lets a running show() come back.
+    void closeEvent(QCloseEvent *event) override;
+    /// Lets a running show() come back, unless the window was only minimised.
+    void hideEvent(QHideEvent *event) override;
+
+public Q_SLOTS:
+    /// Does what the button with this id does: 0 accepts the current entry and closes, 2 makes the
+    /// first entry the current one and accepts it, every other id closes only.
+    void operate(int id);
+
+    /// Offers only the modes of the exclusive group @p eGroup_or_tr, named in either form.
+    void resetToExclusiveGroup(QString eGroup_or_tr);
+
+    /// Offers all modes of the registry again.
+    void resetToProjectMode();
+
+    /// Replaces the entries. The combo box shows the second members.
+    void setItems(VStringPairList list);
+
+    /// Shows the window, waits until it has gone, in whatever way, and returns 0. Called while the
+    /// window is shown already, it brings the window to the front and returns 0 at once.
+    int show();
+
+private:
+    std::unique_ptr<UTaskSelectDialogPrivate> d;
+};
+
+#endif
