@@ -1,0 +1,14 @@
+// SPDX-FileCopyrightText: The Kelto developers
+// SPDX-License-Identifier: MIT
+
+#ifndef MODULETEXTS_H
+#define MODULETEXTS_H
+
+class AUTH_INF;
+
+/// Fills in everything of a module that is shown to the user in the language of the program: the
+/// descriptions and the "_tr" twin of every name, unit aside. The texts are looked up in the
+/// translation context AUTH_INF::trObjectName; one without a translation stays as it is.
+void translateTexts(AUTH_INF &module);
+
+#endif

@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: The Kelto developers
+// SPDX-License-Identifier: MIT
+
+#include "numbers.h"
+
+#include <QCoreApplication>
+#include <QMap>
+#include <QStringList>
+#include <QtMath>
+
+#include <cmath>
+
+namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(Numbers)
+};
+
+} // namespace
+
+double siFactor(const QString &unit)
+{
+    static const QMap<QString, double> factors {
+        { QStringLiteral("-"), 1 },          { QStringLiteral("m"), 1 },
+        { QStringLiteral("mm"), 1e-3 },      { QStringLiteral("rad"), 1 },
+        { QStringLiteral("°"), M_PI / 180 }, { QStringLiteral("N"), 1 },
+        { QStringLiteral("N/m"), 1 },        { QStringLiteral("N/mm"), 1e3 },
+        { QStringLiteral("N·m"), 1 },        { QStringLiteral("N·mm"), 1e-3 },
+        { QStringLiteral("N·m/rad"), 1 },    { QStringLiteral("N·mm/°"), 1e-3 * 180 / M_PI },
+        { QStringLiteral("Pa"), 1 },         { QStringLiteral("MPa"), 1e6 },
+        { QStringLiteral("°C"), 1 },         { QStringLiteral("W/m²"), 1 },
+        { QStringLiteral("W/(m·K)"), 1 },    { QStringLiteral("W/(m²·K)"), 1 },
+        { QStringLiteral("m²·K/W"), 1 },
+    };
+    return factors.value(unit, 0);
+}
+
+Outcome<QVector<double>> numbersFromText(const QString &text, bool several)
+{
+    if (text.trimmed().isEmpty())
+        return { {}, Texts::tr("enter a number.") };
+
+    Outcome<QVector<double>> numbers;
+    const QStringList parts = several ? text.split(QLatin1Char(';')) : QStringList { text };
+    for (const QString &part : parts) {
+        bool isNumber = false;
+        const double number = part.trimmed().toDouble(&isNumber);
+        if (!isNumber || !std::isfinite(number)) {
+            const QString hint = several
+                ? Texts::tr("\"%1\" is not a number. Write decimals with a point and separate the "
+                            "numbers by semicolons, as in 0.5; 12.")
+                : Texts::tr("\"%1\" is not a number. Write decimals with a point, as in 0.5.");
+            return { {}, hint.arg(part.trimmed()) };
+        }
+        numbers.result.append(number);
+    }
+    return numbers;
+}
+
+QString textFromNumbers(const QVector<double> &numbers)
+{
+    QStringList texts;
+    for (const double number : numbers)
+        texts.append(QString::number(number + 0.0)); // which takes the sign off a negative zero
+    return texts.join(QStringLiteral("; "));
+}

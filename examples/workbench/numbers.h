@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: The Kelto developers
+// SPDX-License-Identifier: MIT
+
+#ifndef NUMBERS_H
+#define NUMBERS_H
+
+#include "calculations/outcome.h"
+
+#include <QString>
+#include <QVector>
+
+/// One unit of @p unit in SI units, 0.001 for "mm"; 0 for a unit that the workbench does not know.
+/// Temperatures stay in degrees Celsius.
+double siFactor(const QString &unit);
+
+/// Reads what the user typed: one number, or with @p several any number of them separated by
+/// semicolons. The decimal sign is a point in every language.
+Outcome<QVector<double>> numbersFromText(const QString &text, bool several);
+
+/// The numbers with up to six significant digits, separated like input.
+QString textFromNumbers(const QVector<double> &numbers);
+
+#endif

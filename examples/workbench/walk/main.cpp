@@ -1,0 +1,81 @@
+// SPDX-FileCopyrightText: The Kelto developers
+// SPDX-License-Identifier: MIT
+
+#include "languages.h"
+#include "mainwindow.h"
+#include "modules.h"
+#include "walker.h"
+
+#include <Kelto/AUTH_INF>
+#include <Kelto/AUTH_SET>
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QDir>
+#include <QLocale>
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+
+[[noreturn]] void quit(const QString &complaint)
+{
+    std::fprintf(stderr, "%s\n", qPrintable(complaint));
+    std::exit(EXIT_FAILURE);
+}
+
+QString readOutputOption()
+{
+    const QCommandLineOption output(QStringLiteral("output"),
+                                    QStringLiteral("Where the pictures and the files of the "
+                                                   "workbench go; \".\" if it is left out."),
+                                    QStringLiteral("directory"), QStringLiteral("."));
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        QStringLiteral("Uses the workbench as a person does, with the mouse and the keyboard of "
+                       "the X server, and says what it saw.\n\n"
+                       "Exit codes: 0 when all went well, 1 otherwise."));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.addOption(output);
+    parser.process(QCoreApplication::arguments());
+    return parser.value(output);
+}
+
+/// Makes the directory @p path the current one, as that is where the workbench writes.
+QDir changedTo(const QString &path)
+{
+    if (!QDir().mkpath(path) || !QDir::setCurrent(path))
+        quit(QStringLiteral("Cannot use the directory ") + path);
+    const QDir directory = QDir::current();
+    // They would look as if they were written now.
+    if (directory.exists(QStringLiteral("log")) || directory.exists(QStringLiteral("Config")))
+        quit(QStringLiteral("Files of an earlier run are in ") + directory.path());
+    return directory;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("Workbench"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(WORKBENCH_VERSION));
+    const QDir directory = changedTo(readOutputOption());
+
+    // From here on as in the workbench itself, with somebody at the mouse.
+    installTranslations(QLocale(QStringLiteral("en")));
+    AUTH_SET registry(QCoreApplication::applicationName(), QCoreApplication::applicationVersion(),
+                      workbenchModules());
+    registry.log(QStringLiteral("Started, version ") + QCoreApplication::applicationVersion());
+    MainWindow window(&registry);
+    Walker walker(&window, directory);
+    walker.start();
+    window.chooseTask();
+    window.show();
+    const int exitCode = QApplication::exec();
+    walker.tellThatProgramEnded();
+    walker.wait();
+    return exitCode;
+}
