@@ -184,8 +184,7 @@ AUTH_INF CompiledModules::pressureVessel()
     const QVector<QStringList> parameters {
         entry(QT_TR_NOOP("Geometry"), QT_TR_NOOP("Inner diameter"), "innerDiameter", "d", "mm",
               "m"),
-        entry(QT_TR_NOOP("Geometry"), QT_TR_NOOP("Wall thickness"), "wallThickness", "t", "mm",
-              "m"),
+        entry(QT_TR_NOOP("Geometry"), QT_TR_NOOP("Wall thickness"), "thickness", "t", "mm", "m"),
         entry(QT_TR_NOOP("Load"), QT_TR_NOOP("Internal pressure"), "internalPressure", "p₁", "MPa",
               "Pa"),
     };

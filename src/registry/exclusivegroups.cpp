@@ -110,7 +110,6 @@ void ExclusiveGroups::dropModes()
 {
     for (ExclusiveGroup &group : m_groups)
         group.dropModes();
-    m_waiting.clear();
 }
 
 void ExclusiveGroups::resetSelections()

@@ -277,6 +277,7 @@ int UTaskSelectDialog::show()
     // A loop that was told to quit before it runs would run for ever.
     if (!self || !isVisible())
         return 0;
+    // After a box without a parent the window system may have turned to any other window.
     activateWindow();
     // The choice is read elsewhere; a program that is told to end in the meantime changes nothing.
     loop.exec();

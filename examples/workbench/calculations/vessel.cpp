@@ -14,11 +14,11 @@ struct Texts
     Q_DECLARE_TR_FUNCTIONS(Vessel)
 };
 
-InputCheck checkedWall(double innerDiameter, double wallThickness, double internalPressure)
+InputCheck checkedWall(double innerDiameter, double thickness, double internalPressure)
 {
     InputCheck check;
     check.positive("Inner diameter", innerDiameter)
-        .positive("Wall thickness", wallThickness)
+        .positive("Wall thickness", thickness)
         .notNegative("Internal pressure", internalPressure);
     return check;
 }
@@ -33,13 +33,13 @@ QString resultProblem(const Vessel::Result &result)
 
 } // namespace
 
-Outcome<Vessel::Result> Vessel::thinWall(double innerDiameter, double wallThickness,
+Outcome<Vessel::Result> Vessel::thinWall(double innerDiameter, double thickness,
                                          double internalPressure)
 {
     const double thickest = innerDiameter / 20;
     const InputCheck check
-        = checkedWall(innerDiameter, wallThickness, internalPressure)
-              .require(wallThickness <= thickest,
+        = checkedWall(innerDiameter, thickness, internalPressure)
+              .require(thickness <= thickest,
                        Texts::tr("%1: enter at most %2 mm, a tenth of the inner radius, or choose "
                                  "the task for thick walls.")
                            .arg(InputCheck::nameOf("Wall thickness"))
@@ -48,22 +48,22 @@ Outcome<Vessel::Result> Vessel::thinWall(double innerDiameter, double wallThickn
         return { {}, check.problem() };
 
     const double p = internalPressure;
-    const double hoop = p * innerDiameter / (2 * wallThickness);
+    const double hoop = p * innerDiameter / (2 * thickness);
     const Result result { { hoop, hoop, hoop }, { -p, -p / 2, 0 }, hoop / 2 };
     return { result, resultProblem(result) };
 }
 
-Outcome<Vessel::Result> Vessel::thickWall(double innerDiameter, double wallThickness,
+Outcome<Vessel::Result> Vessel::thickWall(double innerDiameter, double thickness,
                                           double internalPressure, double externalPressure)
 {
-    const InputCheck check = checkedWall(innerDiameter, wallThickness, internalPressure)
+    const InputCheck check = checkedWall(innerDiameter, thickness, internalPressure)
                                  .notNegative("External pressure", externalPressure);
     if (!check.isPassed())
         return { {}, check.problem() };
 
     const double a = innerDiameter / 2;
-    const double b = a + wallThickness;
-    const double ring = wallThickness * (a + b); // b^2 - a^2 without cancellation
+    const double b = a + thickness;
+    const double ring = thickness * (a + b); // b^2 - a^2 without cancellation
     const double mean = (internalPressure * a * a - externalPressure * b * b) / ring;
     const double swing = (internalPressure - externalPressure) * a * a * b * b / ring;
     const auto at = [&](double sign, double r) { return mean + sign * swing / (r * r); };

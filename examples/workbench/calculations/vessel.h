@@ -31,10 +31,10 @@ struct Result
  * It holds for walls of at most a tenth of the inner radius; a thicker one is refused.
  *
  * @param innerDiameter d in m
- * @param wallThickness t in m
+ * @param thickness t in m
  * @param internalPressure p in Pa above the pressure outside
  */
-Outcome<Result> thinWall(double innerDiameter, double wallThickness, double internalPressure);
+Outcome<Result> thinWall(double innerDiameter, double thickness, double internalPressure);
 
 /**
  * Lamé's equations: radial A - B / r^2 and hoop A + B / r^2 at the radius r, axial A, where for the
@@ -43,7 +43,7 @@ Outcome<Result> thinWall(double innerDiameter, double wallThickness, double inte
  *
  * @param externalPressure po in Pa
  */
-Outcome<Result> thickWall(double innerDiameter, double wallThickness, double internalPressure,
+Outcome<Result> thickWall(double innerDiameter, double thickness, double internalPressure,
                           double externalPressure);
 
 } // namespace Vessel

@@ -12,6 +12,7 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
+#include <QFile>
 #include <QLocale>
 
 #include <cstdio>
@@ -48,11 +49,7 @@ QDir changedTo(const QString &path)
 {
     if (!QDir().mkpath(path) || !QDir::setCurrent(path))
         quit(QStringLiteral("Cannot use the directory ") + path);
-    const QDir directory = QDir::current();
-    // They would look as if they were written now.
-    if (directory.exists(QStringLiteral("log")) || directory.exists(QStringLiteral("Config")))
-        quit(QStringLiteral("Files of an earlier run are in ") + directory.path());
-    return directory;
+    return QDir::current();
 }
 
 } // namespace
@@ -64,14 +61,17 @@ int main(int argc, char *argv[])
     QCoreApplication::setApplicationVersion(QStringLiteral(WORKBENCH_VERSION));
     const QDir directory = changedTo(readOutputOption());
 
+    // One from an earlier walk would look as if it were written now.
+    QFile::remove(directory.filePath(QStringLiteral("Config/update.ini")));
+
     // From here on as in the workbench itself, with somebody at the mouse.
     installTranslations(QLocale(QStringLiteral("en")));
     AUTH_SET registry(QCoreApplication::applicationName(), QCoreApplication::applicationVersion(),
                       workbenchModules());
+    Walker walker(directory, registry.filepath_log());
     registry.log(QStringLiteral("Started, version ") + QCoreApplication::applicationVersion());
     MainWindow window(&registry);
-    Walker walker(&window, directory);
-    walker.start();
+    walker.startLookingAt(&window);
     window.chooseTask();
     window.show();
     const int exitCode = QApplication::exec();

@@ -23,7 +23,7 @@ class MainWindow;
 class Onlooker
 {
 public:
-    explicit Onlooker(MainWindow *window)
+    explicit Onlooker(MainWindow *window = nullptr)
         : m_window(window)
     {
     }

@@ -54,7 +54,7 @@ void UserInput::click(QPoint position)
     pressButton();
 }
 
-void UserInput::doubleClick(QPoint position)
+void UserInput::clickTwice(QPoint position)
 {
     click(position);
     pressButton();

@@ -22,7 +22,7 @@ public:
 
     void moveTo(QPoint position);
     void click(QPoint position);
-    void doubleClick(QPoint position);
+    void clickTwice(QPoint position);
     /// Characters of the keyboard layout only; "\n" is the Return key.
     void type(const QString &text);
 

@@ -3,9 +3,9 @@
 
 #include "walker.h"
 
-#include <QDate>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QFileInfo>
 #include <QSettings>
 
 #include <cstdio>
@@ -36,10 +36,17 @@ bool waitUntil(const std::function<bool()> &look)
 
 } // namespace
 
-Walker::Walker(MainWindow *window, const QDir &directory)
-    : m_onlooker(window)
-    , m_directory(directory)
+Walker::Walker(const QDir &directory, const QString &logFile)
+    : m_directory(directory)
+    , m_logFile(logFile)
+    , m_logSizeBefore(QFileInfo(logFile).size())
 {
+}
+
+void Walker::startLookingAt(MainWindow *window)
+{
+    m_onlooker = Onlooker(window);
+    start();
 }
 
 void Walker::run()
@@ -53,7 +60,7 @@ void Walker::run()
         try {
             takePicture(QStringLiteral("failure"));
         } catch (const Failure &) {
-            print(QStringLiteral("No picture, the program does not react."));
+            print(QStringLiteral("No picture could be taken."));
         }
         // The program is in some event loop and nobody is left to end it.
         std::_Exit(EXIT_FAILURE);
@@ -171,10 +178,9 @@ void Walker::lookAtFiles()
     expect(QStringLiteral("version in Config/update.ini"), QCoreApplication::applicationVersion(),
            [&] { return update.value(QStringLiteral("Current/Version")).toString(); });
 
-    const QStringList logs = QDir(m_directory.filePath(QStringLiteral("log")))
-                                 .entryList({ QStringLiteral("*_Workbench.log") }, QDir::Files);
-    QFile log(m_directory.filePath(QStringLiteral("log/") + logs.value(0)));
-    log.open(QIODevice::ReadOnly);
+    QFile log(m_logFile);
+    if (!log.open(QIODevice::ReadOnly) || !log.seek(m_logSizeBefore))
+        throw Failure { QStringLiteral("a log at ") + m_logFile, QStringLiteral("none") };
     const QString lines = QString::fromUtf8(log.readAll());
     for (const char *line : { " Started, version ", " Task: Workbench:Vessels:Thick wall\n",
                               " Task: Workbench:Statics:Cantilever\n" }) {
@@ -228,7 +234,7 @@ void Walker::enterPointLoad(const QString &value)
 {
     step(QStringLiteral("Double-clicks the point load and types ") + value);
     const QString name = QStringLiteral("Point load");
-    m_input->doubleClick(
+    m_input->clickTwice(
         placeOf(name, [this, name] { return m_onlooker.placeOfValue("parameters", name); }));
     if (!waitUntil([this] { return m_onlooker.isEditing(); }))
         throw Failure { QStringLiteral("a field to type in"), QStringLiteral("none") };

@@ -18,8 +18,11 @@
 class Walker : public QThread
 {
 public:
+    /// To be made before the program writes to its log, which may hold lines of an earlier walk.
     /// @param directory where the pictures go, and where the program writes its files
-    Walker(MainWindow *window, const QDir &directory);
+    Walker(const QDir &directory, const QString &logFile);
+
+    void startLookingAt(MainWindow *window);
 
     /// To be called when the program has left its event loop.
     void tellThatProgramEnded() { m_programEnd.release(); }
@@ -50,6 +53,8 @@ private:
 
     Onlooker m_onlooker;
     QDir m_directory;
+    QString m_logFile;
+    qint64 m_logSizeBefore;
     QSemaphore m_programEnd;
     std::unique_ptr<UserInput> m_input;
     int m_steps = 0;
