@@ -1,6 +1,7 @@
 # SPDX-FileCopyrightText: The Kelto developers
 # SPDX-License-Identifier: MIT
 # shellcheck shell=bash
+# shellcheck disable=SC2034 # the lists are used by the scripts that source this
 
 # What this project needs of Debian, by what it is needed for. Sourced by the
 # other scripts; each asks for the lists that it uses.
