@@ -30,9 +30,11 @@ QString state(const AUTH_SET &set)
     QString text = set.current_group + '/' + set.current_mode + '/';
     for (int i = 0; i < set.model_count(); ++i)
         text += set.name(i) + ',';
-    for (const QString &group : set.exclusive_group_namelist())
+    const QStringList groups = set.exclusive_group_namelist();
+    for (const QString &group : groups)
         text += group + '=' + QString::number(set.exclusive_group_select(group)) + ',';
-    for (const Pair &mode : set.currentModeList())
+    const Pairs modes = set.currentModeList();
+    for (const Pair &mode : modes)
         text += mode.first + '|' + mode.second + ',';
     return text;
 }
