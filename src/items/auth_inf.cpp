@@ -1,8 +1,11 @@
 // SPDX-FileCopyrightText: The Kelto developers
 // SPDX-License-Identifier: MIT
 
+// The record of one module, and which parameter belongs to which of its inner modes.
+
 #include "auth_inf.h"
 
+#include "core/firstpositions_p.h"
 #include "core/parameterentry_p.h"
 
 #include <algorithm>
@@ -59,17 +62,31 @@ bool AUTH_INF::inner_mode_contains(QString mode, QString key) const
 
 bool AUTH_INF::inner_mode_contains(QString key) const
 {
-    return std::any_of(inner_mode_nameList.cbegin(), inner_mode_nameList.cend(),
-                       [this, &key](const QString &mode) {
-                           return inner_mode_contains(mode, key);
-                       });
+    FirstPositions modes;
+    for (int i = 0; i < inner_mode_nameList.size(); ++i) {
+        const QString &mode = inner_mode_nameList.at(i);
+        modes.append(mode);
+        // A name given twice stands for its first mode.
+        if (modes.indexOf(mode) == i && holdsKey(inner_mode_parameterList.value(i), key))
+            return true;
+    }
+    return false;
 }
 
 QStringList AUTH_INF::parameter_belonglist(QString key) const
 {
-    QStringList modes;
-    std::copy_if(inner_mode_nameList.cbegin(), inner_mode_nameList.cend(),
-                 std::back_inserter(modes),
-                 [this, &key](const QString &mode) { return inner_mode_contains(mode, key); });
-    return modes;
+    // Each list is searched once, however many names stand for it.
+    QVector<bool> hasKey(inner_mode_parameterList.size());
+    std::transform(inner_mode_parameterList.cbegin(), inner_mode_parameterList.cend(),
+                   hasKey.begin(),
+                   [&key](const QVector<QStringList> &entries) { return holdsKey(entries, key); });
+
+    QStringList found;
+    FirstPositions modes;
+    for (const QString &mode : inner_mode_nameList) {
+        modes.append(mode);
+        if (hasKey.value(modes.indexOf(mode)))
+            found.append(mode);
+    }
+    return found;
 }

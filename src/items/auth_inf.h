@@ -32,7 +32,7 @@ class KELTO_EXPORT AUTH_INF
 public:
     AUTH_INF();
 
-    /// Position of the item in its registry, which overwrites it; 0 outside of one.
+    /// Position of the item in its registry, which overwrites it; 0 by default.
     int number;
     /// The key by which a registry finds the module.
     QString name;

@@ -32,7 +32,7 @@ class AUTH_SETPrivate;
  *   mode names. Two modules with an equally named inner mode share one pair, so that there may be
  *   fewer pairs than modes.
  * - A **standard mode name** is application name, group and inner mode name joined by ":".
- * - Operations that end in `_global` and members of a pair called second hold translated names,
+ * - Operations that end in `_global` and members of a pair called second give translated names,
  *   the others plain names. All operations that take an exclusive group accept either.
  *
  * Texts are compared exactly, with case. What is unknown or out of range gives an empty text, pair
@@ -65,7 +65,8 @@ public:
      * The registry of the application @p name in the version @p version.
      *
      * Writes the update information file as write_update() describes. Without any module the
-     * registry stays empty and forgets name and version, and a message is written to the log.
+     * registry stays empty and forgets name and version, and a message is written to the log, which
+     * is that of an application without a name.
      */
     AUTH_SET(QString name, QString version, QVector<AUTH_INF> modules);
 
@@ -183,7 +184,7 @@ public:
     QPair<QString, QString> findExclusiveGroupInnerModeName(QString group, QString mode) const;
 
     /// Index of the name pair of @p mode in exclusive_group_inner_mode_namelist_at(); -1 when there
-    /// is none.
+    /// is none, and for a group or a mode without a plain name.
     int exclusive_group_innerMode_index(QString group, QString mode) const;
 
     /// Module index and description of each mode of @p group, in mode order. A mode without a
@@ -200,7 +201,8 @@ public:
     QVector<QStringList> exclusive_group_parameter_settings_origin(QString group,
                                                                    QString mode) const;
 
-    /// The name pair at the selected position; a pair of empty texts when there is none.
+    /// The name pair at the selected position; a pair of empty texts when there is none. Where
+    /// modes share names this need not be the name pair of the selected mode.
     QPair<QString, QString> currentExclusiveGroupSelect(QString group) const;
 
     /// Application name, @p group and @p mode joined by ":". Nothing is looked up or escaped.

@@ -31,8 +31,8 @@ QString normalisedName(const QString &name)
     return name.toLower().remove(QLatin1Char('-')).remove(QLatin1Char('_'));
 }
 
-/// Whether the application is one of those that are updated as part of another one.
-bool isUpdatedElsewhere(const QString &applicationName)
+/// Whether the application is one of those that never write the update information file.
+bool isNeverRecorded(const QString &applicationName)
 {
     static const char *const names[] = { "member", "membership", "general" };
     const QString name = normalisedName(applicationName);
@@ -85,7 +85,7 @@ QString AUTH_SET::filepath_update_inf() const
 
 void AUTH_SET::write_update() const
 {
-    if (isUpdatedElsewhere(d->applicationName))
+    if (isNeverRecorded(d->applicationName))
         return;
     if (d->moduleIndex(QStringLiteral("Update")) < 0)
         return;
@@ -105,7 +105,7 @@ QString AUTH_SET::language_local() const
 
 int AUTH_SET::language_ID(QString name) const
 {
-    // Identifiers are looked for up to 49; a host may rely on none beyond being tried.
+    // Identifiers from 50 on are never tried.
     constexpr int searchEnd = 50;
     for (int id = 0; id < searchEnd; ++id) {
         if (language_local(id) == name)

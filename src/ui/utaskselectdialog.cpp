@@ -17,6 +17,7 @@
 #include <QPointer>
 #include <QScreen>
 #include <QShowEvent>
+#include <QSignalBlocker>
 #include <QStyle>
 #include <QStyleOptionComboBox>
 
@@ -70,6 +71,8 @@ public:
     void accept(const QString &modeName) const;
 
     QPointer<QEventLoop> loop;
+    /// While show() puts the window on the screen.
+    bool isOpening = false;
     QPointer<QMessageBox> messageBox;
     QButtonGroup buttons;
     Ui::UTaskSelectDialog ui;
@@ -195,7 +198,7 @@ void UTaskSelectDialog::showEvent(QShowEvent *event)
     if (!d->registry) {
         // show() opens the box itself as soon as Qt is done with the window: one that is closed or
         // deleted within this event would be put on the screen all the same.
-        if (!d->loop)
+        if (!d->isOpening)
             d->tellThatNothingIsBound();
         return;
     }
@@ -227,8 +230,12 @@ void UTaskSelectDialog::operate(int id)
     if (id == AcceptId) {
         d->accept(currentItem().first);
     } else if (id == DefaultId) {
+        const QPointer<UTaskSelectDialog> self(this);
         d->ui.comboBox->setCurrentIndex(0);
         operate(AcceptId);
+        // A host may delete the dialog as soon as it has closed.
+        if (!self)
+            return;
     }
     close();
 }
@@ -252,10 +259,15 @@ void UTaskSelectDialog::resetToProjectMode()
 
 void UTaskSelectDialog::setItems(VStringPairList list)
 {
-    d->ui.comboBox->clear();
-    d->items = list;
-    d->ui.comboBox->addItems(getSecondItems(list));
+    {
+        // Whoever listens to the combo box is not to meet it between two offers.
+        const QSignalBlocker quiet(d->ui.comboBox);
+        d->ui.comboBox->clear();
+        d->items = list;
+        d->ui.comboBox->addItems(getSecondItems(list));
+    }
     d->makeRoomForNames(screen()->availableGeometry().width());
+    Q_EMIT d->ui.comboBox->currentIndexChanged(currentItemIndex());
 }
 
 int UTaskSelectDialog::show()
@@ -271,7 +283,9 @@ int UTaskSelectDialog::show()
     QEventLoop loop;
     d->loop = &loop;
     const QPointer<UTaskSelectDialog> self(this);
+    d->isOpening = true;
     QWidget::show();
+    d->isOpening = false;
     if (!d->registry)
         d->tellThatNothingIsBound();
     // A loop that was told to quit before it runs would run for ever.

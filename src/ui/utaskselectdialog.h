@@ -74,7 +74,8 @@ public:
     QStringList getSecondItems(QVector<QPair<QString, QString>> list) const;
 
     /// Makes the mode that the registry holds as accepted last the current entry. Without a
-    /// registry it tells the user so in an information box.
+    /// registry it tells the user so in an information box. A window that comes back from being
+    /// minimised keeps the entry that the user had chosen.
     void showEvent(QShowEvent *event) override;
     /// Lets a running show() come back.
     void closeEvent(QCloseEvent *event) override;
@@ -95,8 +96,9 @@ public Q_SLOTS:
     /// Replaces the entries. The combo box shows the second members.
     void setItems(VStringPairList list);
 
-    /// Shows the window, waits until it has gone, in whatever way, and returns 0. Called while the
-    /// window is shown already, it brings the window to the front and returns 0 at once.
+    /// Shows the window, waits until it has gone, in whatever way, or the program is told to end,
+    /// and returns 0. While another dialog's show() runs on top, it waits for that one, too. Called
+    /// while the window is shown already, it brings the window to the front and returns 0 at once.
     int show();
 
 private:

@@ -88,6 +88,9 @@ check_symbols() {
     local library
     library=$(library_dir)/libkelto.so
     objdump -p "$library" | grep -q 'SONAME *libkelto\.so\.1$' || fail "the SONAME is not libkelto.so.1."
+    if objdump -p "$library" | grep -E 'R(UN)?PATH'; then
+        fail "the library looks for others in the place above."
+    fi
     local public='AUTH_INF|AUTH_SET|VDataItem|UTaskSelectDialog'
     # Templates of Qt and of the standard library come out weak and belong to nobody.
     local unexpected

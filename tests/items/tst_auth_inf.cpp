@@ -115,6 +115,16 @@ void TestAuthInf::keylistOfMode_data()
     QTest::newRow("an empty mode name is unknown") << itemWithTwoModes() << "" << QStringList();
     QTest::newRow("of equal names the first counts")
         << itemWithOneNameTwice() << "A" << QStringList { "x", "x", "y" };
+    AUTH_INF manyTranslations = itemWithTwoModes();
+    manyTranslations.inner_mode_nameList_tr = QStringList { "C", "C", "E" };
+    manyTranslations.inner_mode_parameterList.append({ entry("w") });
+    QTest::newRow("of equal translated names the first counts")
+        << manyTranslations << "C" << QStringList { "x", "x", "y" };
+    QTest::newRow("a translated name without a plain one finds its list")
+        << manyTranslations << "E" << QStringList { "w" };
+    AUTH_INF nameless = itemWithTwoModes();
+    nameless.inner_mode_nameList = QStringList { "A", "" };
+    QTest::newRow("a mode with an empty name") << nameless << "" << QStringList { "y", "z" };
     QTest::newRow("the mode of a default item has no list")
         << AUTH_INF() << "Default" << QStringList();
     QTest::newRow("a mode without an inner list") << itemWithShortLists() << "B" << QStringList();
@@ -146,6 +156,8 @@ void TestAuthInf::containsInMode_data()
                                          << "X" << false;
     QTest::newRow("modes differ by case") << itemWithTwoModes() << "c"
                                           << "z" << false;
+    QTest::newRow("a plain name wins over an equal translated one") << itemWithTwoModes() << "B"
+                                                                    << "x" << false;
     QTest::newRow("an unknown mode") << itemWithTwoModes() << "D"
                                      << "x" << false;
     QTest::newRow("a default item") << AUTH_INF() << "Default"

@@ -60,6 +60,8 @@ private Q_SLOTS:
     void numbersModulesByPosition_data();
     void numbersModulesByPosition();
     void leavesTheHostsItemsAlone();
+    void sharesItemsThatAreNumberedRightly();
+    void keepsWhatWasAccepted();
     void replacesModules();
     void appendsOneAndMany();
     void checkedAccessors_data();
@@ -157,6 +159,30 @@ void TestAuthSet::leavesTheHostsItemsAlone()
     QVector<AUTH_INF> handedOut = set.AUTH_INF_DATA();
     handedOut[0].name = "changed";
     QCOMPARE(set.name(0), QString("name 0"));
+}
+
+void TestAuthSet::sharesItemsThatAreNumberedRightly()
+{
+    QVector<AUTH_INF> items = threeModules();
+    for (int i = 0; i < items.size(); ++i)
+        items[i].number = i;
+    AUTH_SET set;
+    set.acquire(items);
+    QVERIFY(set.AUTH_INF_DATA().isSharedWith(items));
+}
+
+void TestAuthSet::keepsWhatWasAccepted()
+{
+    AUTH_SET set("App", "1.0", threeModules());
+    set.current_group = "G";
+    set.current_mode = "M";
+    set.acquire(threeModules());
+    set.append(module("3", "t", "g"));
+    set.refresh_group();
+    set.clear();
+    QCOMPARE(set.current_group, QString("G"));
+    QCOMPARE(set.current_mode, QString("M"));
+    QCOMPARE(set.stdModeNameForm("G", "M"), QString("App:G:M"));
 }
 
 void TestAuthSet::replacesModules()

@@ -27,12 +27,13 @@ AUTH_SET registry()
 /// Everything that a change could show in.
 QString state(const AUTH_SET &set)
 {
-    QString text = set.current_group + '/' + set.current_mode + '/';
+    QString text = set.current_group + '/' + set.current_mode + '/' + set.stdModeNameForm("g", "m");
     for (int i = 0; i < set.model_count(); ++i)
         text += set.name(i) + ',';
     const QStringList groups = set.exclusive_group_namelist();
     for (const QString &group : groups)
-        text += group + '=' + QString::number(set.exclusive_group_select(group)) + ',';
+        text += group + '=' + QString::number(set.exclusive_group_select(group)) + " of "
+            + QString::number(set.exclusive_group_mode_count(group)) + ',';
     const Pairs modes = set.currentModeList();
     for (const Pair &mode : modes)
         text += mode.first + '|' + mode.second + ',';

@@ -11,6 +11,7 @@
 #include <QLocale>
 #include <QSettings>
 #include <QTest>
+#include <QTextCodec>
 
 namespace {
 
@@ -51,6 +52,18 @@ QStringList messages(const QStringList &lines)
     for (const QString &line : lines)
         result.append(line.mid(QString("yyyy-MM-dd hh:mm:ss ").size()));
     return result;
+}
+
+/// The lines of today's log, in the current directory, after @p action has logged.
+template <typename Action> QStringList linesLoggedBy(const AUTH_SET &set, Action action)
+{
+    QStringList lines;
+    withinOneDay([&] {
+        QDir("log").removeRecursively();
+        action();
+        lines = logLines(set.filepath_log());
+    });
+    return lines;
 }
 
 QString currentName()
@@ -157,13 +170,12 @@ void TestAuthSetEnvironment::stampsLinesWithLocalTime()
     const QString format = "yyyy-MM-dd hh:mm:ss";
     QString before;
     QString after;
-    withinOneDay([&] {
-        QDir("log").removeRecursively();
+    const QStringList lines = linesLoggedBy(set, [&] {
         before = QDateTime::currentDateTime().toString(format);
         set.log("message");
         after = QDateTime::currentDateTime().toString(format);
     });
-    const QString line = logLines(set.filepath_log()).value(0);
+    const QString line = lines.value(0);
     const QString stamp = line.left(format.size());
     QVERIFY2(before <= stamp && stamp <= after, qPrintable(line));
     QVERIFY(QDateTime::fromString(stamp, format).isValid());
@@ -183,35 +195,38 @@ void TestAuthSetEnvironment::logsAnyText()
 {
     QFETCH(QString, text);
     const AUTH_SET set = application("App");
-    set.log(text);
-    QCOMPARE(messages(logLines(set.filepath_log())), QStringList { text });
+    // The log is UTF-8 whatever the locale says.
+    QTextCodec *codec = QTextCodec::codecForLocale();
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("ISO-8859-1"));
+    const QStringList lines = linesLoggedBy(set, [&] { set.log(text); });
+    QTextCodec::setCodecForLocale(codec);
+    QCOMPARE(messages(lines), QStringList { text });
 }
 
 void TestAuthSetEnvironment::logsWhereTheProcessIs()
 {
     const AUTH_SET set = application("App");
-    set.log("here");
-    const QString firstFile = set.filepath_log();
+    QStringList first = linesLoggedBy(set, [&] { set.log("here"); });
     QVERIFY(QDir().mkdir("other"));
     QVERIFY(QDir::setCurrent("other"));
-    set.log("there");
-    const QString secondFile = set.filepath_log();
-    QVERIFY(firstFile != secondFile);
-    QCOMPARE(messages(logLines(firstFile)), QStringList { "here" });
-    QCOMPARE(messages(logLines(secondFile)), QStringList { "there" });
+    const QStringList second = linesLoggedBy(set, [&] { set.log("there"); });
+    QCOMPARE(messages(first), QStringList { "here" });
+    QCOMPARE(messages(second), QStringList { "there" });
+    QCOMPARE(QDir("../log").entryList(QDir::Files).size(), 1);
 }
 
 void TestAuthSetEnvironment::keepsEarlierLines()
 {
     const AUTH_SET set = application("App");
-    QVERIFY(QDir().mkdir("log"));
-    QFile file(set.filepath_log());
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("2000-01-01 00:00:00 from another run\n");
-    file.close();
-    set.log("from this run");
-    QCOMPARE(messages(logLines(set.filepath_log())),
-             (QStringList { "from another run", "from this run" }));
+    const QStringList lines = linesLoggedBy(set, [&] {
+        QVERIFY(QDir().mkdir("log"));
+        QFile file(set.filepath_log());
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("2000-01-01 00:00:00 from another run\n");
+        file.close();
+        set.log("from this run");
+    });
+    QCOMPARE(messages(lines), (QStringList { "from another run", "from this run" }));
 }
 
 void TestAuthSetEnvironment::dropsWhatCannotBeLogged_data()
@@ -219,13 +234,17 @@ void TestAuthSetEnvironment::dropsWhatCannotBeLogged_data()
     QTest::addColumn<QString>("obstacle");
     QTest::newRow("a file where the directory is to be") << "log";
     QTest::newRow("a directory where the file is to be") << "log/file/";
+    QTest::newRow("a name that leads to a missing directory") << "name";
 }
 
 void TestAuthSetEnvironment::dropsWhatCannotBeLogged()
 {
-    const AUTH_SET set = application("App");
     QFETCH(QString, obstacle);
-    if (obstacle == "log") {
+    const AUTH_SET set = application(obstacle == "name" ? "a/b" : "App");
+    if (obstacle == "name") {
+        set.log("lost");
+        QCOMPARE(QDir("log").entryList(QDir::NoDotAndDotDot | QDir::AllEntries), QStringList());
+    } else if (obstacle == "log") {
         QFile file("log");
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write("not a directory");
@@ -253,6 +272,8 @@ void TestAuthSetEnvironment::recordsTheApplication_data()
         << "App" << QStringList { "update" } << false;
     QTest::newRow("only the plain name counts") << "App" << QStringList { "Upd" } << false;
     QTest::newRow("Member") << "Member" << QStringList { "Update" } << false;
+    QTest::newRow("Membership") << "Membership" << QStringList { "Update" } << false;
+    QTest::newRow("an empty name") << "" << QStringList { "Update" } << true;
     QTest::newRow("MEMBER-SHIP_") << "MEMBER-SHIP_" << QStringList { "Update" } << false;
     QTest::newRow("General") << "General" << QStringList { "Update" } << false;
     QTest::newRow("general-_") << "general-_" << QStringList { "Update" } << false;

@@ -85,7 +85,9 @@ private Q_SLOTS:
     void selectsByPosition();
     void selectsByName_data();
     void selectsByName();
-    void selectionIsPerGroup();
+    void selectingChangesNothingElse();
+    void modesOfSeveralModulesFollowEachOther();
+    void matchesTheFirstOfCrossedCodes();
     void selectionIsWrittenThroughThePointer_data();
     void selectionIsWrittenThroughThePointer();
     void selectionsAreResetByEveryRebuild_data();
@@ -340,13 +342,42 @@ void TestAuthSetGroups::selectsByName()
     QTEST(set.exclusive_group_select("G"), "expected");
 }
 
-void TestAuthSetGroups::selectionIsPerGroup()
+void TestAuthSetGroups::selectingChangesNothingElse()
 {
     AUTH_SET set = registry(
         { exclusiveModule("P", "G", { "a", "b" }), exclusiveModule("Q", "H", { "c", "d" }) });
     set.exclusive_group_set_mode("H", "d");
     QCOMPARE(set.exclusive_group_select("G"), 0);
     QCOMPARE(set.exclusive_group_select("H"), 1);
+    set.exclusive_group_set_mode("G", 1);
+    QCOMPARE(set.exclusive_group_select("G"), 1);
+    QCOMPARE(set.exclusive_group_select("H"), 1);
+    QCOMPARE(set.current_group, QString());
+    QCOMPARE(set.current_mode, QString());
+}
+
+void TestAuthSetGroups::modesOfSeveralModulesFollowEachOther()
+{
+    const AUTH_SET set = withSharedNames();
+    QCOMPARE(set.exclusive_group_mode_count("G"), 5);
+    QStringList modules;
+    for (int i = 0; i < 5; ++i)
+        modules.append(set.exclusive_group_orginal_model("G", i));
+    QCOMPARE(modules, (QStringList { "P", "P", "Q", "Q", "Q" }));
+}
+
+void TestAuthSetGroups::matchesTheFirstOfCrossedCodes()
+{
+    // "App:B:b" is the translated name of one mode and the plain name of the other.
+    AUTH_INF first = exclusiveModule("P", "A", { "a" });
+    first.group_tr = "B";
+    first.inner_mode_nameList_tr = QStringList { "b" };
+    AUTH_INF second = exclusiveModule("Q", "B", { "b" });
+    second.group_tr = "C";
+    const AUTH_SET set = registry({ first, second });
+    QCOMPARE(set.currentModeMatching({ "App:B:b" }), QStringList { "App:A:a" });
+    const AUTH_SET turned = registry({ second, first });
+    QCOMPARE(turned.currentModeMatching({ "App:B:b" }), QStringList { "App:B:b" });
 }
 
 void TestAuthSetGroups::selectionIsWrittenThroughThePointer_data()

@@ -302,7 +302,7 @@ private:
 
 Q_DECLARE_METATYPE(Flavour)
 
-class AUTH_SETReferenceTest : public QObject
+class TestAuthSetReference : public QObject
 {
     Q_OBJECT
 
@@ -315,12 +315,12 @@ private:
     TemporaryCurrentDirectory m_directory;
 };
 
-void AUTH_SETReferenceTest::initTestCase()
+void TestAuthSetReference::initTestCase()
 {
     QVERIFY(m_directory.isUsable());
 }
 
-void AUTH_SETReferenceTest::answersAsPlainScansDo_data()
+void TestAuthSetReference::answersAsPlainScansDo_data()
 {
     const auto list = [](const char *names) {
         return QString::fromUtf8(names).split(QLatin1Char(' '), Qt::KeepEmptyParts);
@@ -349,7 +349,7 @@ void AUTH_SETReferenceTest::answersAsPlainScansDo_data()
         << Flavour { list("A B"), list("a B"), 60, 50, QStringLiteral("A:B") };
 }
 
-void AUTH_SETReferenceTest::answersAsPlainScansDo()
+void TestAuthSetReference::answersAsPlainScansDo()
 {
     QFETCH(Flavour, flavour);
 
@@ -359,6 +359,6 @@ void AUTH_SETReferenceTest::answersAsPlainScansDo()
     }
 }
 
-QTEST_GUILESS_MAIN(AUTH_SETReferenceTest)
+QTEST_GUILESS_MAIN(TestAuthSetReference)
 
 #include "tst_auth_set_reference.moc"

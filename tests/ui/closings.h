@@ -47,6 +47,21 @@ inline void addClosingsByHost()
     });
 }
 
+/// Deletes the widget that it watches, and itself with it, when that is about to close.
+class DeletesWhatCloses : public QObject
+{
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() != QEvent::Close)
+            return false;
+        delete watched;
+        return true;
+    }
+};
+
 /// Ways in which a dialog on the heap can be deleted.
 inline void addDeletions()
 {
@@ -63,6 +78,14 @@ inline void addDeletions()
     addClosing("Cancel of one that deletes itself", [](auto *dialog) {
         dialog->setAttribute(Qt::WA_DeleteOnClose);
         dialog->operate(1);
+    });
+    addClosing("Default of one that deletes itself", [](auto *dialog) {
+        dialog->setAttribute(Qt::WA_DeleteOnClose);
+        dialog->operate(2);
+    });
+    addClosing("Default of one that is deleted while it closes", [](auto *dialog) {
+        dialog->installEventFilter(new DeletesWhatCloses(dialog));
+        dialog->operate(2);
     });
     addClosing("reject() of one that deletes itself", [](auto *dialog) {
         dialog->setAttribute(Qt::WA_DeleteOnClose);

@@ -11,6 +11,8 @@ using Reset = std::function<void(UTaskSelectDialog &)>;
 Q_DECLARE_METATYPE(Reset)
 Q_DECLARE_METATYPE(AUTH_SET)
 
+#include <utility>
+
 namespace {
 
 /// A registry in which the plain name of the first group is the translated one of the second.
@@ -50,6 +52,7 @@ private Q_SLOTS:
     void unbindsAndEmpties();
     void replacesItems_data();
     void replacesItems();
+    void survivesAListenerThatNarrowsTheOffer();
     void narrowsToAGroup_data();
     void narrowsToAGroup();
     void narrowsAnewEachTime();
@@ -150,6 +153,21 @@ void TestTaskSelectDialog::replacesItems()
     QTEST(dialog.currentItem(), "current");
     QCOMPARE(dialog.currentItemIndex(), items.isEmpty() ? -1 : 0);
     QCOMPARE(dialog.availableModeItems(), allModes());
+}
+
+void TestTaskSelectDialog::survivesAListenerThatNarrowsTheOffer()
+{
+    AUTH_SET set = twoGroups();
+    UTaskSelectDialog dialog;
+    bool isNarrowed = false;
+    connect(comboBox(dialog), QOverload<int>::of(&QComboBox::currentIndexChanged), &dialog, [&] {
+        if (!std::exchange(isNarrowed, true))
+            dialog.resetToExclusiveGroup("H");
+    });
+    dialog.set(&set);
+    QCOMPARE(isNarrowed, true);
+    QCOMPARE(shownTexts(dialog), QStringList { mode("H", "k").second });
+    QCOMPARE(dialog.currentItem(), mode("H", "k"));
 }
 
 void TestTaskSelectDialog::narrowsToAGroup_data()
