@@ -7,7 +7,11 @@
 #include "auth_inf.h"
 #include "auth_set.h"
 #include "kelto_version.h"
+#include "keltoitemparametertransform.h"
+#include "keltoitemparameterverify.h"
 #include "utaskselectdialog.h"
 #include "vdataitem.h"
+#include "vinisettings.h"
+#include "vparameter.h"
 
 #endif

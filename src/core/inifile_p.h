@@ -4,15 +4,25 @@
 #ifndef INIFILE_P_H
 #define INIFILE_P_H
 
-#include <QSettings>
+#include "core/keyvaluelist_p.h"
+
 #include <QString>
 
-/// An INI file opened for reading and writing in UTF-8. Every INI file of the library is opened
-/// through this, so that no file is ever read in one encoding and written in another.
-class IniFile : public QSettings
-{
-public:
-    explicit IniFile(const QString &path);
-};
+/// Makes an empty file at @p path where there is none, and tells whether there is one now, or a
+/// directory.
+bool ensureFile(const QString &path);
+
+/// All keys and values of the INI file at @p path, in the order of QSettings::allKeys(); none when
+/// it cannot be read.
+KeyValues readIniFile(const QString &path);
+
+/**
+ * Writes @p entries into the INI file at @p path, in order, and keeps its other keys. Missing
+ * directories are made. Values that cannot be stored, pointers for example, are left out.
+ *
+ * A file of which something would be lost in that is copied to @p path with the ending ".bak"
+ * first, and left alone if that fails. An earlier copy stays: the next ends in ".bak2".
+ */
+void writeIniFile(const QString &path, const KeyValues &entries);
 
 #endif

@@ -79,6 +79,66 @@ public:
 
     /// The plain names of the inner modes that have a parameter with the key @p key, in mode order.
     QStringList parameter_belonglist(QString key) const;
+
+    /** @name INI file (auth_inf_ini.cpp)
+     *
+     * An item as an INI file in UTF-8, see VIniSettings. The section "KeltoItem" holds the item's
+     * own fields, "Attribute" the keys of its parameters, "Result" the keys of its results and
+     * "ExtraKey" its extra keys. Under the key of a parameter or a result, "Unit", "Symbol",
+     * "Multi", "ObjectName" and "Group" hold the rest of its entry, and "Belong" the names of the
+     * inner modes that have the parameter. No operation reports an error.
+     */
+    ///@{
+
+    /**
+     * Replaces every field by what the INI file at @p path holds.
+     *
+     * What the file does not hold becomes empty, 0 or false, all of it for a file that cannot be
+     * read; a missing file is created empty. Translated fields and the translated strings of the
+     * entries become copies of the plain ones. There is one list of parameters for each name of an
+     * inner mode.
+     *
+     * Parameters, results and extra keys come in the order of VIniSettings::allKeys(). Of a key
+     * that holds a "/" only its last part comes back, with what the file holds under that.
+     *
+     * As many results are read as "KeltoItem/output_results" lists elements, whatever these are.
+     * save_ini() never writes that key: results come back when it was added to the file.
+     */
+    void load_ini(QString path);
+
+    /**
+     * Writes the item into the INI file at @p path, which is created where it is missing.
+     *
+     * Other keys of the file stay, so that parameters and extra keys of an earlier item come back
+     * with this one. A parameter of several inner modes is described by its first entry; one with
+     * the key of a result replaces the description of the result. A result is left out unless its
+     * entry has nine strings. Translated fields are not written.
+     */
+    void save_ini(QString path) const;
+
+    ///@}
+    /** @name Source text (auth_inf_code.cpp) */
+    ///@{
+
+    /**
+     * Source text that declares the KeltoItem @p variable and fills its fields one by one, to be
+     * pasted into a host's sources.
+     *
+     * Translated fields are written as calls of the function tr() of the class @p context, made
+     * from the plain ones; descriptions are translated as well. Parameters and results are
+     * written only when the type is exactly "calculation", and then as many inner modes as
+     * inner_mode_count says, at most 1,000,000. An extra key whose value reads as a number is
+     * written as that number.
+     *
+     * Nothing is escaped: a text with a double quote, a backslash or a line break does not compile
+     * as it was meant.
+     */
+    QString to_code(QString context, QString variable) const;
+
+    /// The same for the variable "inf" and the context trObjectName, or "UCal" where that is empty.
+    QString to_code() const;
+
+    ///@}
 };
 
 Q_DECLARE_TYPEINFO(AUTH_INF, Q_MOVABLE_TYPE);

@@ -88,10 +88,11 @@ QString AUTH_SETPrivate::text(int index, QString AUTH_INF::*field) const
 AUTH_SET::AUTH_SET()
     : d(std::make_unique<AUTH_SETPrivate>())
 {
+    d->loadSetValues();
 }
 
 AUTH_SET::AUTH_SET(QString name, QString version, QVector<AUTH_INF> modules)
-    : AUTH_SET()
+    : d(std::make_unique<AUTH_SETPrivate>())
 {
     if (modules.isEmpty()) {
         log(QStringLiteral("Kelto的模块录入不能为空"));
@@ -101,6 +102,7 @@ AUTH_SET::AUTH_SET(QString name, QString version, QVector<AUTH_INF> modules)
     d->applicationVersion = version;
     acquire(modules);
     write_update();
+    d->loadSetValues();
 }
 
 AUTH_SET::AUTH_SET(const AUTH_SET &other)

@@ -6,10 +6,12 @@
 
 #include "auth_inf.h"
 #include "kelto_export.h"
+#include "vparameter.h"
 
 #include <QPair>
 #include <QString>
 #include <QStringList>
+#include <QVariant>
 #include <QVector>
 
 #include <memory>
@@ -44,7 +46,10 @@ class AUTH_SETPrivate;
  * Contents (topic: source file):
  * - Modules: auth_set.cpp
  * - Exclusive groups and modes: auth_set_groups.cpp
+ * - Default parameters and results: auth_set_defaults.cpp
+ * - Stored values: auth_set_values.cpp
  * - Log, paths and language: auth_set_environment.cpp
+ * - Source text of modules: auth_set_code.cpp
  */
 class KELTO_EXPORT AUTH_SET
 {
@@ -58,15 +63,17 @@ public:
     /** @name Modules (auth_set.cpp) */
     ///@{
 
-    /// An empty registry of an application without a name.
+    /// An empty registry of an application without a name, with the set values that the
+    /// configuration file of such an application holds.
     AUTH_SET();
 
     /**
      * The registry of the application @p name in the version @p version.
      *
-     * Writes the update information file as write_update() describes. Without any module the
-     * registry stays empty and forgets name and version, and a message is written to the log, which
-     * is that of an application without a name.
+     * Writes the update information file as write_update() describes, and reads the set values from
+     * the configuration file. Without any module the registry stays empty, forgets name and version
+     * and reads nothing, and a message is written to the log, which is that of an application
+     * without a name.
      */
     AUTH_SET(QString name, QString version, QVector<AUTH_INF> modules);
 
@@ -220,6 +227,127 @@ public:
     int currentModeMatchingCount(QStringList codes) const;
 
     ///@}
+    /** @name Default parameters and results (auth_set_defaults.cpp)
+     *
+     * Every list comes back sorted by plain name, capital letters first. Where several parameters
+     * of a list have one plain name, all their places hold copies of the one that came first.
+     * "Equal" is VParameter::isEqual(). A **sub-group** is the group of a parameter; it matches in
+     * either form. An entry of a module item that is not nine texts long gives an empty parameter.
+     * Lists that are passed by pointer are only read; a null pointer stands for an empty list.
+     */
+    ///@{
+
+    /// The parameters of the mode at the position of the first name pair of @p exclusiveGroup with
+    /// @p mode as either member; doubles are kept. Empty for an unknown group or mode.
+    QVector<VParameter> defaultParameterList(QString exclusiveGroup, QString mode) const;
+
+    /// The parameters of all modes of @p exclusiveGroup, equal ones once. Modes behind the last
+    /// name pair have no name and add nothing.
+    QVector<VParameter> defaultParameterList(QString exclusiveGroup) const;
+
+    /// The parameters of all exclusive groups, merged in their order as mergingList() does.
+    QVector<VParameter> defaultParameterList() const;
+
+    /// Those of defaultParameterList() in the sub-group @p subGroup.
+    QVector<VParameter> defaultParameterListBySubGroup(QString subGroup) const;
+
+    /// The parameters of all modes of @p exclusiveGroup in the sub-group @p subGroup, equal ones
+    /// once.
+    QVector<VParameter> defaultParameterListInSubGroup(QString exclusiveGroup,
+                                                       QString subGroup) const;
+
+    /// The results of @p item, doubles kept; empty for a null pointer.
+    QVector<VParameter> defaultResultList(const AUTH_INF *item) const;
+
+    /// The results of the modules of @p exclusiveGroup, merged in their order as mergingList()
+    /// does. Modules without the flag count for the modes of the group, and not here.
+    QVector<VParameter> defaultResultList(QString exclusiveGroup) const;
+
+    /// The results of all exclusive groups, merged in their order as mergingList() does.
+    QVector<VParameter> defaultResultList() const;
+
+    /// The parameters of @p first and then @p second, equal ones once, also inside of one list.
+    QVector<VParameter> mergingList(const QVector<VParameter> *first,
+                                    const QVector<VParameter> *second) const;
+
+    /// The parameters of @p first that are equal to one of @p second; doubles in @p first are kept.
+    QVector<VParameter> sharingList(const QVector<VParameter> *first,
+                                    const QVector<VParameter> *second) const;
+
+    /// The distinct sub-groups, as pairs of plain and translated name, of the parameters of all
+    /// exclusive groups, of one, or of one mode, which may be named in either form. Sorted by plain
+    /// name, with equal plain names as in the lists of parameters.
+    QVector<QPair<QString, QString>> defaultParameterSubGroupList() const;
+    QVector<QPair<QString, QString>> defaultParameterSubGroupList(QString exclusiveGroup) const;
+    QVector<QPair<QString, QString>> defaultParameterSubGroupList(QString exclusiveGroup,
+                                                                  QString mode) const;
+
+    /// Whether @p list has a parameter equal to @p p.
+    bool isParameterContains(const QVector<VParameter> *list, const VParameter *p) const;
+
+    /// Index of the first parameter of @p list equal to @p p; -1 when there is none.
+    int indexParameterInList(const QVector<VParameter> *list, const VParameter *p) const;
+
+    ///@}
+    /** @name Stored values (auth_set_values.cpp)
+     *
+     * Four stores of values by key. The **set values** are the settings of the application; they
+     * are read at construction from its configuration file, "Config/<application name>_config.ini"
+     * below the current directory of the process, and written there by setValueInSet(). The
+     * **calculation values**, the **group values** and the **temporary values** live as long as the
+     * registry.
+     *
+     * Keys are compared exactly, and the first entry of a key counts. Operations with the suffix
+     * `_p` hand out the registry's own storage for writing, which is valid until that store is
+     * changed. Where the key (or the group) is not there they give the first value (or list) of the
+     * store they searched, so ask for keys that may be missing without `_p`; in an empty store they
+     * give a place of the registry's own whose content is of no consequence.
+     */
+    ///@{
+
+    /// The set value of @p key; invalid when there is none.
+    QVariant value_set(QString key) const;
+    /// The calculation value of @p key; invalid when there is none.
+    QVariant value_cal(QString key) const;
+    /// A copy of the list of the group @p group; empty when there is none.
+    QVector<QPair<QString, QVariant>> value_group(QString group) const;
+    /// The value of @p key in the group @p group; invalid when there is none.
+    QVariant value_group_at(QString group, QString key) const;
+
+    QVariant *value_set_p(QString key);
+    QVariant *value_cal_p(QString key);
+    QVector<QPair<QString, QVariant>> *value_group_p(QString group);
+    /// Searches the list that value_group_p() gives for @p group.
+    QVariant *value_group_at_p(QString group, QString key);
+
+    /// Makes @p values the list of the group @p group.
+    void setDefaultSettings(QString group, QVector<QPair<QString, QVariant>> values);
+
+    /// Sets one set value and writes all of them to the configuration file, whose directory is made
+    /// where it is missing. Other keys of the file stay.
+    void setValueInSet(QString key, QVariant value);
+
+    /// Takes over the parameters of a calculation: for each key of the group "Attribute" in @p
+    /// data, "Attribute/" and "Unit/" with the last part of the key, each with its value in @p
+    /// data. A missing unit is stored as an invalid value. Changes nothing without that group.
+    void getCalculationLData(QVector<QPair<QString, QVariant>> data);
+
+    /// Gives the first temporary value of @p key the value @p value, or appends both.
+    void set_temp(QString key, QVariant value);
+    /// The temporary value of @p key; invalid when there is none.
+    QVariant value_temp(QString key) const;
+    /// Removes the first temporary value of @p key.
+    void delete_temp(QString key);
+
+    /// Writes @p values into the INI file @p path, in order, and keeps its other keys; always true.
+    /// Missing directories are made. A file of which something would be lost is copied first, as by
+    /// VIniSettings::saveLocal().
+    bool save(QString path, const QVector<QPair<QString, QVariant>> *values) const;
+    /// Sets every key of the INI file @p path in @p values: the first entry of the key gets the
+    /// value, or both are appended. A file that cannot be read has no keys. Always true.
+    bool load(QString path, QVector<QPair<QString, QVariant>> *values) const;
+
+    ///@}
     /** @name Log, paths and language (auth_set_environment.cpp)
      *
      * All paths are absolute and start at the current directory of the process, whatever that is
@@ -257,6 +385,18 @@ public:
 
     /// The identifier whose locale name is @p name: 1 for "zh_CN", 0 for every other text.
     int language_ID(QString name) const;
+
+    ///@}
+    /** @name Source text of modules (auth_set_code.cpp) */
+    ///@{
+
+    /// The source text of one module item per INI file of @p files, in order: what
+    /// AUTH_INF::to_code() gives for what AUTH_INF::load_ini() reads. A file that is missing is
+    /// created empty. The modules of the registry play no part.
+    QStringList generate_AUTH_INF_to_code(QStringList files) const;
+
+    /// AUTH_INF::to_code() of every module, in registry order.
+    QStringList AUTH_INF_list_to_code() const;
 
     ///@}
 

@@ -42,7 +42,7 @@ bool isNeverRecorded(const QString &applicationName)
 
 void writeIniValue(const QString &path, const QString &key, const QString &value)
 {
-    IniFile(path).setValue(key, value);
+    writeIniFile(path, { { key, value } });
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 
 #include "auth_set.h"
 
+#include "items/innermodelimit_p.h"
 #include "registry/auth_set_p.h"
 #include "registry/standardmodename_p.h"
 
@@ -131,13 +132,12 @@ int AUTH_SET::exclusive_group_innerMode_index(QString group, QString mode) const
 
 QVector<QPair<int, QString>> AUTH_SET::exclusive_group_mode_description(QString group) const
 {
-    constexpr int longestList = 1000000;
     QVector<QPair<int, QString>> descriptions;
     const int index = d->groupIndex(group);
     if (index < 0)
         return descriptions;
-    descriptions.reserve(qMin(longestList, d->groups.at(index).modeCount()));
-    d->groups.at(index).visitModes(longestList, [&](ModeOrigin mode) {
+    descriptions.reserve(qMin(mostInnerModes, d->groups.at(index).modeCount()));
+    d->groups.at(index).visitModes(mostInnerModes, [&](ModeOrigin mode) {
         const AUTH_INF &module = d->modules.at(mode.moduleIndex);
         descriptions.append(
             { mode.moduleIndex, module.inner_mode_description.value(mode.innerMode) });

@@ -7,6 +7,7 @@
 #include "auth_inf.h"
 #include "core/firstpositions_p.h"
 #include "registry/exclusivegroups_p.h"
+#include "registry/storedvalues_p.h"
 
 #include <QString>
 #include <QVector>
@@ -44,10 +45,14 @@ public:
     void select(int group, int position);
     QVector<QStringList> parameterEntries(int group, int position) const;
 
+    /// Adds what the configuration file of the application holds to the set values.
+    void loadSetValues();
+
     QString applicationName;
     QString applicationVersion;
     QVector<AUTH_INF> modules;
     ExclusiveGroups groups;
+    StoredValues values;
     /// False from clear() on until the next rebuild: the groups then outlive their modules.
     bool groupsMatchModules = true;
 

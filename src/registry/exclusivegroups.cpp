@@ -77,7 +77,9 @@ void ExclusiveGroup::gatherNames(const QVector<AUTH_INF> &modules) const
 void ExclusiveGroups::addModule(int moduleIndex, const AUTH_INF &module)
 {
     if (module.exclusive_group) {
-        ensureGroup(module.group).addModule(moduleIndex, module.inner_mode_count);
+        ExclusiveGroup &group = ensureGroup(module.group);
+        group.addModule(moduleIndex, module.inner_mode_count);
+        group.addFlaggedModule(moduleIndex);
         if (!m_translatedNamePositions.contains(module.group_tr)) {
             m_translatedNamePositions.append(module.group_tr);
             m_translatedNames.append(module.group_tr);

@@ -43,8 +43,14 @@ public:
     /// Adds the modes of a module behind those that are there; a count below 1 adds none.
     void addModule(int moduleIndex, int innerModeCount);
 
+    /// Notes that a module carries the flag that makes its group an exclusive one.
+    void addFlaggedModule(int moduleIndex) { m_flaggedModules.push_back(moduleIndex); }
+
     /// Drops modes and name pairs; the name and the selection stay.
     void dropModes();
+
+    /// The modules that carry the flag, in registry order; also those without any mode.
+    const std::vector<int> &flaggedModules() const { return m_flaggedModules; }
 
     int modeCount() const { return m_modeCount; }
     bool hasMode(int position) const { return position >= 0 && position < m_modeCount; }
@@ -85,6 +91,7 @@ private:
     void gatherNames(const QVector<AUTH_INF> &modules) const;
 
     std::vector<ModuleModes> m_modules;
+    std::vector<int> m_flaggedModules;
     int m_modeCount = 0;
 
     mutable std::size_t m_gatheredModules = 0;

@@ -91,7 +91,7 @@ check_symbols() {
     if objdump -p "$library" | grep -E 'R(UN)?PATH'; then
         fail "the library looks for others in the place above."
     fi
-    local public='AUTH_INF|AUTH_SET|VDataItem|UTaskSelectDialog'
+    local public='AUTH_INF|AUTH_SET|KeltoItemParameterTransform|KeltoItemParameterVerify|VDataItem|VIniSettings|VParameter|UTaskSelectDialog'
     # Templates of Qt and of the standard library come out weak and belong to nobody.
     local unexpected
     unexpected=$(nm --dynamic --defined-only --demangle "$library" |
@@ -105,8 +105,10 @@ check_symbols() {
 }
 
 check_headers() {
-    local expected='AUTH_INF AUTH_SET Kelto UTaskSelectDialog VDataItem auth_inf.h auth_set.h kelto.h
-        kelto_export.h kelto_version.h utaskselectdialog.h vdataitem.h'
+    local expected='AUTH_INF AUTH_SET Kelto KeltoItemParameterTransform KeltoItemParameterVerify
+        UTaskSelectDialog VDataItem VIniSettings VParameter auth_inf.h auth_set.h kelto.h
+        kelto_export.h kelto_version.h keltoitemparametertransform.h keltoitemparameterverify.h
+        utaskselectdialog.h vdataitem.h vinisettings.h vparameter.h'
     diff <(xargs -n 1 <<<"$expected") <(ls "$prefix/include/Kelto") ||
         fail "the installed headers differ from those that are public (left: expected)."
 }

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: The Kelto developers
 // SPDX-License-Identifier: MIT
 
+#include "support/randomitems.h"
+
 #include <Kelto/AUTH_INF>
 
 #include <QTest>
@@ -67,6 +69,8 @@ private Q_SLOTS:
     void containsInAnyMode();
     void belonglist_data();
     void belonglist();
+    void randomItems_data();
+    void randomItems();
     void copiesAreIndependent();
     void isKnownUnderBothNames();
     void dataItem();
@@ -218,6 +222,11 @@ void TestAuthInf::belonglist_data()
     QTest::newRow("a mode without an inner list is left out")
         << itemWithShortLists() << "y" << QStringList { "A" };
     QTest::newRow("a default item") << AUTH_INF() << "x" << QStringList();
+    QTest::newRow("a name given twice hides the second list")
+        << itemWithOneNameTwice() << "z" << QStringList();
+    QTest::newRow("keys differ by case") << itemWithTwoModes() << "Y" << QStringList();
+    QTest::newRow("short entries have an empty key")
+        << itemWithShortEntries() << "" << QStringList { "A" };
 }
 
 void TestAuthInf::belonglist()
@@ -225,6 +234,41 @@ void TestAuthInf::belonglist()
     QFETCH(AUTH_INF, item);
     QFETCH(QString, key);
     QTEST(item.parameter_belonglist(key), "expected");
+}
+
+void TestAuthInf::randomItems_data()
+{
+    QTest::addColumn<unsigned>("seed");
+
+    for (unsigned seed = 1; seed <= 200; ++seed)
+        QTest::addRow("seed %u", seed) << seed;
+}
+
+/// Many modes and keys that are often equal, compared with the same questions asked mode by mode.
+void TestAuthInf::randomItems()
+{
+    QFETCH(unsigned, seed);
+    Dice dice(seed);
+    const QStringList names { "A", "B", "C", "D" };
+    const QStringList keys { "x", "y", "z", "" };
+    AUTH_INF item;
+    item.inner_mode_nameList = dice.someOf(names, dice.between(0, 6));
+    item.inner_mode_nameList_tr = dice.someOf(names, dice.between(0, 6));
+    for (int mode = dice.between(0, 6); mode > 0; --mode) {
+        item.inner_mode_parameterList.append(QVector<QStringList>());
+        for (int i = dice.between(0, 2); i > 0; --i)
+            item.inner_mode_parameterList.last().append(entry(dice.oneOf(keys)));
+    }
+
+    for (const QString &key : keys) {
+        QStringList modes;
+        for (const QString &mode : qAsConst(item.inner_mode_nameList)) {
+            if (item.inner_mode_keylist_of(mode).contains(key))
+                modes.append(mode);
+        }
+        QCOMPARE(item.parameter_belonglist(key), modes);
+        QCOMPARE(item.inner_mode_contains(key), !modes.isEmpty());
+    }
 }
 
 void TestAuthInf::copiesAreIndependent()

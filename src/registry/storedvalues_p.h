@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: The Kelto developers
+// SPDX-License-Identifier: MIT
+
+#ifndef STOREDVALUES_P_H
+#define STOREDVALUES_P_H
+
+#include "core/firstpositions_p.h"
+#include "core/keyvaluelist_p.h"
+
+#include <vector>
+
+/// What a registry remembers for its host, by key.
+struct StoredValues
+{
+    KeyValueList set;
+    KeyValueList calculation;
+    KeyValueList temporary;
+
+    /// Lists of values by the name of their group; entry i of one belongs to entry i of the other.
+    FirstPositions groupNames;
+    std::vector<KeyValueList> groups;
+
+    /// What is handed out for writing where there is nothing to hand out.
+    QVariant noValue;
+    KeyValues noValues;
+};
+
+#endif
