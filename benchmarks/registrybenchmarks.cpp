@@ -79,10 +79,10 @@ Operation(const char *, BaselineLimits, Run, Answer, Expected) -> Operation<Run,
 template <typename Registry, typename Run>
 Step stepOn(std::shared_ptr<Registry> registry, const RegistryInput &input, Run run)
 {
-    return [registry, &input, run] {
+    return { [registry, &input, run] {
         auto result = run(*registry, input);
         benchmark::DoNotOptimize(result);
-    };
+    } };
 }
 
 template <typename AnyOperation>

@@ -13,14 +13,9 @@
 
 namespace {
 
-const std::vector<int> &sizes()
-{
-    static const std::vector<int> all { 10, 100, 1000, 10000 };
-    return all;
-}
-
-/// In a quick run slow baselines are left out: they would be most of it.
+/// In a quick run slow baselines and large inputs are left out: they would be most of it.
 constexpr int largestQuickBaseline = 100;
+constexpr int largestQuickSize = 10000;
 
 constexpr int repetitions = 3;
 constexpr double secondsPerRepetition = 0.05;
@@ -32,21 +27,32 @@ struct ReadyStep
     CheckedStep checked;
 };
 
+void measure(benchmark::State &state, const Step &step)
+{
+    for (auto _ : state) {
+        if (step.reset) {
+            state.PauseTiming();
+            step.reset();
+            state.ResumeTiming();
+        }
+        step.run();
+    }
+}
+
 template <typename Prepare>
 void registerStep(const std::string &name, int size, bool quick, Prepare prepare,
                   std::shared_ptr<ReadyStep> ready)
 {
-    const auto measure = [=](benchmark::State &state) {
+    const auto prepareAndMeasure = [=](benchmark::State &state) {
         if (ready->size != size)
             *ready = { size, prepare(size) };
         if (!ready->checked.fault.empty()) {
             state.SkipWithError(ready->checked.fault.c_str());
             return;
         }
-        for (auto _ : state)
-            ready->checked.step();
+        measure(state, ready->checked.step);
     };
-    auto *registered = benchmark::RegisterBenchmark(name.c_str(), measure)->Arg(size);
+    auto *registered = benchmark::RegisterBenchmark(name.c_str(), prepareAndMeasure)->Arg(size);
     if (quick)
         registered->Iterations(1);
     else
@@ -68,7 +74,8 @@ public:
         for (const Comparison &comparison : comparisons) {
             for (Runner runner : { Runner::Library, Runner::Baseline })
                 m_places[stepName(comparison, runner)] = { m_rows.size(), runner };
-            m_rows.emplace_back(comparison.operation, comparison.shape);
+            m_rows.emplace_back(comparison.operation, comparison.shape, comparison.sizes,
+                                comparison.limit);
         }
     }
 
@@ -126,7 +133,9 @@ void registerComparison(const Comparison &comparison, bool quick)
     };
     const auto libraryStep = std::make_shared<ReadyStep>();
     const auto baselineStep = std::make_shared<ReadyStep>();
-    for (int size : sizes()) {
+    for (int size : comparison.sizes) {
+        if (quick && size > largestQuickSize)
+            continue;
         registerStep(stepName(comparison, Runner::Library), size, quick, library, libraryStep);
         if (size <= largestBaseline) {
             registerStep(stepName(comparison, Runner::Baseline), size, quick, baseline,
@@ -158,11 +167,11 @@ int Suite::run(int argc, char **argv)
         registerComparison(comparison, quick);
     Collector collector(m_comparisons);
     const std::size_t count = benchmark::RunSpecifiedBenchmarks(&collector);
-    printTable(std::cout, collector.rows(), sizes());
+    printTables(std::cout, collector.rows());
     if (quick)
         std::cout << "\nEach step ran once: the answers count here, the times do not.\n";
     else
-        printFindings(std::cout, collector.rows(), sizes());
+        printFindings(std::cout, collector.rows());
     std::cout << '\n' << count << " steps run, " << collector.faults() << " wrong answers\n";
     return count == 0 || collector.faults() > 0 ? 1 : 0;
 }

@@ -11,8 +11,13 @@
 #include <utility>
 #include <vector>
 
-/// One run of what is measured, on an input that was made before.
-using Step = std::function<void()>;
+/// What is measured, on an input that was made before.
+struct Step
+{
+    std::function<void()> run;
+    /// What has to be done before every run and is not measured, if anything.
+    std::function<void()> reset = nullptr;
+};
 
 /// The library's step, made ready and checked.
 struct CheckedStep
@@ -28,13 +33,15 @@ struct Comparison
 {
     std::string operation;
     std::string shape;
-    /// Above this size one run of the baseline takes more than about two seconds.
+    /// Above this size one run of the baseline takes more than about two seconds; 0 without one.
     int largestBaseline;
     /// Makes ready the library's step for an input of @p size and checks its answer, also against
     /// the baseline's where that is asked for.
     std::function<CheckedStep(int size, bool compareWithBaseline)> library;
     /// Makes ready the baseline's step for an input of @p size.
     std::function<Step(int size)> baseline;
+    std::vector<int> sizes = { 10, 100, 1000, 10000 };
+    Limit limit = {};
 };
 
 /// All comparisons, run and printed as one table.
@@ -47,7 +54,7 @@ public:
      * Measures and prints.
      *
      * Takes the flags of Google Benchmark and `--quick`, which runs each step once and leaves out
-     * slow baselines: what then counts are the answers and not the times.
+     * slow baselines and large inputs: what then counts are the answers and not the times.
      *
      * @return the exit code: 1 when an answer was wrong or nothing was run, 2 for an unknown flag.
      */

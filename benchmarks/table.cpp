@@ -41,9 +41,9 @@ void printLine(std::ostream &out, const std::string &shape, const std::string &r
 }
 
 /// The times at all sizes, then their growth from each size to the next.
-std::vector<std::string> timeCells(const TableRow &row, Runner runner,
-                                   const std::vector<int> &sizes)
+std::vector<std::string> timeCells(const TableRow &row, Runner runner)
 {
+    const std::vector<int> &sizes = row.sizes();
     std::vector<std::string> cells;
     for (int size : sizes) {
         const auto time = row.time(runner, size);
@@ -56,21 +56,23 @@ std::vector<std::string> timeCells(const TableRow &row, Runner runner,
     return cells;
 }
 
-std::vector<std::string> ratioCells(const TableRow &row, const std::vector<int> &sizes)
+std::vector<std::string> ratioCells(const TableRow &row)
 {
     std::vector<std::string> cells;
-    for (int size : sizes) {
+    for (int size : row.sizes()) {
         const auto ratio = row.ratio(size);
         cells.push_back(ratio ? ratioText(*ratio) : "-");
     }
     return cells;
 }
 
-void printRow(std::ostream &out, const TableRow &row, const std::vector<int> &sizes)
+void printRow(std::ostream &out, const TableRow &row)
 {
-    printLine(out, row.shape(), "Kelto", timeCells(row, Runner::Library, sizes));
-    printLine(out, "", "baseline", timeCells(row, Runner::Baseline, sizes));
-    printLine(out, "", "ratio", ratioCells(row, sizes));
+    printLine(out, row.shape(), "Kelto", timeCells(row, Runner::Library));
+    if (!row.time(Runner::Baseline, row.sizes().front()))
+        return;
+    printLine(out, "", "baseline", timeCells(row, Runner::Baseline));
+    printLine(out, "", "ratio", ratioCells(row));
 }
 
 std::string rowName(const TableRow &row)
@@ -84,40 +86,47 @@ double linearithmicGrowth(int from, int to)
     return 1 + std::log(std::log(to) / std::log(from)) / std::log(double(to) / from);
 }
 
-std::vector<std::string> rowsGrowingFast(const std::vector<TableRow> &rows,
-                                         const std::vector<int> &sizes)
+std::vector<std::string> growingFast(const TableRow &row)
 {
+    const std::vector<int> &sizes = row.sizes();
     std::vector<std::string> names;
-    for (const TableRow &row : rows) {
-        for (std::size_t i = 1; i < sizes.size(); ++i) {
-            const double allowed = linearithmicGrowth(sizes[i - 1], sizes[i]);
-            const double growth = row.growth(Runner::Library, sizes[i - 1], sizes[i]).value_or(0);
-            if (growth > allowed) {
-                names.push_back(rowName(row) + ", " + std::to_string(sizes[i - 1]) + " to "
-                                + std::to_string(sizes[i]) + ": " + fixedText(growth, 2)
-                                + ", n log n is " + fixedText(allowed, 2));
-            }
+    for (std::size_t i = 1; i < sizes.size(); ++i) {
+        const double allowed = linearithmicGrowth(sizes[i - 1], sizes[i]);
+        const double growth = row.growth(Runner::Library, sizes[i - 1], sizes[i]).value_or(0);
+        if (growth > allowed) {
+            names.push_back(rowName(row) + ", " + std::to_string(sizes[i - 1]) + " to "
+                            + std::to_string(sizes[i]) + ": " + fixedText(growth, 2)
+                            + ", n log n is " + fixedText(allowed, 2));
         }
     }
     return names;
 }
 
-std::vector<std::string> rowsSlowerThanBaseline(const std::vector<TableRow> &rows, int size)
+std::vector<std::string> aboveLimit(const TableRow &row)
 {
     std::vector<std::string> names;
-    for (const TableRow &row : rows) {
-        const double ratio = row.ratio(size).value_or(1);
-        if (ratio < 1)
-            names.push_back(rowName(row) + ": " + ratioText(ratio));
+    for (int size : row.sizes()) {
+        const auto ratio = row.ratio(size);
+        if (size <= row.limit().largestSize && ratio && *ratio * row.limit().ratio < 1)
+            names.push_back(rowName(row) + ", n=" + std::to_string(size) + ": "
+                            + ratioText(*ratio));
     }
     return names;
 }
 
-void printNames(std::ostream &out, const std::string &title, const std::vector<std::string> &names)
+void printFinding(std::ostream &out, const std::string &title, const std::vector<TableRow> &rows,
+                  std::vector<std::string> (*find)(const TableRow &row))
 {
-    out << '\n' << title << (names.empty() ? " none\n" : "\n");
-    for (const std::string &name : names)
-        out << "  " << name << '\n';
+    bool isFound = false;
+    out << '\n' << title << '\n';
+    for (const TableRow &row : rows) {
+        for (const std::string &name : find(row)) {
+            isFound = true;
+            out << "  " << name << '\n';
+        }
+    }
+    if (!isFound)
+        out << "  none\n";
 }
 
 std::vector<std::string> columnTitles(const std::vector<int> &sizes)
@@ -132,9 +141,11 @@ std::vector<std::string> columnTitles(const std::vector<int> &sizes)
 
 } // namespace
 
-TableRow::TableRow(std::string operation, std::string shape)
+TableRow::TableRow(std::string operation, std::string shape, std::vector<int> sizes, Limit limit)
     : m_operation(std::move(operation))
     , m_shape(std::move(shape))
+    , m_sizes(std::move(sizes))
+    , m_limit(limit)
 {
 }
 
@@ -181,27 +192,31 @@ std::string timeText(double nanoseconds)
     return digits + ' ' + units.at(unit);
 }
 
-void printTable(std::ostream &out, const std::vector<TableRow> &rows, const std::vector<int> &sizes)
+void printTables(std::ostream &out, const std::vector<TableRow> &rows)
 {
     out << "Shortest CPU time of one run, and the exponent with which it grows to the next size:\n"
         << "1 is linear, 2 is quadratic. Memory that no longer fits into the caches adds to it.\n"
-        << "Ratio: how many times faster than the baseline, which scans plain lists.\n\n";
-    printLine(out, "", "", columnTitles(sizes));
+        << "Ratio: how many times faster than the baseline, which scans plain lists where nothing\n"
+        << "else is named.\n";
+    std::vector<int> sizes;
     std::string operation;
     for (const TableRow &row : rows) {
         if (row.isEmpty())
             continue;
+        if (row.sizes() != sizes) {
+            out << '\n';
+            printLine(out, "", "", columnTitles(row.sizes()));
+        }
+        sizes = row.sizes();
         if (row.operation() != operation)
             out << row.operation() << '\n';
         operation = row.operation();
-        printRow(out, row, sizes);
+        printRow(out, row);
     }
 }
 
-void printFindings(std::ostream &out, const std::vector<TableRow> &rows,
-                   const std::vector<int> &sizes)
+void printFindings(std::ostream &out, const std::vector<TableRow> &rows)
 {
-    printNames(out, "Growing faster than n log n:", rowsGrowingFast(rows, sizes));
-    printNames(out, "Slower than the baseline at n=" + std::to_string(sizes.front()) + ":",
-               rowsSlowerThanBaseline(rows, sizes.front()));
+    printFinding(out, "Growing faster than n log n:", rows, growingFast);
+    printFinding(out, "Slower than the baseline allows:", rows, aboveLimit);
 }

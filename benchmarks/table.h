@@ -14,11 +14,18 @@
 /// Whose time it is.
 enum class Runner { Library, Baseline };
 
+/// How long the library may take, in the baseline's time, at sizes up to a largest one.
+struct Limit
+{
+    double ratio = 1;
+    int largestSize = 50;
+};
+
 /// The measured times of one operation on one shape of input.
 class TableRow
 {
 public:
-    TableRow(std::string operation, std::string shape);
+    TableRow(std::string operation, std::string shape, std::vector<int> sizes, Limit limit);
 
     /// Takes in a time; of several for the same size the shortest counts, because what else the
     /// machine does can only lengthen it.
@@ -26,6 +33,8 @@ public:
 
     const std::string &operation() const { return m_operation; }
     const std::string &shape() const { return m_shape; }
+    const std::vector<int> &sizes() const { return m_sizes; }
+    const Limit &limit() const { return m_limit; }
     bool isEmpty() const { return m_times.empty(); }
 
     std::optional<double> time(Runner runner, int size) const;
@@ -39,19 +48,19 @@ public:
 private:
     std::string m_operation;
     std::string m_shape;
+    std::vector<int> m_sizes;
+    Limit m_limit;
     std::map<std::pair<Runner, int>, double> m_times;
 };
 
 /// A time with three digits and its unit.
 std::string timeText(double nanoseconds);
 
-/// Prints @p rows with a column for each of @p sizes.
-void printTable(std::ostream &out, const std::vector<TableRow> &rows,
-                const std::vector<int> &sizes);
+/// Prints @p rows, those of the same sizes one below the other.
+void printTables(std::ostream &out, const std::vector<TableRow> &rows);
 
 /// Names the rows in which the library's time grows faster than n log n, and those in which it is
-/// longer than the baseline's at the smallest size.
-void printFindings(std::ostream &out, const std::vector<TableRow> &rows,
-                   const std::vector<int> &sizes);
+/// longer than the row's limit.
+void printFindings(std::ostream &out, const std::vector<TableRow> &rows);
 
 #endif
