@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Kelto developers
 // SPDX-License-Identifier: MIT
 
+#include "commandline.h"
 #include "languages.h"
 #include "mainwindow.h"
 #include "modules.h"
@@ -10,58 +11,21 @@
 #include <Kelto/AUTH_SET>
 
 #include <QApplication>
-#include <QCommandLineParser>
 #include <QLocale>
-#include <QTextStream>
-
-#include <cstdlib>
 
 namespace {
 
-enum ExitCode { Done = 0, UnknownTask = 1, WrongUsage = 2 };
-
-struct Options
+QVector<AUTH_INF> modulesFor(const Options &options)
 {
-    QString language;
-    QString task;
-};
-
-[[noreturn]] void quit(ExitCode code, const QString &complaint)
-{
-    QTextStream(stderr) << complaint << '\n';
-    std::exit(code);
-}
-
-/// Ends the program after "--help", "--version" and wrong usage.
-Options readOptions(const QStringList &arguments)
-{
-    const QCommandLineOption language(QStringLiteral("language"),
-                                      QStringLiteral("Language of the program: en or zh_CN."),
-                                      QStringLiteral("language"));
-    const QCommandLineOption task(QStringLiteral("task"),
-                                  QStringLiteral("Start with this task instead of asking, for "
-                                                 "example \"Workbench:Statics:Cantilever\"."),
-                                  QStringLiteral("standard mode name"));
-    QCommandLineParser parser;
-    parser.setApplicationDescription(
-        QStringLiteral("Computes beams, springs, vessels and walls.\n\n"
-                       "Exit codes: 0 for done, 1 for an unknown task, 2 for wrong usage."));
-    parser.addHelpOption();
-    parser.addVersionOption();
-    parser.addOptions({ language, task });
-
-    if (!parser.parse(arguments))
-        quit(WrongUsage, parser.errorText());
-    parser.process(arguments); // shows the help or the version where asked to
-    const QStringList unexpected = parser.positionalArguments();
-    if (!unexpected.isEmpty())
-        quit(WrongUsage, QStringLiteral("Unexpected argument: ") + unexpected.first());
-    const QStringList languages { QStringLiteral("en"), QStringLiteral("zh_CN") };
-    if (parser.isSet(language) && !languages.contains(parser.value(language)))
-        quit(WrongUsage, QStringLiteral("Unknown language: ") + parser.value(language));
-    if (parser.isSet(task) && parser.value(task).isEmpty())
-        quit(WrongUsage, QStringLiteral("--task needs a standard mode name."));
-    return { parser.value(language), parser.value(task) };
+    if (options.compiled)
+        return compiledModules();
+    const auto modules = modulesFromFiles(options.modules);
+    if (!modules.isValid())
+        quit(Failed,
+             modules.problem
+                 + QStringLiteral("\nName a directory with module files (--modules), or start "
+                                  "with the modules that were compiled in (--compiled)."));
+    return modules.result;
 }
 
 QString unknownTask(const AUTH_SET &registry, const QString &task)
@@ -85,15 +49,19 @@ int main(int argc, char *argv[])
 
     // The one registry of the program. It has to outlive everything that asks it.
     AUTH_SET registry(QCoreApplication::applicationName(), QCoreApplication::applicationVersion(),
-                      workbenchModules());
+                      modulesFor(options));
     registry.log(QStringLiteral("Started, version ") + QCoreApplication::applicationVersion());
 
     // With a task on the command line there is nothing to ask.
-    if (!options.task.isEmpty() && !selectTask(registry, options.task))
-        quit(UnknownTask, unknownTask(registry, options.task));
+    if (options.task.isEmpty())
+        recallTask(registry);
+    else if (!selectTask(registry, options.task))
+        quit(Failed, unknownTask(registry, options.task));
     MainWindow window(&registry);
     if (options.task.isEmpty())
         window.chooseTask();
+    else
+        window.showCurrentTask();
     window.show();
     return QApplication::exec();
 }

@@ -3,11 +3,12 @@
 
 #include "mainwindow.h"
 
-#include "entry.h"
 #include "numbers.h"
 
 #include <Kelto/AUTH_SET>
+#include <Kelto/KeltoItemParameterVerify>
 #include <Kelto/UTaskSelectDialog>
+#include <Kelto/VParameter>
 
 #include <QCoreApplication>
 #include <QHBoxLayout>
@@ -61,16 +62,15 @@ void alignColumns(QTableWidget *first, QTableWidget *second)
 }
 
 /// @param editable whether the user may change the value; the other columns are for reading
-void fillTable(QTableWidget *table, const QVector<QStringList> &entries, bool editable)
+void fillTable(QTableWidget *table, const QVector<VParameter> &parameters, bool editable)
 {
     const QSignalBlocker blocker(table);
     table->clearContents();
-    table->setRowCount(entries.size());
-    for (int row = 0; row < entries.size(); ++row) {
-        const QStringList &entry = entries.at(row);
-        const QStringList texts { entry.value(Entry::TranslatedKey), entry.value(Entry::Symbol),
-                                  QString(), entry.value(Entry::Unit),
-                                  entry.value(Entry::TranslatedGroup) };
+    table->setRowCount(parameters.size());
+    for (int row = 0; row < parameters.size(); ++row) {
+        const VParameter &parameter = parameters.at(row);
+        const QStringList texts { parameter.name().second, parameter.symbol(), QString(),
+                                  parameter.unit().first, parameter.group().second };
         for (int column = 0; column < table->columnCount(); ++column) {
             auto *item = new QTableWidgetItem(texts.at(column));
             if (!editable || column != ValueColumn)
@@ -86,6 +86,12 @@ void setValueText(QTableWidget *table, int row, const QString &text)
     table->item(row, ValueColumn)->setText(text);
     // A list of many numbers may be wider than the column.
     table->item(row, ValueColumn)->setToolTip(text);
+}
+
+/// The key under which Kelto keeps the value of a parameter, once it has one.
+QString valueKey(const VParameter &parameter)
+{
+    return QStringLiteral("Attribute/") + parameter.name().first;
 }
 
 QLabel *newLabel(const QString &objectName)
@@ -117,7 +123,7 @@ MainWindow::MainWindow(AUTH_SET *registry)
     createMenu();
     connect(m_chooseTask, &QPushButton::clicked, this, &MainWindow::chooseTask);
     connect(m_parameters, &QTableWidget::cellChanged, this, &MainWindow::takeValue);
-    showCurrentTask();
+    showTask();
     // Room for the longest task in its defaults, whatever the font.
     const QFontMetrics metrics = fontMetrics();
     setMinimumWidth(100 * metrics.averageCharWidth());
@@ -140,6 +146,16 @@ void MainWindow::chooseTask()
 void MainWindow::showCurrentTask()
 {
     m_task = currentTask(*m_registry);
+    if (!m_task.isNull()) {
+        rememberTask(*m_registry, m_task);
+        m_registry->log(QStringLiteral("Task: ")
+                        + m_registry->stdModeNameForm(m_task.group.first, m_task.mode.first));
+    }
+    showTask();
+}
+
+void MainWindow::showTask()
+{
     if (m_task.isNull()) {
         m_title->setText(tr("No task chosen"));
         m_description->setText(
@@ -147,8 +163,6 @@ void MainWindow::showCurrentTask()
     } else {
         m_title->setText(m_task.title());
         m_description->setText(m_task.description);
-        m_registry->log(QStringLiteral("Task: ")
-                        + m_registry->stdModeNameForm(m_task.group.first, m_task.mode.first));
     }
     m_sheet->setVisible(!m_task.isNull());
     fillParameters();
@@ -203,7 +217,7 @@ void MainWindow::fillParameters()
 {
     fillTable(m_parameters, m_task.parameters, true);
     for (int row = 0; row < m_task.parameters.size(); ++row) {
-        const QString key = m_task.parameters.at(row).value(Entry::Key);
+        const QString key = m_task.parameters.at(row).name().first;
         setValueText(m_parameters, row, m_enteredTexts.value(key, Calculator::defaultText(key)));
     }
 }
@@ -212,7 +226,7 @@ void MainWindow::takeValue(int row)
 {
     const QString text = m_parameters->item(row, ValueColumn)->text();
     setValueText(m_parameters, row, text);
-    m_enteredTexts.insert(m_task.parameters.at(row).value(Entry::Key), text);
+    m_enteredTexts.insert(m_task.parameters.at(row).name().first, text);
     recalculate();
 }
 
@@ -221,27 +235,48 @@ void MainWindow::recalculate()
     if (m_task.isNull())
         return showProblem(QString());
 
-    const Outcome<NumbersByKey> numbers = enteredNumbers();
-    if (!numbers.isValid())
-        return showProblem(numbers.problem);
+    const Outcome<Values> entered = enteredValues();
+    if (!entered.isValid())
+        return showProblem(entered.problem);
 
+    m_registry->getCalculationLData(entered.result);
     const Outcome<NumbersByKey> results
-        = Calculator::calculate(m_task.module, m_task.mode.first, numbers.result);
+        = Calculator::calculate(m_task.module, m_task.mode.first, valuesInRegistry());
     if (!results.isValid())
         return showProblem(results.problem);
     showResults(results.result);
 }
 
-Outcome<NumbersByKey> MainWindow::enteredNumbers() const
+/// The values of the table with their units, as AUTH_SET::getCalculationLData() takes them.
+Outcome<MainWindow::Values> MainWindow::enteredValues() const
 {
-    Outcome<NumbersByKey> numbers;
+    Outcome<Values> values;
+    QStringList missing;
     for (int row = 0; row < m_task.parameters.size(); ++row) {
-        const QStringList &entry = m_task.parameters.at(row);
-        const bool several = entry.value(Entry::Multi) == QLatin1String("true");
-        const auto entered = numbersFromText(m_parameters->item(row, ValueColumn)->text(), several);
-        if (!entered.isValid())
-            return { {}, tr("%1: %2").arg(entry.value(Entry::TranslatedKey), entered.problem) };
-        numbers.result.insert(entry.value(Entry::Key), entered.result);
+        const VParameter &parameter = m_task.parameters.at(row);
+        const QString text = m_parameters->item(row, ValueColumn)->text();
+        if (text.trimmed().isEmpty()) {
+            missing.append(parameter.name().second);
+            continue;
+        }
+        const auto value = valueFromText(text, parameter.isMulti());
+        if (!value.isValid())
+            return { {}, tr("%1: %2").arg(parameter.name().second, value.problem) };
+        values.result.append({ valueKey(parameter), value.result });
+        values.result.append(
+            { QStringLiteral("Unit/") + parameter.name().first, parameter.unit().first });
+    }
+    if (!KeltoItemParameterVerify::isValid(&m_task.module, &values.result, m_task.mode.first))
+        return { {}, tr("%1: enter a number.").arg(missing.join(QStringLiteral(", "))) };
+    return values;
+}
+
+NumbersByKey MainWindow::valuesInRegistry() const
+{
+    NumbersByKey numbers;
+    for (const VParameter &parameter : m_task.parameters) {
+        const QVariant value = m_registry->value_cal(valueKey(parameter));
+        numbers.insert(parameter.name().first, numbersFromValue(value, parameter.isMulti()));
     }
     return numbers;
 }
@@ -249,7 +284,7 @@ Outcome<NumbersByKey> MainWindow::enteredNumbers() const
 void MainWindow::showResults(const NumbersByKey &results)
 {
     for (int row = 0; row < m_task.results.size(); ++row) {
-        const QString key = m_task.results.at(row).value(Entry::Key);
+        const QString key = m_task.results.at(row).name().first;
         setValueText(m_results, row, textFromNumbers(results.value(key)));
     }
     m_message->setPalette(palette());

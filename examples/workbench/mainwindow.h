@@ -9,6 +9,9 @@
 
 #include <QMainWindow>
 #include <QMap>
+#include <QPair>
+#include <QVariant>
+#include <QVector>
 
 class AUTH_SET;
 class QLabel;
@@ -28,16 +31,21 @@ public:
     /// Lets the user choose a task in Kelto's dialog; after "Cancel" everything stays as it was.
     void chooseTask();
 
-    /// Shows the task that is selected in the registry.
+    /// Shows the task that is selected in the registry, and remembers it.
     void showCurrentTask();
 
 private:
+    /// Values by the keys that Kelto gives them.
+    using Values = QVector<QPair<QString, QVariant>>;
+
     void createMenu();
     void createWidgets();
+    void showTask();
     void fillParameters();
     void takeValue(int row);
     void recalculate();
-    Outcome<NumbersByKey> enteredNumbers() const;
+    Outcome<Values> enteredValues() const;
+    NumbersByKey valuesInRegistry() const;
     void showResults(const NumbersByKey &results);
     void showProblem(const QString &problem);
 

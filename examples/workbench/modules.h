@@ -4,12 +4,26 @@
 #ifndef MODULES_H
 #define MODULES_H
 
+#include "calculations/outcome.h"
+
+#include <QString>
 #include <QVector>
 
 class AUTH_INF;
 
-/// The calculation modules of the workbench, with their texts in the language of the program (so
-/// the translations have to be installed before).
-QVector<AUTH_INF> workbenchModules();
+// The calculation modules of the workbench, with their texts in the language of the program (so the
+// translations have to be installed before). Each module is described in one place, a file of the
+// directory "modules", and reaches the program in either of two ways.
+
+/// Where the files lie unless the user says otherwise: beside the program.
+QString moduleDirectory();
+
+/// The modules of the files "*.ini" in @p directory, in the order of the file names; or a message
+/// that says what is wrong with which file.
+Outcome<QVector<AUTH_INF>> modulesFromFiles(const QString &directory);
+
+/// The modules of the same files as they were when the program was built. The generator writes this
+/// function.
+QVector<AUTH_INF> compiledModules();
 
 #endif

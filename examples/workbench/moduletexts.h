@@ -4,7 +4,16 @@
 #ifndef MODULETEXTS_H
 #define MODULETEXTS_H
 
+#include <QCoreApplication>
+
 class AUTH_INF;
+
+/// The translation context of the modules: the name that their files hold as "Tr_ObjectName", and
+/// the class whose tr() the source text made from the files calls.
+class ModuleTexts
+{
+    Q_DECLARE_TR_FUNCTIONS(ModuleTexts)
+};
 
 /// Fills in everything of a module that is shown to the user in the language of the program: the
 /// descriptions and the "_tr" twin of every name, unit aside. The texts are looked up in the

@@ -3,6 +3,8 @@
 
 #include "numbers.h"
 
+#include <Kelto/KeltoItemParameterTransform>
+
 #include <QCoreApplication>
 #include <QMap>
 #include <QStringList>
@@ -36,32 +38,34 @@ double siFactor(const QString &unit)
     return factors.value(unit, 0);
 }
 
-Outcome<QVector<double>> numbersFromText(const QString &text, bool several)
+Outcome<QVariant> valueFromText(const QString &text, bool several)
 {
-    if (text.trimmed().isEmpty())
-        return { {}, Texts::tr("enter a number.") };
-
-    Outcome<QVector<double>> numbers;
-    const QStringList parts = several ? text.split(QLatin1Char(';')) : QStringList { text };
-    for (const QString &part : parts) {
+    QStringList parts = several ? text.split(QLatin1Char(';')) : QStringList { text };
+    for (QString &part : parts) {
+        part = part.trimmed();
         bool isNumber = false;
-        const double number = part.trimmed().toDouble(&isNumber);
+        const double number = part.toDouble(&isNumber);
         if (!isNumber || !std::isfinite(number)) {
             const QString hint = several
                 ? Texts::tr("\"%1\" is not a number. Write decimals with a point and separate the "
                             "numbers by semicolons, as in 0.5; 12.")
                 : Texts::tr("\"%1\" is not a number. Write decimals with a point, as in 0.5.");
-            return { {}, hint.arg(part.trimmed()) };
+            return { {}, hint.arg(part) };
         }
-        numbers.result.append(number);
     }
-    return numbers;
+    return { several ? QVariant(parts) : QVariant(parts.first().toDouble()), {} };
 }
 
-QString textFromNumbers(const QVector<double> &numbers)
+QVector<double> numbersFromValue(const QVariant &value, bool several)
 {
-    QStringList texts;
-    for (const double number : numbers)
-        texts.append(QString::number(number + 0.0)); // which takes the sign off a negative zero
-    return texts.join(QStringLiteral("; "));
+    if (several)
+        return KeltoItemParameterTransform::to_array(value.toStringList());
+    return { value.toDouble() };
+}
+
+QString textFromNumbers(QVector<double> numbers)
+{
+    for (double &number : numbers)
+        number += 0.0; // which takes the sign off a negative zero
+    return KeltoItemParameterTransform::from_array(numbers).join(QStringLiteral("; "));
 }

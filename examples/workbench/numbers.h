@@ -7,6 +7,7 @@
 #include "calculations/outcome.h"
 
 #include <QString>
+#include <QVariant>
 #include <QVector>
 
 /// One unit of @p unit in SI units, 0.001 for "mm"; 0 for a unit that the workbench does not know.
@@ -14,10 +15,14 @@
 double siFactor(const QString &unit);
 
 /// Reads what the user typed: one number, or with @p several any number of them separated by
-/// semicolons. The decimal sign is a point in every language.
-Outcome<QVector<double>> numbersFromText(const QString &text, bool several);
+/// semicolons. The decimal sign is a point in every language. The result is in the form in which
+/// Kelto keeps values: a number, or a list of texts with one number each.
+Outcome<QVariant> valueFromText(const QString &text, bool several);
+
+/// The numbers in such a value.
+QVector<double> numbersFromValue(const QVariant &value, bool several);
 
 /// The numbers with up to six significant digits, separated like input.
-QString textFromNumbers(const QVector<double> &numbers);
+QString textFromNumbers(QVector<double> numbers);
 
 #endif

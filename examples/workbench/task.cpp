@@ -4,21 +4,28 @@
 #include "task.h"
 
 #include "calculator.h"
-#include "entry.h"
 
 #include <Kelto/AUTH_SET>
 
+#include <algorithm>
+#include <iterator>
+
 namespace {
 
-/// The entries of the results that the mode has; the module declares those of all its modes.
-QVector<QStringList> resultsOf(const AUTH_INF &module, const QString &mode)
+/// Where the settings of the program hold the task that was remembered last.
+QString lastTaskKey()
+{
+    return QStringLiteral("Task/Last");
+}
+
+/// The results that the mode has; the module declares those of all its modes.
+QVector<VParameter> resultsOf(const AUTH_SET &registry, const AUTH_INF &module, const QString &mode)
 {
     const QStringList keys = Calculator::resultKeys(module, mode);
-    QVector<QStringList> results;
-    for (const QStringList &entry : module.output_results) {
-        if (keys.contains(entry.value(Entry::Key)))
-            results.append(entry);
-    }
+    const QVector<VParameter> declared = registry.defaultResultList(&module);
+    QVector<VParameter> results;
+    std::copy_if(declared.cbegin(), declared.cend(), std::back_inserter(results),
+                 [&keys](const VParameter &result) { return keys.contains(result.name().first); });
     return results;
 }
 
@@ -43,9 +50,9 @@ Task currentTask(const AUTH_SET &registry)
     task.group = registry.findExclusiveGroupName(group);
     task.mode = registry.currentExclusiveGroupSelect(group);
     task.description = registry.exclusive_group_mode_description(group).value(position).second;
-    task.parameters = registry.exclusive_group_parameter_settings_origin(group, position);
+    task.parameters = registry.defaultParameterList(group, task.mode.first);
     task.module = registry.AUTH_INF_DATA().value(registry.index(moduleName));
-    task.results = resultsOf(task.module, task.mode.first);
+    task.results = resultsOf(registry, task.module, task.mode.first);
     return task;
 }
 
@@ -60,4 +67,16 @@ bool selectTask(AUTH_SET &registry, const QString &standardName)
     registry.current_mode = parts.at(2);
     registry.exclusive_group_set_mode(registry.current_group, registry.current_mode);
     return true;
+}
+
+void rememberTask(AUTH_SET &registry, const Task &task)
+{
+    registry.setValueInSet(lastTaskKey(),
+                           registry.stdModeNameForm(task.group.first, task.mode.first));
+}
+
+void recallTask(AUTH_SET &registry)
+{
+    if (!selectTask(registry, registry.value_set(lastTaskKey()).toString()))
+        selectTask(registry, registry.currentModeList().value(0).first);
 }

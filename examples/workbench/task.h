@@ -5,10 +5,10 @@
 #define TASK_H
 
 #include <Kelto/AUTH_INF>
+#include <Kelto/VParameter>
 
 #include <QPair>
 #include <QString>
-#include <QStringList>
 #include <QVector>
 
 class AUTH_SET;
@@ -21,8 +21,9 @@ struct Task
     AUTH_INF module;
     QPair<QString, QString> mode;
     QString description;
-    QVector<QStringList> parameters;
-    QVector<QStringList> results;
+    /// Sorted by plain name, as Kelto hands them out.
+    QVector<VParameter> parameters;
+    QVector<VParameter> results;
 
     bool isNull() const { return mode.first.isEmpty(); }
 
@@ -37,5 +38,12 @@ Task currentTask(const AUTH_SET &registry);
 /// Selects the task with the plain or translated standard mode name @p standardName just as
 /// accepting it in the dialog does. Returns false and changes nothing when there is no such task.
 bool selectTask(AUTH_SET &registry, const QString &standardName);
+
+/// Keeps @p task for recallTask() in the settings of the program.
+void rememberTask(AUTH_SET &registry, const Task &task);
+
+/// Selects the task that was remembered last, be it in an earlier run; the first one when there is
+/// none or when it is no longer on offer.
+void recallTask(AUTH_SET &registry);
 
 #endif

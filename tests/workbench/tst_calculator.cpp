@@ -14,7 +14,7 @@ namespace {
 
 AUTH_INF moduleNamed(const QString &name)
 {
-    const auto modules = workbenchModules();
+    const auto modules = compiledModules();
     for (const AUTH_INF &module : modules) {
         if (module.name == name)
             return module;
@@ -28,7 +28,9 @@ NumbersByKey defaults(const AUTH_INF &module, const QString &mode)
     NumbersByKey values;
     const QStringList keys = module.inner_mode_keylist_of(mode);
     for (const QString &key : keys)
-        values.insert(key, numbersFromText(Calculator::defaultText(key), true).result);
+        values.insert(key,
+                      numbersFromValue(valueFromText(Calculator::defaultText(key), true).result,
+                                       true));
     return values;
 }
 
@@ -59,8 +61,10 @@ private Q_SLOTS:
 
     void siFactor_data();
     void siFactor();
-    void numbersFromText_data();
-    void numbersFromText();
+    void valueFromText_data();
+    void valueFromText();
+    void textThatIsNoValue_data();
+    void textThatIsNoValue();
     void textFromNumbers_data();
     void textFromNumbers();
 };
@@ -151,8 +155,8 @@ void tst_Calculator::unitOfAResultCounts()
 {
     AUTH_INF module = moduleNamed(QStringLiteral("Pressure vessel"));
     const QString mode = QStringLiteral("Thin wall");
-    QCOMPARE(module.output_results.last().at(Entry::Key), QStringLiteral("Axial stress"));
-    module.output_results.last()[Entry::Unit] = QStringLiteral("Pa");
+    QCOMPARE(module.output_results.first().at(Entry::Key), QStringLiteral("Axial stress"));
+    module.output_results.first()[Entry::Unit] = QStringLiteral("Pa");
 
     const auto outcome = Calculator::calculate(module, mode, defaults(module, mode));
 
@@ -236,47 +240,68 @@ void tst_Calculator::siFactor()
     QTEST(::siFactor(unit), "factor");
 }
 
-void tst_Calculator::numbersFromText_data()
+void tst_Calculator::valueFromText_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<bool>("several");
+    QTest::addColumn<QVariant>("value");
     QTest::addColumn<QVector<double>>("numbers");
-    QTest::addColumn<QString>("problem");
 
     using Numbers = QVector<double>;
-    const QString one
-        = QStringLiteral("\"%1\" is not a number. Write decimals with a point, as in 0.5.");
-    const QString list = QStringLiteral("\"%1\" is not a number. Write decimals with a point and "
-                                        "separate the numbers by semicolons, as in 0.5; 12.");
-    const QString none = QStringLiteral("enter a number.");
-    QTest::newRow("one number") << "12.5" << false << Numbers { 12.5 } << QString();
-    QTest::newRow("exponent and spaces") << " -1e3 " << false << Numbers { -1000 } << QString();
-    QTest::newRow("list") << "0.1; 0.2;0.05" << true << Numbers { 0.1, 0.2, 0.05 } << QString();
-    QTest::newRow("list of one") << "0.1" << true << Numbers { 0.1 } << QString();
-    QTest::newRow("list where one number belongs")
-        << "1; 2" << false << Numbers() << one.arg(QStringLiteral("1; 2"));
-    QTest::newRow("decimal comma") << "0,5" << false << Numbers() << one.arg(QStringLiteral("0,5"));
-    QTest::newRow("word in a list")
-        << "1; two" << true << Numbers() << list.arg(QStringLiteral("two"));
-    QTest::newRow("semicolon at the end") << "1;" << true << Numbers() << list.arg(QString());
-    QTest::newRow("infinite") << "inf" << false << Numbers() << one.arg(QStringLiteral("inf"));
-    QTest::newRow("not a number by name")
-        << "nan" << true << Numbers() << list.arg(QStringLiteral("nan"));
-    QTest::newRow("beyond the range of numbers")
-        << "1e999" << false << Numbers() << one.arg(QStringLiteral("1e999"));
-    QTest::newRow("empty") << "" << false << Numbers() << none;
-    QTest::newRow("spaces only") << "  " << true << Numbers() << none;
+    QTest::newRow("one number") << "12.5" << false << QVariant(12.5) << Numbers { 12.5 };
+    QTest::newRow("exponent and spaces")
+        << " -1e3 " << false << QVariant(-1000.0) << Numbers { -1000 };
+    QTest::newRow("list") << "0.1; 0.2;0.05" << true
+                          << QVariant(QStringList { "0.1", "0.2", "0.05" })
+                          << Numbers { 0.1, 0.2, 0.05 };
+    QTest::newRow("list of one") << "0.1" << true << QVariant(QStringList { "0.1" })
+                                 << Numbers { 0.1 };
+    QTest::newRow("list with many digits")
+        << "1234.56789; 1" << true << QVariant(QStringList { "1234.56789", "1" })
+        << Numbers { 1234.56789, 1 };
 }
 
-void tst_Calculator::numbersFromText()
+void tst_Calculator::valueFromText()
 {
     QFETCH(QString, text);
     QFETCH(bool, several);
 
-    const auto outcome = ::numbersFromText(text, several);
+    const auto outcome = ::valueFromText(text, several);
 
-    QTEST(outcome.result, "numbers");
+    QCOMPARE(outcome.problem, QString());
+    QTEST(outcome.result, "value");
+    QTEST(numbersFromValue(outcome.result, several), "numbers");
+}
+
+void tst_Calculator::textThatIsNoValue_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("several");
+    QTest::addColumn<QString>("problem");
+
+    const QString one
+        = QStringLiteral("\"%1\" is not a number. Write decimals with a point, as in 0.5.");
+    const QString list = QStringLiteral("\"%1\" is not a number. Write decimals with a point and "
+                                        "separate the numbers by semicolons, as in 0.5; 12.");
+    QTest::newRow("list where one number belongs") << "1; 2" << false << one.arg("1; 2");
+    QTest::newRow("decimal comma") << "0,5" << false << one.arg("0,5");
+    QTest::newRow("word in a list") << "1; two" << true << list.arg("two");
+    QTest::newRow("semicolon at the end") << "1;" << true << list.arg(QString());
+    QTest::newRow("infinite") << "inf" << false << one.arg("inf");
+    QTest::newRow("not a number by name") << "nan" << true << list.arg("nan");
+    QTest::newRow("beyond the range of numbers") << "1e999" << false << one.arg("1e999");
+    QTest::newRow("empty") << "" << false << one.arg(QString());
+}
+
+void tst_Calculator::textThatIsNoValue()
+{
+    QFETCH(QString, text);
+    QFETCH(bool, several);
+
+    const auto outcome = ::valueFromText(text, several);
+
     QTEST(outcome.problem, "problem");
+    QVERIFY(!outcome.result.isValid());
 }
 
 void tst_Calculator::textFromNumbers_data()

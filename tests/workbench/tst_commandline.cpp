@@ -47,6 +47,9 @@ private Q_SLOTS:
     void version();
     void complaints_data();
     void complaints();
+    void fileWithoutModule();
+    void modulesOfAnotherDirectory();
+    void unknownTaskListsTheKnownOnes_data();
     void unknownTaskListsTheKnownOnes();
     void chosenTaskOpensTheWindowAtOnce_data();
     void chosenTaskOpensTheWindowAtOnce();
@@ -59,7 +62,8 @@ void tst_CommandLine::help()
         const Ending ending = run(directory.path(), { QLatin1String(option) });
         QCOMPARE(ending.exitCode, 0);
         QCOMPARE(ending.complaint, QString());
-        for (const char *text : { "--language", "--task", "Exit codes: 0 for done" })
+        for (const char *text :
+             { "--language", "--task", "--modules", "--compiled", "Exit codes: 0 for done" })
             QVERIFY2(ending.output.contains(QLatin1String(text)), qPrintable(ending.output));
     }
     QVERIFY(QDir(directory.path()).isEmpty());
@@ -90,6 +94,17 @@ void tst_CommandLine::complaints_data()
     QTest::newRow("empty language") << list("--language=") << 2 << "Unknown language: \n";
     QTest::newRow("argument without option")
         << list("Cantilever") << 2 << "Unexpected argument: Cantilever\n";
+    QTest::newRow("empty directory name")
+        << list("--modules=") << 2 << "--modules needs a directory.\n";
+    QTest::newRow("both kinds of modules")
+        << list("--compiled|--modules|.") << 2 << "--modules and --compiled exclude each other.\n";
+    const QString advice
+        = QStringLiteral("\nName a directory with module files (--modules), or start with the "
+                         "modules that were compiled in (--compiled).\n");
+    QTest::newRow("missing directory")
+        << list("--modules|missing") << 1 << "There is no directory \"missing\"." + advice;
+    QTest::newRow("directory without modules")
+        << list("--modules|.") << 1 << "The directory \".\" holds no files *.ini." + advice;
 }
 
 void tst_CommandLine::complaints()
@@ -105,13 +120,53 @@ void tst_CommandLine::complaints()
     QVERIFY(QDir(directory.path()).isEmpty());
 }
 
+void tst_CommandLine::fileWithoutModule()
+{
+    const TemporaryCurrentDirectory directory;
+    QFile file(QStringLiteral("notes.ini"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QVERIFY(file.write("[Notes]\nname=none\n") > 0);
+    file.close();
+
+    const Ending ending = run(directory.path(), { "--modules", "." });
+
+    QCOMPARE(ending.exitCode, 1);
+    QVERIFY2(ending.complaint.startsWith("The file \"./notes.ini\" holds no module: "),
+             qPrintable(ending.complaint));
+    QCOMPARE(QDir().entryList(QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot),
+             QStringList("notes.ini"));
+}
+
+/// With one module the list of tasks is that of its modes.
+void tst_CommandLine::modulesOfAnotherDirectory()
+{
+    const TemporaryCurrentDirectory directory;
+    QVERIFY(QDir().mkdir("mine"));
+    QVERIFY(QFile::copy(WORKBENCH_MODULES "/40-plane-wall.ini", "mine/wall.ini"));
+
+    const Ending ending = run(directory.path(), { "--modules", "mine", "--task", "none" });
+
+    QCOMPARE(ending.exitCode, 1);
+    QCOMPARE(ending.complaint,
+             QStringLiteral("Unknown task: none\n"
+                            "Known tasks:\n  Workbench:Heat:Steady\n"
+                            "  Workbench:Heat:With convection\n"));
+}
+
+void tst_CommandLine::unknownTaskListsTheKnownOnes_data()
+{
+    QTest::addColumn<QStringList>("options");
+    QTest::newRow("modules from files") << QStringList();
+    QTest::newRow("compiled modules") << QStringList { "--compiled" };
+}
+
 void tst_CommandLine::unknownTaskListsTheKnownOnes()
 {
+    QFETCH(QStringList, options);
     const QTemporaryDir directory;
 
     const Ending ending
-        = run(directory.path(),
-              { QStringLiteral("--task"), QStringLiteral("Workbench:Statics:Buckling") });
+        = run(directory.path(), options + QStringList { "--task", "Workbench:Statics:Buckling" });
 
     QCOMPARE(ending.exitCode, 1);
     QCOMPARE(ending.output, QString());
@@ -133,6 +188,11 @@ void tst_CommandLine::chosenTaskOpensTheWindowAtOnce_data()
     QTest::newRow("translated name")
         << QStringList { QStringLiteral("--language"), QStringLiteral("zh_CN"), task,
                          QStringLiteral("Workbench:传热:稳态") }
+        << "Workbench:Heat:Steady";
+    QTest::newRow("compiled modules")
+        << QStringList { task, "Workbench:Heat:Steady", "--compiled" } << "Workbench:Heat:Steady";
+    QTest::newRow("compiled modules, translated name")
+        << QStringList { "--compiled", "--language", "zh_CN", task, "Workbench:传热:稳态" }
         << "Workbench:Heat:Steady";
 }
 

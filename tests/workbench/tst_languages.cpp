@@ -41,9 +41,10 @@ void tst_Languages::windowAndDialog_data()
 
     const QStringList english { QStringLiteral("Choose task..."),
                                 QStringLiteral("Statics › Beam › Cantilever"),
-                                QStringLiteral("Length"),
+                                QStringLiteral("Elastic modulus"),
                                 QStringLiteral("Unit"),
-                                QStringLiteral("Length: enter a number greater than zero."),
+                                QStringLiteral(
+                                    "Elastic modulus: enter a number greater than zero."),
                                 QStringLiteral("Accept") };
     const auto addRow = [](const char *name, const char *language, const QStringList &texts) {
         QTestData &row = QTest::newRow(name) << language;
@@ -54,8 +55,8 @@ void tst_Languages::windowAndDialog_data()
     addRow("a language without translation", "fr", english);
     addRow("Chinese", "zh_CN",
            { QStringLiteral("选择任务..."), QStringLiteral("静力学 › 梁 › 悬臂"),
-             QStringLiteral("长度"), QStringLiteral("单位"),
-             QStringLiteral("长度：请输入大于零的数。"), QStringLiteral("确定") });
+             QStringLiteral("弹性模量"), QStringLiteral("单位"),
+             QStringLiteral("弹性模量：请输入大于零的数。"), QStringLiteral("确定") });
 }
 
 void tst_Languages::windowAndDialog()
@@ -65,9 +66,10 @@ void tst_Languages::windowAndDialog()
     QVERIFY(directory.isUsable());
 
     installTranslations(QLocale(language));
-    AUTH_SET registry(QStringLiteral("Workbench"), QStringLiteral("1.0"), workbenchModules());
+    AUTH_SET registry(QStringLiteral("Workbench"), QStringLiteral("1.0"), compiledModules());
     QVERIFY(selectTask(registry, QStringLiteral("Workbench:Statics:Cantilever")));
     MainWindow window(&registry);
+    window.showCurrentTask();
     const UTaskSelectDialog dialog;
 
     const auto *parameters = window.findChild<QTableWidget *>(QStringLiteral("parameters"));

@@ -1,32 +1,20 @@
 // SPDX-FileCopyrightText: The Kelto developers
 // SPDX-License-Identifier: MIT
 
-#include "languages.h"
-#include "mainwindow.h"
 #include "modules.h"
 #include "task.h"
+#include "windowtest.h"
 
 #include <Kelto/AUTH_INF>
-#include <Kelto/AUTH_SET>
-#include <Kelto/UTaskSelectDialog>
 
 #include <QComboBox>
-#include <QHeaderView>
 #include <QLabel>
 #include <QMenuBar>
 #include <QPushButton>
-#include <QScrollBar>
 #include <QTableWidget>
 #include <QtTest>
 
-#include "support/temporarycurrentdirectory.h"
-
-#include <functional>
-#include <memory>
-
 namespace {
-
-enum Column { NameColumn, SymbolColumn, ValueColumn, UnitColumn, GroupColumn };
 
 QStringList rowTexts(const QTableWidget *table, int row)
 {
@@ -36,45 +24,14 @@ QStringList rowTexts(const QTableWidget *table, int row)
     return texts;
 }
 
-/// The value in the row with the name @p name.
-QString valueOf(const QTableWidget *table, const QString &name)
-{
-    for (int row = 0; row < table->rowCount(); ++row) {
-        if (table->item(row, NameColumn)->text() == name)
-            return table->item(row, ValueColumn)->text();
-    }
-    return QStringLiteral("no such row");
-}
-
-/// Answers the dialog that is about to open.
-void whenDialogIsOpen(const std::function<void(UTaskSelectDialog *)> &answer)
-{
-    QTimer::singleShot(0, qApp, [answer] {
-        auto *dialog = qobject_cast<UTaskSelectDialog *>(QApplication::activeModalWidget());
-        if (dialog)
-            answer(dialog);
-        else
-            whenDialogIsOpen(answer);
-    });
-}
-
-void click(UTaskSelectDialog *dialog, const char *buttonName)
-{
-    auto *button = dialog->findChild<QPushButton *>(QLatin1String(buttonName));
-    QTest::mouseClick(button, Qt::LeftButton);
-}
-
 } // namespace
 
-/// The window in a directory of its own, offscreen.
-class tst_MainWindow : public QObject
+/// How the window comes to its task.
+class tst_MainWindow : public WindowTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
-
     void withoutTask();
     void cancelOnFirstOpening();
     void acceptWithoutChoice();
@@ -82,88 +39,20 @@ private Q_SLOTS:
     void acceptedTask();
     void cancelKeepsTaskAndValues();
     void dialogOpensWithTheTaskAcceptedLast();
+    void dialogOpensWithTheTaskOfTheEarlierRun();
     void menuOpensTheDialog();
     void onlyAcceptedTasksAreLogged();
-
-    void everythingOfATaskIsVisible_data();
-    void everythingOfATaskIsVisible();
-    void everyTaskHasValidDefaults_data();
-    void everyTaskHasValidDefaults();
-    void changedValueChangesTheResults();
-    void onlyValuesOfParametersCanBeEdited();
-    void problemIsShownAndGoesAway_data();
-    void problemIsShownAndGoesAway();
-    void enteredValuesSurviveAnotherTask();
+    void onlyAcceptedTasksAreRemembered();
 
 private:
-    void addTasks() const;
-    void show(const char *standardName);
-    QString text(const char *labelName) const;
-    QTableWidget *table(const char *name) const;
-    void enter(int row, const char *value);
     void chooseTask(const std::function<void(UTaskSelectDialog *)> &answer);
-
-    std::unique_ptr<TemporaryCurrentDirectory> m_directory;
-    std::unique_ptr<AUTH_SET> m_registry;
-    std::unique_ptr<MainWindow> m_window;
 };
-
-void tst_MainWindow::init()
-{
-    m_directory = std::make_unique<TemporaryCurrentDirectory>();
-    QVERIFY(m_directory->isUsable());
-    m_registry = std::make_unique<AUTH_SET>(QStringLiteral("Workbench"), QStringLiteral("1.0"),
-                                            workbenchModules());
-    m_window = std::make_unique<MainWindow>(m_registry.get());
-    m_window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
-}
-
-void tst_MainWindow::cleanup()
-{
-    m_window.reset();
-    m_registry.reset();
-    m_directory.reset();
-}
-
-void tst_MainWindow::show(const char *standardName)
-{
-    QVERIFY(selectTask(*m_registry, QString::fromUtf8(standardName)));
-    m_window->showCurrentTask();
-}
-
-QString tst_MainWindow::text(const char *labelName) const
-{
-    return m_window->findChild<QLabel *>(QLatin1String(labelName))->text();
-}
-
-QTableWidget *tst_MainWindow::table(const char *name) const
-{
-    return m_window->findChild<QTableWidget *>(QLatin1String(name));
-}
-
-void tst_MainWindow::enter(int row, const char *value)
-{
-    table("parameters")->item(row, ValueColumn)->setText(QString::fromUtf8(value));
-}
 
 void tst_MainWindow::chooseTask(const std::function<void(UTaskSelectDialog *)> &answer)
 {
     whenDialogIsOpen(answer);
     QTest::mouseClick(m_window->findChild<QPushButton *>(QStringLiteral("chooseTask")),
                       Qt::LeftButton);
-}
-
-/// One row per task.
-void tst_MainWindow::addTasks() const
-{
-    QTest::addColumn<QString>("standardName");
-    // Rows are made before init(), and a registry writes into the current directory.
-    const TemporaryCurrentDirectory directory;
-    const AUTH_SET registry(QStringLiteral("Workbench"), QStringLiteral("1.0"), workbenchModules());
-    const auto modes = registry.currentModeList();
-    for (const auto &mode : modes)
-        QTest::newRow(qPrintable(mode.first)) << mode.first;
 }
 
 void tst_MainWindow::withoutTask()
@@ -185,7 +74,7 @@ void tst_MainWindow::cancelOnFirstOpening()
 
 void tst_MainWindow::acceptWithoutChoice()
 {
-    // Nothing was accepted before, so the dialog opens without a current entry.
+    // Nothing was accepted before or recalled, so the dialog opens without a current entry.
     chooseTask([](UTaskSelectDialog *dialog) { click(dialog, "pushButton_accept"); });
 
     QCOMPARE(text("title"), QStringLiteral("No task chosen"));
@@ -196,10 +85,10 @@ void tst_MainWindow::defaultTask()
     chooseTask([](UTaskSelectDialog *dialog) { click(dialog, "pushButton_Default"); });
 
     QCOMPARE(text("title"), QStringLiteral("Statics › Beam › Cantilever"));
-    QCOMPARE(rowTexts(table("parameters"), 0),
+    QCOMPARE(rowTexts(table("parameters"), 1),
              (QStringList { QStringLiteral("Length"), QStringLiteral("L"), QStringLiteral("1000"),
                             QStringLiteral("mm"), QStringLiteral("Geometry") }));
-    QCOMPARE(rowTexts(table("results"), 0),
+    QCOMPARE(rowTexts(table("results"), 2),
              (QStringList { QStringLiteral("Deflection"), QStringLiteral("w"),
                             QStringLiteral("2.75573"), QStringLiteral("mm"),
                             QStringLiteral("Deformation") }));
@@ -229,7 +118,7 @@ void tst_MainWindow::acceptedTask()
 void tst_MainWindow::cancelKeepsTaskAndValues()
 {
     show("Workbench:Statics:Cantilever");
-    enter(0, "2000");
+    enter("Length", "2000");
 
     chooseTask([](UTaskSelectDialog *dialog) {
         dialog->findChild<QComboBox *>()->setCurrentIndex(5);
@@ -251,6 +140,27 @@ void tst_MainWindow::dialogOpensWithTheTaskAcceptedLast()
     });
 
     QCOMPARE(current, QStringLiteral("Workbench:Vessels:Thick wall"));
+}
+
+void tst_MainWindow::dialogOpensWithTheTaskOfTheEarlierRun()
+{
+    chooseTask([](UTaskSelectDialog *dialog) {
+        dialog->findChild<QComboBox *>()->setCurrentText(QStringLiteral("Workbench:Heat:Steady"));
+        click(dialog, "pushButton_accept");
+    });
+    AUTH_SET registry(QStringLiteral("Workbench"), QStringLiteral("1.0"), compiledModules());
+    recallTask(registry);
+    MainWindow window(&registry);
+    QString current;
+    whenDialogIsOpen([&current](UTaskSelectDialog *dialog) {
+        current = dialog->currentItem().first;
+        click(dialog, "pushButton_cancel");
+    });
+
+    window.chooseTask();
+
+    QCOMPARE(current, QStringLiteral("Workbench:Heat:Steady"));
+    QCOMPARE(window.findChild<QLabel *>("title")->text(), QStringLiteral("No task chosen"));
 }
 
 void tst_MainWindow::menuOpensTheDialog()
@@ -279,127 +189,21 @@ void tst_MainWindow::onlyAcceptedTasksAreLogged()
     QVERIFY2(log.endsWith(" Task: Workbench:Statics:Cantilever\n"), log.constData());
 }
 
-void tst_MainWindow::everythingOfATaskIsVisible_data()
+void tst_MainWindow::onlyAcceptedTasksAreRemembered()
 {
-    addTasks();
-}
+    chooseTask([](UTaskSelectDialog *dialog) { click(dialog, "pushButton_cancel"); });
+    QVERIFY(!QFile::exists("Config/Workbench_config.ini"));
 
-void tst_MainWindow::everythingOfATaskIsVisible()
-{
-    QFETCH(QString, standardName);
-    show(qPrintable(standardName));
-    for (const char *name : { "parameters", "results" }) {
-        const QAbstractItemView *view = table(name);
-        // The tables take their height in a later round of the event loop.
-        QTRY_COMPARE(view->verticalScrollBar()->maximum(), 0);
-        for (const int column : { NameColumn, SymbolColumn, ValueColumn, UnitColumn, GroupColumn })
-            QVERIFY(table(name)->columnWidth(column) >= view->sizeHintForColumn(column));
-        QVERIFY(table(name)->horizontalHeader()->length() <= view->viewport()->width());
-    }
-    for (const char *name : { "title", "description", "message" }) {
-        const auto *label = m_window->findChild<QLabel *>(QLatin1String(name));
-        QTRY_VERIFY(label->height() >= label->heightForWidth(label->width()));
-        QVERIFY(m_window->centralWidget()->rect().contains(
-            QRect(label->mapTo(m_window->centralWidget(), QPoint()), label->size())));
-    }
-}
+    chooseTask([](UTaskSelectDialog *dialog) { click(dialog, "pushButton_Default"); });
+    QCOMPARE(fileContent("Config/Workbench_config.ini"),
+             QByteArray("[Task]\nLast=Workbench:Statics:Cantilever\n"));
 
-void tst_MainWindow::everyTaskHasValidDefaults_data()
-{
-    addTasks();
-}
-
-void tst_MainWindow::everyTaskHasValidDefaults()
-{
-    QFETCH(QString, standardName);
-
-    show(qPrintable(standardName));
-
-    QCOMPARE(text("message"),
-             QStringLiteral("All values are valid. Change one, and the results follow."));
-    QVERIFY(table("parameters")->rowCount() >= 3);
-    QVERIFY(table("results")->rowCount() >= 3);
-    for (int row = 0; row < table("results")->rowCount(); ++row) {
-        const QString value = table("results")->item(row, ValueColumn)->text();
-        QVERIFY2(!value.isEmpty() && !value.contains(QLatin1Char('n')), qPrintable(value));
-    }
-}
-
-void tst_MainWindow::changedValueChangesTheResults()
-{
-    show("Workbench:Vessels:Thin wall");
-    QCOMPARE(valueOf(table("results"), QStringLiteral("Axial stress")), QStringLiteral("37.5"));
-
-    enter(2, "12");
-
-    QCOMPARE(valueOf(table("results"), QStringLiteral("Axial stress")), QStringLiteral("75"));
-    QCOMPARE(valueOf(table("results"), QStringLiteral("Radial stress inside")),
-             QStringLiteral("-12"));
-}
-
-void tst_MainWindow::onlyValuesOfParametersCanBeEdited()
-{
-    show("Workbench:Vessels:Thin wall");
-    for (const char *name : { "parameters", "results" }) {
-        for (int column = NameColumn; column <= GroupColumn; ++column) {
-            const bool editable = table(name)->item(0, column)->flags() & Qt::ItemIsEditable;
-            QCOMPARE(editable, qstrcmp(name, "parameters") == 0 && column == ValueColumn);
-        }
-    }
-}
-
-void tst_MainWindow::problemIsShownAndGoesAway_data()
-{
-    QTest::addColumn<QString>("standardName");
-    QTest::addColumn<QString>("value");
-    QTest::addColumn<QString>("problem");
-
-    QTest::newRow("no number")
-        << "Workbench:Vessels:Thin wall"
-        << "wide"
-        << "Inner diameter: \"wide\" is not a number. Write decimals with a point, as in 0.5.";
-    QTest::newRow("nothing") << "Workbench:Vessels:Thin wall"
-                             << ""
-                             << "Inner diameter: enter a number.";
-    QTest::newRow("negative") << "Workbench:Vessels:Thin wall"
-                              << "-1"
-                              << "Inner diameter: enter a number greater than zero.";
-    QTest::newRow("lists of different length")
-        << "Workbench:Heat:Steady"
-        << "1; 2"
-        << "Layer conductivity: enter one number per layer. There are 2 layers and 4 numbers.";
-}
-
-void tst_MainWindow::problemIsShownAndGoesAway()
-{
-    QFETCH(QString, standardName);
-    QFETCH(QString, value);
-    show(qPrintable(standardName));
-    const QString valid = table("parameters")->item(0, ValueColumn)->text();
-    const QString result = table("results")->item(0, ValueColumn)->text();
-
-    enter(0, qPrintable(value));
-
-    QTEST(text("message"), "problem");
-    for (int row = 0; row < table("results")->rowCount(); ++row)
-        QCOMPARE(table("results")->item(row, ValueColumn)->text(), QStringLiteral("–"));
-
-    enter(0, qPrintable(valid));
-
-    QCOMPARE(text("message"),
-             QStringLiteral("All values are valid. Change one, and the results follow."));
-    QCOMPARE(table("results")->item(0, ValueColumn)->text(), result);
-}
-
-void tst_MainWindow::enteredValuesSurviveAnotherTask()
-{
-    show("Workbench:Statics:Cantilever");
-    enter(0, "1234");
-
-    show("Workbench:Heat:Steady");
-    show("Workbench:Statics:Simply supported");
-
-    QCOMPARE(valueOf(table("parameters"), QStringLiteral("Length")), QStringLiteral("1234"));
+    chooseTask([](UTaskSelectDialog *dialog) {
+        dialog->findChild<QComboBox *>()->setCurrentIndex(5);
+        click(dialog, "pushButton_cancel");
+    });
+    QCOMPARE(fileContent("Config/Workbench_config.ini"),
+             QByteArray("[Task]\nLast=Workbench:Statics:Cantilever\n"));
 }
 
 int main(int argc, char *argv[])

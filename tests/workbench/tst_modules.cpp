@@ -80,9 +80,9 @@ private:
 void tst_Modules::initTestCase()
 {
     installTranslations(QLocale(QStringLiteral("en")));
-    m_english = workbenchModules();
+    m_english = compiledModules();
     installTranslations(QLocale(QStringLiteral("zh_CN")));
-    m_chinese = workbenchModules();
+    m_chinese = compiledModules();
     QCOMPARE(m_english.size(), m_chinese.size());
 }
 
@@ -264,9 +264,9 @@ void tst_Modules::everyModeComputes()
              module.inner_mode_parameterList.at(module.inner_mode_nameList.indexOf(mode))) {
             const bool several = entry.at(Entry::Multi) == QLatin1String("true");
             const auto value
-                = numbersFromText(Calculator::defaultText(entry.at(Entry::Key)), several);
+                = valueFromText(Calculator::defaultText(entry.at(Entry::Key)), several);
             QVERIFY2(value.isValid(), qPrintable(entry.at(Entry::Key) + value.problem));
-            values.insert(entry.at(Entry::Key), value.result);
+            values.insert(entry.at(Entry::Key), numbersFromValue(value.result, several));
         }
         const auto outcome = Calculator::calculate(module, mode, values);
         const bool isCalculation = module.name != QLatin1String("Update");

@@ -1,16 +1,30 @@
 // SPDX-FileCopyrightText: The Kelto developers
 // SPDX-License-Identifier: MIT
 
-#include "entry.h"
 #include "modules.h"
 #include "task.h"
 
 #include <Kelto/AUTH_INF>
 #include <Kelto/AUTH_SET>
+#include <Kelto/VParameter>
+
+#include <QSettings>
 
 #include <QtTest>
 
 #include "support/temporarycurrentdirectory.h"
+
+namespace {
+
+QStringList plainNames(const QVector<VParameter> &parameters)
+{
+    QStringList names;
+    for (const VParameter &parameter : parameters)
+        names.append(parameter.name().first);
+    return names;
+}
+
+} // namespace
 
 class tst_Task : public QObject
 {
@@ -23,13 +37,16 @@ private Q_SLOTS:
     void selectTaskByStandardName();
     void unknownTaskChangesNothing_data();
     void unknownTaskChangesNothing();
+    void rememberedTaskComesBackInTheNextRun();
+    void firstTaskWhereNoneCanBeRecalled_data();
+    void firstTaskWhereNoneCanBeRecalled();
 };
 
 void tst_Task::noTaskAtFirst()
 {
     const TemporaryCurrentDirectory directory;
     QVERIFY(directory.isUsable());
-    AUTH_SET registry(QStringLiteral("Workbench"), QStringLiteral("1.0"), workbenchModules());
+    AUTH_SET registry(QStringLiteral("Workbench"), QStringLiteral("1.0"), compiledModules());
 
     QVERIFY(currentTask(registry).isNull());
 }
@@ -38,7 +55,7 @@ void tst_Task::taskHoldsWhatTheRegistryDescribes()
 {
     const TemporaryCurrentDirectory directory;
     QVERIFY(directory.isUsable());
-    AUTH_SET registry(QStringLiteral("Workbench"), QStringLiteral("1.0"), workbenchModules());
+    AUTH_SET registry(QStringLiteral("Workbench"), QStringLiteral("1.0"), compiledModules());
     // Position 5 of the group, but the third mode of its module.
     QVERIFY(selectTask(registry, QStringLiteral("Workbench:Statics:Torsion")));
 
@@ -48,14 +65,15 @@ void tst_Task::taskHoldsWhatTheRegistryDescribes()
     QCOMPARE(task.module.name, QStringLiteral("Helical spring"));
     QCOMPARE(task.mode.first, QStringLiteral("Torsion"));
     QCOMPARE(task.description, task.module.inner_mode_description.at(2));
-    QCOMPARE(task.parameters, task.module.inner_mode_parameterList.at(2));
-    QStringList results;
-    for (const QStringList &entry : task.results)
-        results.append(entry.at(Entry::Key));
-    QCOMPARE(results,
-             (QStringList { QStringLiteral("Torsional rate"), QStringLiteral("Angle of twist"),
-                            QStringLiteral("Curvature factor"),
-                            QStringLiteral("Bending stress") }));
+    QCOMPARE(plainNames(task.parameters),
+             (QStringList { "Active coils", "Elastic modulus", "Mean coil diameter", "Torque",
+                            "Wire diameter" }));
+    QCOMPARE(task.parameters.at(3).toSetsForm(),
+             (QStringList { "Load", "Torque", "torque", "false", "N·mm", "N·m", "M", "Torque",
+                            "Load" }));
+    QCOMPARE(plainNames(task.results),
+             (QStringList { "Angle of twist", "Bending stress", "Curvature factor",
+                            "Torsional rate" }));
 }
 
 void tst_Task::selectTaskByStandardName_data()
@@ -76,7 +94,7 @@ void tst_Task::selectTaskByStandardName()
     QFETCH(QString, standardName);
     const TemporaryCurrentDirectory directory;
     QVERIFY(directory.isUsable());
-    AUTH_SET registry(QStringLiteral("Workbench"), QStringLiteral("1.0"), workbenchModules());
+    AUTH_SET registry(QStringLiteral("Workbench"), QStringLiteral("1.0"), compiledModules());
     QVERIFY(selectTask(registry, standardName));
     QTEST(currentTask(registry).title(), "title");
 }
@@ -99,13 +117,57 @@ void tst_Task::unknownTaskChangesNothing()
     QFETCH(QString, standardName);
     const TemporaryCurrentDirectory directory;
     QVERIFY(directory.isUsable());
-    AUTH_SET registry(QStringLiteral("Workbench"), QStringLiteral("1.0"), workbenchModules());
+    AUTH_SET registry(QStringLiteral("Workbench"), QStringLiteral("1.0"), compiledModules());
     QVERIFY(selectTask(registry, QStringLiteral("Workbench:Vessels:Thick wall")));
 
     QVERIFY(!selectTask(registry, standardName));
 
     QCOMPARE(currentTask(registry).title(),
              QStringLiteral("Vessels › Pressure vessel › Thick wall"));
+}
+
+void tst_Task::rememberedTaskComesBackInTheNextRun()
+{
+    const TemporaryCurrentDirectory directory;
+    QVERIFY(directory.isUsable());
+    AUTH_SET earlier(QStringLiteral("Workbench"), QStringLiteral("1.0"), compiledModules());
+    QVERIFY(selectTask(earlier, QStringLiteral("Workbench:Vessels:Thick wall")));
+    rememberTask(earlier, currentTask(earlier));
+    // Selected, but never remembered.
+    QVERIFY(selectTask(earlier, QStringLiteral("Workbench:Heat:Steady")));
+    AUTH_SET registry(QStringLiteral("Workbench"), QStringLiteral("1.0"), compiledModules());
+
+    recallTask(registry);
+
+    QCOMPARE(currentTask(registry).title(),
+             QStringLiteral("Vessels › Pressure vessel › Thick wall"));
+}
+
+void tst_Task::firstTaskWhereNoneCanBeRecalled_data()
+{
+    QTest::addColumn<QString>("setting");
+
+    QTest::newRow("first run") << QString();
+    QTest::newRow("task that is no longer there") << "Workbench:Statics:Buckling";
+    QTest::newRow("task of another program") << "Desk:Vessels:Thick wall";
+}
+
+void tst_Task::firstTaskWhereNoneCanBeRecalled()
+{
+    QFETCH(QString, setting);
+    const TemporaryCurrentDirectory directory;
+    QVERIFY(directory.isUsable());
+    if (!setting.isNull()) {
+        QVERIFY(QDir().mkdir("Config"));
+        QSettings("Config/Workbench_config.ini", QSettings::IniFormat)
+            .setValue("Task/Last", setting);
+    }
+    AUTH_SET registry(QStringLiteral("Workbench"), QStringLiteral("1.0"), compiledModules());
+    QCOMPARE(registry.value_set("Task/Last").toString(), setting);
+
+    recallTask(registry);
+
+    QCOMPARE(currentTask(registry).title(), QStringLiteral("Statics › Beam › Cantilever"));
 }
 
 QTEST_GUILESS_MAIN(tst_Task)

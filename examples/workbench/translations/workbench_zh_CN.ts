@@ -103,6 +103,10 @@
         <source>All values are valid. Change one, and the results follow.</source>
         <translation>所有数值均有效。修改数值后结果随即更新。</translation>
     </message>
+    <message>
+        <source>%1: enter a number.</source>
+        <translation>%1：请输入数值。</translation>
+    </message>
 </context>
 <context>
     <name>ModuleTexts</name>
@@ -469,10 +473,6 @@
 </context>
 <context>
     <name>Numbers</name>
-    <message>
-        <source>enter a number.</source>
-        <translation>请输入数值。</translation>
-    </message>
     <message>
         <source>&quot;%1&quot; is not a number. Write decimals with a point and separate the numbers by semicolons, as in 0.5; 12.</source>
         <translation>“%1”不是数。小数请用小数点，各数以分号分隔，例如 0.5; 12。</translation>

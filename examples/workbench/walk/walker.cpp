@@ -83,7 +83,7 @@ void Walker::chooseFirstTask()
 {
     step(QStringLiteral("The program asks for a task"));
     waitForDialog();
-    expect(QStringLiteral("entry at first"), QString(),
+    expect(QStringLiteral("entry at first"), QStringLiteral("Workbench:Statics:Cantilever"),
            [this] { return m_onlooker.dialogEntry(); });
     pickEntry(QStringLiteral("Workbench:Vessels:Thick wall"));
     clickDialogButton("pushButton_accept", QStringLiteral("Accept"));
@@ -97,16 +97,17 @@ void Walker::lookAtThickWall()
     expect(QStringLiteral("title"), QStringLiteral("Vessels › Pressure vessel › Thick wall"),
            [this] { return m_onlooker.labelText("title"); });
     expect(QStringLiteral("parameters"),
-           QStringLiteral("Inner diameter | d | 400 | mm | Geometry\n"
-                          "Wall thickness | t | 16 | mm | Geometry\n"
+           QStringLiteral("External pressure | p₂ | 0.1 | MPa | Load\n"
+                          "Inner diameter | d | 400 | mm | Geometry\n"
                           "Internal pressure | p₁ | 6 | MPa | Load\n"
-                          "External pressure | p₂ | 0.1 | MPa | Load"),
+                          "Wall thickness | t | 16 | mm | Geometry"),
            [this] { return m_onlooker.rows("parameters").join(QLatin1Char('\n')); });
     expect(QStringLiteral("first result"),
-           QStringLiteral("Hoop stress inside | σₜ₁ | 76.7135 | MPa | Stress"),
+           QStringLiteral("Axial stress | σₐ | 35.3567 | MPa | Stress"),
            [this] { return m_onlooker.rows("results").value(0); });
-    expect(QStringLiteral("axial stress"), QStringLiteral("35.3567"),
-           [this] { return m_onlooker.valueIn("results", QStringLiteral("Axial stress")); });
+    expect(QStringLiteral("hoop stress"), QStringLiteral("76.7135"),
+           [this] { return m_onlooker.valueIn("results", QStringLiteral("Hoop stress inside")); });
+    expectRemembered(QStringLiteral("Workbench:Vessels:Thick wall"));
     takePicture(QStringLiteral("thick-wall"));
 }
 
@@ -120,6 +121,7 @@ void Walker::chooseDefault()
            [this] { return m_onlooker.labelText("title"); });
     expect(QStringLiteral("deflection"), QStringLiteral("2.75573"),
            [this] { return m_onlooker.valueIn("results", QStringLiteral("Deflection")); });
+    expectRemembered(QStringLiteral("Workbench:Statics:Cantilever"));
     takePicture(QStringLiteral("cantilever"));
 }
 
@@ -130,6 +132,7 @@ void Walker::chooseAndCancel()
            [this] { return m_onlooker.dialogEntry(); });
     pickEntry(QStringLiteral("Workbench:Heat:Steady"));
     clickDialogButton("pushButton_cancel", QStringLiteral("Cancel"));
+    expectRemembered(QStringLiteral("Workbench:Statics:Cantilever"));
     expect(QStringLiteral("title"), QStringLiteral("Statics › Beam › Cantilever"),
            [this] { return m_onlooker.labelText("title"); });
     expect(QStringLiteral("deflection"), QStringLiteral("2.75573"),
@@ -188,6 +191,15 @@ void Walker::lookAtFiles()
             throw Failure { QStringLiteral("\"%1\" in the log").arg(QLatin1String(line)), lines };
     }
     print(QStringLiteral("  log: ") + lines.trimmed());
+}
+
+/// Looks into the settings of the program, which the next start takes the task from.
+void Walker::expectRemembered(const QString &task)
+{
+    const QString path = m_directory.filePath(QStringLiteral("Config/Workbench_config.ini"));
+    expect(QStringLiteral("task in Config/Workbench_config.ini"), task, [path] {
+        return QSettings(path, QSettings::IniFormat).value(QStringLiteral("Task/Last")).toString();
+    });
 }
 
 void Walker::waitForDialog()

@@ -40,6 +40,7 @@ private:
     void closeWindow();
     void lookAtFiles();
 
+    void expectRemembered(const QString &task);
     void waitForDialog();
     void pickEntry(const QString &entry);
     void clickDialogButton(const char *name, const QString &text);
