@@ -199,6 +199,15 @@ void TestVIniSettingsBadFiles::keepsACopy_data()
     row("a group without keys between others", "[empty]\n[a]\nb=1\n", b);
     row("two values for a key", "[a]\nb=0\nb=1\n", b);
     row("two values for a key that is written in two ways", "a\\b=0\n[a]\nb=1\n", b);
+    row("two values for a key with an escape and without", "[a]\nb=0\n%62=1\n", b);
+    row("two values for a key with a wide escape and without", "[a]\nb=0\n%U0062=1\n", b);
+    row("two values for a key with a lower-case escape", "[a]\n%U503C=0\n%U503c=1\n",
+        { { "a/值", "1" } });
+    row("two values for a key with and without the header for no group", "b=0\n[General]\nb=1\n",
+        { { "b", "1" } });
+    row("two values for a key behind that header in two cases", "[general]\nb=0\n[General]\nb=1\n",
+        { { "b", "1" } });
+    row("two values for a key behind a header with spaces", "[ a ]\nb=0\n[a]\nb=1\n", b);
     row("a path with backslashes", "[a]\nb=C:\\quick\\path\n", { { "a/b", "C:uickath" } });
     row("an escape that is not finished", "[a]\nb=1\\xg\n", { { "a/b", "1g" } });
     row("an escape for more than a character", "[a]\nb=\\x100411\n", { { "a/b", "\u0411" } });

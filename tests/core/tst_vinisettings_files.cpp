@@ -89,6 +89,8 @@ private Q_SLOTS:
     void readsTypes_data();
     void readsTypes();
     void leavesOutWhatCannotBeStored();
+    void leavesOutListsThatNest_data();
+    void leavesOutListsThatNest();
 
 private:
     QScopedPointer<TemporaryCurrentDirectory> m_directory;
@@ -684,6 +686,29 @@ void TestVIniSettingsFiles::leavesOutWhatCannotBeStored()
     QCOMPARE(fileContent(path()),
              QByteArray("[General]\ntop=1\n\n[a]\nx=new\ny=two\n\n[b]\nz=three\n"));
     QCOMPARE(store.value("top").value<QObject *>(), this);
+}
+
+void TestVIniSettingsFiles::leavesOutListsThatNest_data()
+{
+    QTest::addColumn<int>("levels");
+    QTest::addColumn<QStringList>("keys");
+    QTest::newRow("a list of numbers") << 1 << QStringList { "after", "nested" };
+    QTest::newRow("as deep as lists are stored") << 100 << QStringList { "after", "nested" };
+    QTest::newRow("deeper than lists are stored") << 101 << QStringList { "after" };
+    QTest::newRow("deeper than a stack can follow") << 20000 << QStringList { "after" };
+}
+
+void TestVIniSettingsFiles::leavesOutListsThatNest()
+{
+    QFETCH(int, levels);
+    QVariant nested = 1;
+    for (int i = 0; i < levels; ++i)
+        nested = QVariantList { nested };
+    VIniSettings(Entries { { "nested", nested }, { "after", 2 } }).saveLocal(path());
+    const Reading reading = readInSecondProcess(path());
+    QCOMPARE(reading.messages, QStringList());
+    QTEST(reading.keys, "keys");
+    QVERIFY(fileContent(path()).contains("\nafter=2\n"));
 }
 
 QTEST_GUILESS_MAIN(TestVIniSettingsFiles)

@@ -63,6 +63,8 @@ private Q_SLOTS:
     void cleanup();
     void readsAndSavesWhatItMay_data();
     void readsAndSavesWhatItMay();
+    void savesThroughLinksWhereItMay_data();
+    void savesThroughLinksWhereItMay();
 
 private:
     QScopedPointer<TemporaryCurrentDirectory> m_directory;
@@ -86,6 +88,7 @@ void TestVIniSettingsPermissions::init()
 void TestVIniSettingsPermissions::cleanup()
 {
     QFile::setPermissions("here", open);
+    QFile::setPermissions("there", open);
     m_directory.reset();
 }
 
@@ -162,6 +165,46 @@ void TestVIniSettingsPermissions::readsAndSavesWhatItMay()
     QTEST(fileContent("here/f.ini"), "after");
     const QByteArray copy = fileContent("here/f.ini.bak");
     QVERIFY2(copy.isNull() || copy == before, copy.constData());
+}
+
+void TestVIniSettingsPermissions::savesThroughLinksWhereItMay_data()
+{
+    QTest::addColumn<QFile::Permissions>("linkDirectory");
+    QTest::addColumn<QFile::Permissions>("targetDirectory");
+    QTest::addColumn<Entries>("entries");
+    QTest::addColumn<QByteArray>("after");
+    const Entries old { { "a/b", "1" } };
+    const Entries saved { { "a/b", "1" }, { "a/c", "2" } };
+    QTest::newRow("everything is allowed") << open << open << saved << changed();
+    QTest::newRow("the target's directory may not be written")
+        << open << (readable | searchable) << old << stored();
+    QTest::newRow("the link's directory may not be written")
+        << (readable | searchable) << open << old << stored();
+}
+
+void TestVIniSettingsPermissions::savesThroughLinksWhereItMay()
+{
+    QFETCH(QFile::Permissions, linkDirectory);
+    QFETCH(QFile::Permissions, targetDirectory);
+    QVERIFY(QDir().mkdir("there"));
+    write("there/f.ini", stored());
+    QVERIFY(QFile::setPermissions("there/f.ini", readable | writable));
+    QVERIFY(QFile::link(QFileInfo("there/f.ini").absoluteFilePath(), "here/f.ini"));
+    QVERIFY(QFile::setPermissions("here", linkDirectory));
+    QVERIFY(QFile::setPermissions("there", targetDirectory));
+
+    const QVector<Reading> readings
+        = readInSecondProcess(arguments({ "--set", "a/c=2", "here/f.ini" }));
+    QVERIFY(QFile::setPermissions("here", open));
+    QVERIFY(QFile::setPermissions("there", open));
+    QCOMPARE(readings.size(), 1);
+    QCOMPARE(readings.constFirst().messages, QStringList());
+    QFETCH(Entries, entries);
+    QCOMPARE(readings.constFirst().entries, described(entries));
+    QVERIFY(QFileInfo("here/f.ini").isSymLink());
+    QTEST(fileContent("there/f.ini"), "after");
+    QCOMPARE(QDir("here").entryList(QDir::Files | QDir::Hidden), QStringList { "f.ini" });
+    QCOMPARE(QDir("there").entryList(QDir::Files | QDir::Hidden), QStringList { "f.ini" });
 }
 
 QTEST_GUILESS_MAIN(TestVIniSettingsPermissions)

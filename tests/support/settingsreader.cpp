@@ -9,6 +9,7 @@
 
 #include <Kelto/AUTH_SET>
 
+#include "support/becomeuser.h"
 #include "support/messages.h"
 #include "support/settingsjson.h"
 
@@ -16,31 +17,7 @@
 #include <QCoreApplication>
 #include <QFile>
 
-#ifdef Q_OS_UNIX
-#include <unistd.h>
-#endif
-#ifdef Q_OS_LINUX
-#include <sys/prctl.h>
-#endif
-
 namespace {
-
-bool becomeUser(const QString &id)
-{
-    if (id.isEmpty())
-        return true;
-#ifdef Q_OS_UNIX
-    if (setgid(id.toUInt()) != 0 || setuid(id.toUInt()) != 0)
-        return false;
-#ifdef Q_OS_LINUX
-    // A leak checker looks at the process through this, at its end.
-    prctl(PR_SET_DUMPABLE, 1);
-#endif
-    return true;
-#else
-    return false;
-#endif
-}
 
 AUTH_SET registry(const QString &application)
 {
