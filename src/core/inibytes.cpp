@@ -3,11 +3,14 @@
 
 #include "core/inibytes_p.h"
 
+#include "core/inikeys_p.h"
+
 #include <QDataStream>
 #include <QTextCodec>
 #include <QVariant>
 
 #include <algorithm>
+#include <string_view>
 
 namespace {
 
@@ -79,6 +82,9 @@ constexpr Serialised serialisedForms[] = {
 /// Whether QSettings takes over @p element, one element of a value with its escapes resolved.
 bool isTakenOver(const QByteArray &element)
 {
+    // Most elements are plain text, and files have many.
+    if (!element.contains('@'))
+        return true;
     const QString text = QString::fromUtf8(element.constData(), element.size()).trimmed();
     if (!text.endsWith(QLatin1Char(')')))
         return true;
@@ -105,7 +111,8 @@ public:
     }
 
     bool isWhole();
-    int keyCount() const { return m_keyCount; }
+    /// The keys that it has come by.
+    const IniKeys &keys() const { return m_keys; }
 
 private:
     enum class Place { Start, Plain, Quoted, Closed };
@@ -113,6 +120,11 @@ private:
     bool atEnd() const { return m_at >= m_bytes.size(); }
     char next() { return m_bytes.at(m_at++); }
     char ahead() const { return m_bytes.at(m_at); }
+
+    std::string_view text(int start, int end) const
+    {
+        return { m_bytes.constData() + start, static_cast<std::size_t>(end - start) };
+    }
 
     void skipBlanks();
     bool takeHeader();
@@ -126,7 +138,7 @@ private:
 
     const QByteArray &m_bytes;
     int m_at = 0;
-    int m_keyCount = 0;
+    IniKeys m_keys;
     Place m_place = Place::Start;
     QByteArray m_element;
 };
@@ -154,12 +166,14 @@ void IniWalk::skipBlanks()
 
 bool IniWalk::takeHeader()
 {
+    const int start = m_at + 1;
     while (!atEnd() && ahead() != ']') {
         if (breaksName(next()))
             return false;
     }
     if (atEnd())
         return false;
+    m_keys.enterGroup(text(start, m_at));
     ++m_at;
     while (!atEnd() && !isLineEnd(ahead())) {
         if (!isBlank(next()))
@@ -170,10 +184,11 @@ bool IniWalk::takeHeader()
 
 bool IniWalk::takeEntry()
 {
+    const int start = m_at;
     while (!atEnd()) {
         char c = next();
         if (c == '=') {
-            ++m_keyCount;
+            m_keys.add(text(start, m_at - 1));
             return takeValue();
         }
         // A backslash stands for "/" and hides the character behind it.
@@ -287,11 +302,15 @@ bool IniWalk::takeContinuation(char lineEnd)
 
 } // namespace
 
-bool survivesRewriting(const QByteArray &bytes, const QStringList &keys)
+bool survivesRewriting(const QByteArray &bytes, const QSettings &settings)
 {
-    if (!isUtf8(bytes) || !std::all_of(keys.cbegin(), keys.cend(), isStableKey))
-        return false;
     IniWalk walk(bytes);
+    if (!isUtf8(bytes) || !walk.isWhole())
+        return false;
+    if (walk.keys().areClear())
+        return true;
+    const QStringList keys = settings.allKeys();
     // Fewer keys than lines: QSettings has kept only one of several values.
-    return walk.isWhole() && walk.keyCount() <= keys.size();
+    return walk.keys().count() <= keys.size()
+        && std::all_of(keys.cbegin(), keys.cend(), isStableKey);
 }

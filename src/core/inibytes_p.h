@@ -5,17 +5,16 @@
 #define INIBYTES_P_H
 
 #include <QByteArray>
-#include <QStringList>
+#include <QSettings>
 
 /**
- * Whether everything that the @p bytes of an INI file say is still there after QSettings has read
- * them, as the keys @p keys, and has written them again. White space and byte order marks say
- * nothing.
+ * Whether everything that the @p bytes of an INI file say is still there after @p settings, which
+ * has read them, has written them again. White space and byte order marks say nothing.
  *
  * QSettings reads leniently and without a word: comments, lines without "=", sections without keys,
  * what stands behind a ";" or a "]", all but the last value of a key, unknown escapes and values of
  * unknown types are dropped. Where it is hard to tell the answer is no.
  */
-bool survivesRewriting(const QByteArray &bytes, const QStringList &keys);
+bool survivesRewriting(const QByteArray &bytes, const QSettings &settings);
 
 #endif

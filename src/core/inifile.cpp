@@ -63,7 +63,7 @@ bool isWritable(const QSettings &settings)
         && isDirectoryWritable(QFileInfo(path).canonicalFilePath());
 }
 
-/// Keeps a copy of the file at @p path, which holds @p bytes, and tells whether there is one.
+/// Makes a copy of the file at @p path, which holds @p bytes, and tells whether there is one.
 bool copyAside(const QString &path, const QByteArray &bytes)
 {
     QString copy = path + QLatin1String(".bak");
@@ -136,11 +136,15 @@ KeyValues entriesOf(const QSettings &settings)
     return entries;
 }
 
+/// Whether what the file holds will be there after writing, in the file or in a copy.
+bool isKept(const QSettings &settings)
+{
+    const QByteArray bytes = bytesOf(settings.fileName());
+    return survivesRewriting(bytes, settings) || copyAside(settings.fileName(), bytes);
+}
+
 void write(QSettings *settings, const KeyValues &entries)
 {
-    const QByteArray bytes = bytesOf(settings->fileName());
-    if (!survivesRewriting(bytes, settings->allKeys()) && !copyAside(settings->fileName(), bytes))
-        return;
     for (const KeyValue &entry : entries) {
         if (isKey(entry.first) && isStorable(entry.second))
             settings->setValue(entry.first, entry.second);
@@ -155,9 +159,7 @@ bool ensureFile(const QString &path)
     if (!isPath(path))
         return false;
     QFile file(path);
-    file.open(QIODevice::ReadWrite | QIODevice::Text);
-    file.close();
-    return file.exists();
+    return file.exists() || file.open(QIODevice::ReadWrite | QIODevice::Text);
 }
 
 // A damaged value can make QSettings ask for more memory than there is. Such a file has no keys and
@@ -180,7 +182,7 @@ void writeIniFile(const QString &path, const KeyValues &entries)
         return;
     try {
         Utf8Settings settings(path);
-        if (isWritable(settings))
+        if (isWritable(settings) && isKept(settings))
             write(&settings, entries);
     } catch (const std::bad_alloc &) {
     }

@@ -20,8 +20,11 @@ constexpr int shortList = 16;
 
 int firstIndexOf(const KeyValues &entries, const QString &key)
 {
-    const auto found = std::find_if(entries.cbegin(), entries.cend(),
-                                    [&key](const KeyValue &entry) { return entry.first == key; });
+    // Most keys already differ in length, which is seen here without a call.
+    const auto isNamed = [&key](const KeyValue &entry) {
+        return entry.first.size() == key.size() && entry.first == key;
+    };
+    const auto found = std::find_if(entries.cbegin(), entries.cend(), isNamed);
     return found == entries.cend() ? -1 : static_cast<int>(found - entries.cbegin());
 }
 
@@ -82,13 +85,14 @@ QStringList KeyValueList::keys() const
 
 int KeyValueList::indexOf(const QString &key) const
 {
+    if (m_entries.size() <= shortList)
+        return firstIndexOf(m_entries, key);
     if (isIndexed())
         return m_index.indexOf(key);
 
     const int index = firstIndexOf(m_entries, key);
     m_walked += index < 0 ? m_entries.size() : index;
-    if (m_mayIndex && m_entries.size() > shortList
-        && m_walked > qint64(walksPerIndex) * (m_entries.size() + entriesPerIndex))
+    if (m_mayIndex && m_walked > qint64(walksPerIndex) * (m_entries.size() + entriesPerIndex))
         buildIndex();
     return index;
 }
