@@ -7,7 +7,7 @@
 
 #include "core/namesort_p.h"
 #include "registry/auth_set_p.h"
-#include "registry/distinctparameters_p.h"
+#include "registry/knownparameters_p.h"
 
 #include <QSet>
 
@@ -48,9 +48,9 @@ Parameters resultsOf(const AUTH_INF &item)
 
 Parameters distinct(const Parameters &first, const Parameters &second)
 {
-    DistinctParameters parameters;
-    parameters.add(first);
-    parameters.add(second);
+    KnownParameters parameters;
+    parameters.appendNew(first);
+    parameters.appendNew(second);
     return parameters.list();
 }
 
@@ -132,10 +132,10 @@ QVector<VParameter> AUTH_SET::defaultParameterList(QString exclusiveGroup, QStri
 
 QVector<VParameter> AUTH_SET::defaultParameterList(QString exclusiveGroup) const
 {
-    DistinctParameters parameters;
+    KnownParameters parameters;
     const QVector<Parameters> lists = parametersByMode(*this, exclusiveGroup);
     for (const Parameters &list : lists)
-        parameters.add(list);
+        parameters.appendNew(list);
     return sortedByName(parameters.list());
 }
 
@@ -162,12 +162,12 @@ QVector<VParameter> AUTH_SET::defaultParameterListBySubGroup(QString subGroup) c
 QVector<VParameter> AUTH_SET::defaultParameterListInSubGroup(QString exclusiveGroup,
                                                              QString subGroup) const
 {
-    DistinctParameters found;
+    KnownParameters found;
     const QVector<Parameters> lists = parametersByMode(*this, exclusiveGroup);
     for (const Parameters &list : lists) {
         for (const VParameter &parameter : list) {
             if (isInSubGroup(parameter, subGroup))
-                found.add(parameter);
+                found.appendNew(parameter);
         }
     }
     return sortedByName(found.list());

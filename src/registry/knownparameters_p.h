@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: The Kelto developers
 // SPDX-License-Identifier: MIT
 
-#ifndef DISTINCTPARAMETERS_P_H
-#define DISTINCTPARAMETERS_P_H
+#ifndef KNOWNPARAMETERS_P_H
+#define KNOWNPARAMETERS_P_H
 
 #include "vparameter.h"
 
@@ -15,17 +15,19 @@
 class KnownParameters
 {
 public:
-    /// Whether any of them is equal to @p parameter. All have to be kept for that: what is equal to
-    /// one of two equal parameters need not be equal to the other one.
+    /// Whether any of them is equal to @p parameter. What is equal to one of two equal parameters
+    /// need not be equal to the other one, so that all are asked that were appended.
     bool contains(const VParameter &parameter) const;
 
     void append(const VParameter &parameter);
 
+    /// Appends @p parameter unless an equal one is there.
+    void appendNew(const VParameter &parameter);
+    void appendNew(const QVector<VParameter> &parameters);
+
     const QVector<VParameter> &list() const { return m_list; }
 
 private:
-    friend class DistinctParameters;
-
     /// The hash under which @p parameter is or would be found; 0 while the list is so short that
     /// none is needed.
     uint hashOf(const VParameter &parameter) const;
@@ -35,20 +37,6 @@ private:
     QVector<VParameter> m_list;
     /// Positions in the list by the hash of the parameter there; empty while the list is short.
     QMultiHash<uint, int> m_positions;
-};
-
-/// Parameters in the order in which they came, without those that are equal to an earlier one.
-class DistinctParameters
-{
-public:
-    /// Appends @p parameter unless an equal one is there.
-    void add(const VParameter &parameter);
-    void add(const QVector<VParameter> &parameters);
-
-    const QVector<VParameter> &list() const { return m_known.list(); }
-
-private:
-    KnownParameters m_known;
 };
 
 #endif

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Kelto developers
 // SPDX-License-Identifier: MIT
 
-#include "registry/distinctparameters_p.h"
+#include "registry/knownparameters_p.h"
 
 #include "core/vparameter_p.h"
 
@@ -57,15 +57,15 @@ void KnownParameters::append(uint hash, const VParameter &parameter)
         m_positions.insert(parameterHash(m_list.at(i)), i);
 }
 
-void DistinctParameters::add(const VParameter &parameter)
+void KnownParameters::appendNew(const VParameter &parameter)
 {
-    const uint hash = m_known.hashOf(parameter);
-    if (!m_known.contains(hash, parameter))
-        m_known.append(hash, parameter);
+    const uint hash = hashOf(parameter);
+    if (!contains(hash, parameter))
+        append(hash, parameter);
 }
 
-void DistinctParameters::add(const QVector<VParameter> &parameters)
+void KnownParameters::appendNew(const QVector<VParameter> &parameters)
 {
     for (const VParameter &parameter : parameters)
-        add(parameter);
+        appendNew(parameter);
 }
