@@ -20,7 +20,9 @@ using Hash = QHash<QString, QVariant>;
 
 constexpr auto makeEntries = [](int size) { return settingsEntries(size); };
 
-/// Every run starts from a copy of the store, which nobody has asked yet.
+/// Runs that only ask go on with the store, as hosts do that keep one. What an index costs is part
+/// of the rows that begin with a new store: filling, merging, temporary values, the check of
+/// values.
 template <typename Store> struct Asked
 {
     Store store;
@@ -68,7 +70,7 @@ void addFilling(Suite &suite)
 void addValues(Suite &suite)
 {
     const auto ask = [](const auto &asked) {
-        const auto store = asked.store;
+        const auto &store = asked.store;
         QVector<QVariant> values;
         values.reserve(asked.entries.size());
         for (const auto &entry : asked.entries)
@@ -91,7 +93,7 @@ void addValues(Suite &suite)
 void addContains(Suite &suite)
 {
     const auto ask = [](const auto &asked) {
-        const auto store = asked.store;
+        const auto &store = asked.store;
         int count = 0;
         for (const auto &entry : asked.entries)
             count += store.contains(entry.first) ? 1 : 0;

@@ -17,8 +17,9 @@ namespace {
 constexpr int largestQuickBaseline = 100;
 constexpr int largestQuickSize = 10000;
 
-constexpr int repetitions = 3;
-constexpr double secondsPerRepetition = 0.05;
+/// The sides of a comparison take turns, so that a while in which the machine is slow meets both.
+constexpr int turns = 5;
+constexpr double secondsPerTurn = 0.03;
 
 /// A step stays ready while it is measured repeatedly, so that its input is made only once.
 struct ReadyStep
@@ -56,7 +57,7 @@ void registerStep(const std::string &name, int size, bool quick, Prepare prepare
     if (quick)
         registered->Iterations(1);
     else
-        registered->MinTime(secondsPerRepetition)->Repetitions(repetitions);
+        registered->MinTime(secondsPerTurn);
 }
 
 std::string stepName(const Comparison &comparison, Runner runner)
@@ -110,10 +111,8 @@ private:
         }
         const Place place = m_places.at(run.run_name.function_name);
         m_rows[place.row].addTime(place.runner, size, run.GetAdjustedCPUTime());
-        if (run.repetition_index <= 0) {
-            std::cerr << run.run_name.function_name << ", n=" << size << ": "
-                      << timeText(run.GetAdjustedCPUTime()) << '\n';
-        }
+        std::cerr << run.run_name.function_name << ", n=" << size << ": "
+                  << timeText(run.GetAdjustedCPUTime()) << '\n';
     }
 
     std::map<std::string, Place> m_places;
@@ -136,10 +135,12 @@ void registerComparison(const Comparison &comparison, bool quick)
     for (int size : comparison.sizes) {
         if (quick && size > largestQuickSize)
             continue;
-        registerStep(stepName(comparison, Runner::Library), size, quick, library, libraryStep);
-        if (size <= largestBaseline) {
-            registerStep(stepName(comparison, Runner::Baseline), size, quick, baseline,
-                         baselineStep);
+        for (int turn = 0; turn < (quick ? 1 : turns); ++turn) {
+            registerStep(stepName(comparison, Runner::Library), size, quick, library, libraryStep);
+            if (size <= largestBaseline) {
+                registerStep(stepName(comparison, Runner::Baseline), size, quick, baseline,
+                             baselineStep);
+            }
         }
     }
 }

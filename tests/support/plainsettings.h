@@ -7,7 +7,7 @@
 #include "support/settingsjson.h"
 
 /// The rules of a settings store in memory, transcribed one by one, without a thought of speed. The
-/// library's store is compared with it.
+/// library's store is compared with it, also in time, and so it takes arguments by value like that.
 class PlainSettings
 {
 public:
@@ -28,7 +28,7 @@ public:
         return keys;
     }
 
-    QStringList allKeys(const QString &group) const
+    QStringList allKeys(QString group) const
     {
         const QString slash = QStringLiteral("/");
         QStringList keys;
@@ -59,18 +59,18 @@ public:
         return groups;
     }
 
-    bool contains(const QString &key) const { return m_keys.contains(key); }
+    bool contains(QString key) const { return m_keys.contains(key); }
 
-    bool contains(const QStringList &keys) const
+    bool contains(QStringList keys) const
     {
-        for (const QString &key : keys) {
+        for (const QString &key : qAsConst(keys)) {
             if (!contains(key))
                 return false;
         }
         return true;
     }
 
-    bool remove(const QString &key)
+    bool remove(QString key)
     {
         const int index = m_keys.indexOf(key);
         if (index < 0)
@@ -81,24 +81,24 @@ public:
         return true;
     }
 
-    bool remove(const QStringList &keys)
+    bool remove(QStringList keys)
     {
-        for (const QString &key : keys) {
+        for (const QString &key : qAsConst(keys)) {
             if (!remove(key))
                 return false;
         }
         return true;
     }
 
-    bool removeGroup(const QString &group)
+    bool removeGroup(QString group)
     {
         const QStringList keys = allKeys(group);
         return !keys.isEmpty() && remove(keys);
     }
 
-    void setValue(const QString &key, const QVariant &value) { setValue(key, value, &m_data); }
+    void setValue(QString key, QVariant value) { setValue(key, value, &m_data); }
 
-    void setValue(const QString &key, const QVariant &value, Entries *target)
+    void setValue(QString key, QVariant value, Entries *target)
     {
         for (int i = 0; i < target->size(); ++i) {
             if (target->at(i).first == key) {
@@ -116,7 +116,7 @@ public:
             setValue(source->at(i).first, source->at(i).second, target);
     }
 
-    void setValue(const Entries &data, bool replace)
+    void setValue(Entries data, bool replace)
     {
         if (replace)
             m_data = data;
@@ -125,7 +125,7 @@ public:
         m_keys = allKeys(m_data);
     }
 
-    QVariant value(const QString &key) const { return value(key, &m_data); }
+    QVariant value(QString key) const { return value(key, &m_data); }
 
     static QVariant value(const QString &key, const Entries *data)
     {
