@@ -67,44 +67,35 @@ void addFilling(Suite &suite)
             [](int n) { return n; });
 }
 
+/// Measures what @p ask does with a store that holds many keys.
+template <typename Ask, typename Expected>
+void compareAsking(Suite &suite, const char *name, Ask ask, Expected expected)
+{
+    const Side library { makeAsked<VIniSettings>, ask };
+    compare(suite, { name, "plain scans", 10000 }, library, Side { makeAsked<PlainSettings>, ask },
+            asItIs, expected);
+    compare(suite, { name, "QHash", 100000, noLimit }, library, Side { makeAskedHash, ask }, asItIs,
+            expected);
+}
+
 void addValues(Suite &suite)
 {
     const auto ask = [](const auto &asked) {
-        const auto &store = asked.store;
-        QVector<QVariant> values;
-        values.reserve(asked.entries.size());
-        for (const auto &entry : asked.entries)
-            values.append(store.value(entry.first));
-        return values;
+        return valuesOf(asked.entries,
+                        [&asked](const QString &key) { return asked.store.value(key); });
     };
-    const auto expected = [](int size) {
-        QVector<QVariant> values;
-        for (int i = 0; i < size; ++i)
-            values.append(settingsValue(i));
-        return values;
-    };
-    const Side library { makeAsked<VIniSettings>, ask };
-    compare(suite, { "value of every key", "plain scans", 10000 }, library,
-            Side { makeAsked<PlainSettings>, ask }, asItIs, expected);
-    compare(suite, { "value of every key", "QHash", 100000, noLimit }, library,
-            Side { makeAskedHash, ask }, asItIs, expected);
+    compareAsking(suite, "value of every key", ask, settingsValues);
 }
 
 void addContains(Suite &suite)
 {
     const auto ask = [](const auto &asked) {
-        const auto &store = asked.store;
         int count = 0;
         for (const auto &entry : asked.entries)
-            count += store.contains(entry.first) ? 1 : 0;
+            count += asked.store.contains(entry.first) ? 1 : 0;
         return count;
     };
-    const auto expected = [](int size) { return size; };
-    const Side library { makeAsked<VIniSettings>, ask };
-    compare(suite, { "contains of every key", "plain scans", 10000 }, library,
-            Side { makeAsked<PlainSettings>, ask }, asItIs, expected);
-    compare(suite, { "contains of every key", "QHash", 100000, noLimit }, library,
-            Side { makeAskedHash, ask }, asItIs, expected);
+    compareAsking(suite, "contains of every key", ask, [](int size) { return size; });
 }
 
 void addMerging(Suite &suite)

@@ -43,6 +43,26 @@ inline Entries settingsEntries(int size, int first = 0)
     return entries;
 }
 
+/// What @p ask gives for the key of every entry, in order.
+template <typename Ask> QVector<QVariant> valuesOf(const Entries &entries, Ask ask)
+{
+    QVector<QVariant> values;
+    values.reserve(entries.size());
+    for (const auto &entry : entries)
+        values.append(ask(entry.first));
+    return values;
+}
+
+/// The values of settingsEntries(size).
+inline QVector<QVariant> settingsValues(int size)
+{
+    QVector<QVariant> values;
+    values.reserve(size);
+    for (int i = 0; i < size; ++i)
+        values.append(settingsValue(i));
+    return values;
+}
+
 inline QStringList keysOf(const Entries &entries)
 {
     QStringList keys;

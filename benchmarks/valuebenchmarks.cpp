@@ -40,21 +40,12 @@ void addTemporaryValues(Suite &suite)
         auto registry = stored.registry;
         for (const auto &entry : stored.entries)
             registry.set_temp(entry.first, entry.second);
-        QVector<QVariant> values;
-        values.reserve(stored.entries.size());
-        for (const auto &entry : stored.entries)
-            values.append(registry.value_temp(entry.first));
-        return values;
-    };
-    const auto expected = [](int size) {
-        QVector<QVariant> values;
-        for (int i = 0; i < size; ++i)
-            values.append(settingsValue(i));
-        return values;
+        return valuesOf(stored.entries,
+                        [&registry](const QString &key) { return registry.value_temp(key); });
     };
     compare(suite, { "set_temp, value_temp of every key", "plain scans", 10000 },
             Side { makeTemporary<AUTH_SET>, setAndAsk },
-            Side { makeTemporary<PlainValues>, setAndAsk }, asItIs, expected);
+            Side { makeTemporary<PlainValues>, setAndAsk }, asItIs, settingsValues);
 }
 
 QString calculationKey(const char *group, int i)

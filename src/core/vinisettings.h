@@ -115,12 +115,13 @@ public:
 
     /**
      * Writes the list into the file @p path, which is created where it is missing, and keeps the
-     * other keys of that file. The store stays bound to its own file.
+     * other keys of that file. Directories are not made. The store stays bound to its own file.
      *
      * What QSettings makes nothing of would be lost in that: comments, broken lines, damaged
      * values. A file with any of it is kept as a copy beside it, with the additional ending ".bak",
      * or ".bak2" and so on next to an earlier copy. Values that QSettings cannot store, pointers
-     * for example, are left out.
+     * for example, are left out. So are characters that take two QChars, such as emoji: QSettings
+     * of Qt 5 drops them from what it writes in UTF-8.
      */
     void saveLocal(QString path) const;
     /// Writes the list into the file that the store is bound to.

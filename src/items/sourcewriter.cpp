@@ -42,8 +42,8 @@ QStringList SourceWriter::quoted(const QStringList &texts)
 {
     QStringList values;
     values.reserve(texts.size());
-    for (const QString &text : texts)
-        values.append(quoted(text));
+    std::transform(texts.cbegin(), texts.cend(), std::back_inserter(values),
+                   [](const QString &text) { return quoted(text); });
     return values;
 }
 

@@ -340,8 +340,8 @@ public:
     void delete_temp(QString key);
 
     /// Writes @p values into the INI file @p path, in order, and keeps its other keys; always true.
-    /// Missing directories are made. A file of which something would be lost is copied first, as by
-    /// VIniSettings::saveLocal().
+    /// Missing directories are made. What cannot be stored is left out, and a file of which
+    /// something would be lost is copied first, as VIniSettings::saveLocal() does it.
     bool save(QString path, const QVector<QPair<QString, QVariant>> *values) const;
     /// Sets every key of the INI file @p path in @p values: the first entry of the key gets the
     /// value, or both are appended. A file that cannot be read has no keys. Always true.
