@@ -34,23 +34,32 @@ QVariant firstValueOf(const KeyValues &entries, const QString &key)
 }
 
 KeyValueList::KeyValueList(const KeyValueList &other)
-    : m_entries(other.m_entries)
+    : m_entries(other.copiedEntries())
     , m_index(other.m_index)
     , m_walked(other.m_walked)
 {
-    if (other.m_isLent)
-        m_entries.detach();
 }
 
-KeyValueList &KeyValueList::operator=(const KeyValueList &other)
+KeyValues KeyValueList::copiedEntries() const
 {
-    KeyValueList copy(other);
-    m_entries.swap(copy.m_entries);
-    std::swap(m_index, copy.m_index);
-    m_walked = copy.m_walked;
-    if (!m_mayIndex)
-        dropIndex();
-    return *this;
+    KeyValues copy = m_entries;
+    if (m_isLent)
+        copy.detach();
+    return copy;
+}
+
+void KeyValueList::replace(const KeyValues &entries)
+{
+    if (m_entries.isSharedWith(entries))
+        return;
+    const auto haveOneKey = [](const KeyValue &a, const KeyValue &b) { return a.first == b.first; };
+    const bool haveSameKeys = std::equal(m_entries.cbegin(), m_entries.cend(), entries.cbegin(),
+                                         entries.cend(), haveOneKey);
+    // Copies of what is lent share nothing with it, so that its own copy may come back here.
+    if (m_isLent && haveSameKeys)
+        std::copy(entries.cbegin(), entries.cend(), m_entries.begin());
+    else
+        *this = KeyValueList(entries);
 }
 
 QVariant *KeyValueList::lendValue(int index)

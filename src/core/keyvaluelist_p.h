@@ -41,11 +41,19 @@ public:
     }
 
     KeyValueList(const KeyValueList &other);
-    KeyValueList &operator=(const KeyValueList &other);
+    KeyValueList(KeyValueList &&other) = default;
+    KeyValueList &operator=(const KeyValueList &other) { return *this = KeyValueList(other); }
+    KeyValueList &operator=(KeyValueList &&other) = default;
+    ~KeyValueList() = default;
 
     const KeyValues &entries() const { return m_entries; }
+    /// The entries, to be kept: what is written to lent places does not reach them.
+    KeyValues copiedEntries() const;
     /// Gives the entries away; the list is empty then.
     KeyValues take();
+    /// Takes @p entries over. Lent values stay valid if these are the entries that are there, or
+    /// if they have the same keys.
+    void replace(const KeyValues &entries);
     int size() const { return m_entries.size(); }
     QStringList keys() const;
 
@@ -55,8 +63,7 @@ public:
     /// Value of the first entry with the key @p key; invalid when there is none.
     QVariant value(const QString &key) const;
 
-    /// The value at @p index, to be written; valid until the list is changed. Copies that are made
-    /// from now on do not share it.
+    /// The value at @p index, to be written; valid until the list is changed.
     QVariant *lendValue(int index);
     /// The entries, to be written, with the same validity. Their keys may change unseen, so that
     /// the list is not indexed any more.

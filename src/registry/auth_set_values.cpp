@@ -63,7 +63,7 @@ QVector<QPair<QString, QVariant>> AUTH_SET::value_group(QString group) const
     const int index = d->values.groupNames.indexOf(group);
     if (index < 0)
         return {};
-    return KeyValueList(d->values.groups[static_cast<std::size_t>(index)]).take();
+    return d->values.groups[static_cast<std::size_t>(index)].copiedEntries();
 }
 
 QVariant AUTH_SET::value_group_at(QString group, QString key) const
@@ -106,10 +106,7 @@ void AUTH_SET::setDefaultSettings(QString group, QVector<QPair<QString, QVariant
         d->values.groups.emplace_back(values);
         return;
     }
-    KeyValueList &list = d->values.groups[static_cast<std::size_t>(index)];
-    // The very list that is stored already leaves pointers into it valid.
-    if (!list.entries().isSharedWith(values))
-        list = KeyValueList(values);
+    d->values.groups[static_cast<std::size_t>(index)].replace(values);
 }
 
 void AUTH_SET::setValueInSet(QString key, QVariant value)
@@ -136,7 +133,7 @@ void AUTH_SET::getCalculationLData(QVector<QPair<QString, QVariant>> data)
 
 void AUTH_SET::set_temp(QString key, QVariant value)
 {
-    d->values.temporary.set(key, value);
+    d->values.temporary.insert(key, value);
 }
 
 QVariant AUTH_SET::value_temp(QString key) const
@@ -146,9 +143,7 @@ QVariant AUTH_SET::value_temp(QString key) const
 
 void AUTH_SET::delete_temp(QString key)
 {
-    const int index = d->values.temporary.indexOf(key);
-    if (index >= 0)
-        d->values.temporary.removeAt(index);
+    d->values.temporary.remove(key);
 }
 
 bool AUTH_SET::save(QString path, const QVector<QPair<QString, QVariant>> *values) const

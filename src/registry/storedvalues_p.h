@@ -7,6 +7,10 @@
 #include "core/firstpositions_p.h"
 #include "core/keyvaluelist_p.h"
 
+#include <QHash>
+#include <QString>
+#include <QVariant>
+
 #include <vector>
 
 /// What a registry remembers for its host, by key.
@@ -14,7 +18,8 @@ struct StoredValues
 {
     KeyValueList set;
     KeyValueList calculation;
-    KeyValueList temporary;
+    /// Nobody sees an order of these, or two of one key.
+    QHash<QString, QVariant> temporary;
 
     /// Lists of values by the name of their group; entry i of one belongs to entry i of the other.
     FirstPositions groupNames;

@@ -141,6 +141,9 @@ private Q_SLOTS:
     void lentValuesReachNoCopy();
     void lentEntriesReachNoCopy();
     void findsKeysThatChangedUnseen();
+    void replacesEntries_data();
+    void replacesEntries();
+    void replacesByItsOwnEntries();
     void isEmptyAfterTake();
     void dropsMarkedPositions_data();
     void dropsMarkedPositions();
@@ -304,15 +307,55 @@ void TestKeyValueList::findsKeysThatChangedUnseen()
         QCOMPARE(other.indexOf("key 49"), 49);
     }
     KeyValues *entries = list.lendEntries();
-    for (int round = 0; round < 3; ++round) {
-        for (int i = 0; i < 100; ++i)
-            QCOMPARE(list.indexOf("key 49"), 49);
-        (*entries)[49].first = "renamed";
-        QCOMPARE(list.indexOf("key 49"), -1);
-        QCOMPARE(list.indexOf("renamed"), 49);
-        // A list that takes another's entries over, with its index, is still lent itself.
-        list = other;
-    }
+    for (int i = 0; i < 100; ++i)
+        QCOMPARE(list.indexOf("key 49"), 49);
+    (*entries)[49].first = "renamed";
+    QCOMPARE(list.indexOf("key 49"), -1);
+    QCOMPARE(list.indexOf("renamed"), 49);
+
+    list = other;
+    QCOMPARE(list.indexOf("key 49"), 49);
+    QCOMPARE(list.indexOf("renamed"), -1);
+}
+
+void TestKeyValueList::replacesEntries_data()
+{
+    QTest::addColumn<Entries>("entries");
+    QTest::addColumn<bool>("staysInPlace");
+    const Entries same { { "a", 1 }, { "b", 2 }, { "a", 3 } };
+    QTest::newRow("the same") << same << true;
+    QTest::newRow("the same keys")
+        << Entries { { "a", "x" }, { "b", 2.5 }, { "a", QVariant() } } << true;
+    QTest::newRow("another key") << Entries { { "a", 1 }, { "c", 2 }, { "a", 3 } } << false;
+    QTest::newRow("more entries") << Entries(same + Entries { { "c", 4 } }) << false;
+    QTest::newRow("fewer entries") << same.mid(0, 2) << false;
+    QTest::newRow("none") << Entries() << false;
+}
+
+void TestKeyValueList::replacesEntries()
+{
+    QFETCH(Entries, entries);
+    QFETCH(bool, staysInPlace);
+    KeyValueList list(Entries { { "a", 1 }, { "b", 2 }, { "a", 3 } });
+    const QVariant *place = list.lendValue(1);
+    list.replace(entries);
+    QCOMPARE(described(list.entries()), described(entries));
+    if (staysInPlace)
+        QCOMPARE(static_cast<const QVariant *>(list.lendValue(1)), place);
+    for (const auto &entry : qAsConst(entries))
+        QCOMPARE(list.indexOf(entry.first), firstIndexOf(entries, entry.first));
+}
+
+void TestKeyValueList::replacesByItsOwnEntries()
+{
+    KeyValueList list(Entries { { "a", 1 }, { "b", 2 } });
+    QVariant *place = list.lendValue(1);
+    list.replace(Entries(list.entries()));
+    const Entries copied = list.copiedEntries();
+    list.replace(copied);
+    *place = "written";
+    QCOMPARE(described(list.value("b")), described(QVariant("written")));
+    QCOMPARE(described(copied), described(Entries { { "a", 1 }, { "b", 2 } }));
 }
 
 void TestKeyValueList::isEmptyAfterTake()

@@ -50,6 +50,7 @@ private Q_SLOTS:
     void pointersOutliveCopies_data();
     void pointersOutliveCopies();
     void takesBackALentList();
+    void takesBackACopyOfALentList();
 
 private:
     QScopedPointer<TemporaryCurrentDirectory> m_directory;
@@ -429,6 +430,20 @@ void TestAuthSetValuePointers::takesBackALentList()
     *value = "written";
     QCOMPARE(set.value_group_at("g", "l"), QVariant("written"));
     QCOMPARE(described(given), described(Entries { { "k", 1 }, { "l", 2 } }));
+}
+
+void TestAuthSetValuePointers::takesBackACopyOfALentList()
+{
+    AUTH_SET set;
+    set.setDefaultSettings("g", { { "k", 1 }, { "l", 2 } });
+    QVariant *value = set.value_group_at_p("g", "l");
+    set.setDefaultSettings("g", set.value_group("g"));
+    // Groups that are added do not move the others.
+    for (int i = 0; i < 100; ++i)
+        set.setDefaultSettings(QString::number(i), {});
+    QCOMPARE(set.value_group_at_p("g", "l"), value);
+    *value = "written";
+    QCOMPARE(set.value_group_at("g", "l"), QVariant("written"));
 }
 
 QTEST_GUILESS_MAIN(TestAuthSetValuePointers)
