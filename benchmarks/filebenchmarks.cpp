@@ -11,6 +11,7 @@
 #include "settingsinput.h"
 #include "sides.h"
 
+#include <Kelto/AUTH_SET>
 #include <Kelto/VIniSettings>
 
 #include <QHash>
@@ -27,6 +28,27 @@ struct Saved
     BenchmarkFile file;
     Entries entries;
 };
+
+Entries loadWithLibrary(const QString &path)
+{
+    VIniSettings store;
+    store.setPath(path);
+    return store.data();
+}
+
+Entries loadWithRegistry(const QString &path)
+{
+    static const AUTH_SET registry;
+    Entries entries;
+    registry.load(path, &entries);
+    return entries;
+}
+
+void saveWithRegistry(const QString &path, const Entries &entries)
+{
+    static const AUTH_SET registry;
+    registry.save(path, &entries);
+}
 
 void saveWithLibrary(const QString &path, const Entries &entries)
 {
@@ -82,27 +104,23 @@ QHash<QString, QString> expectedTexts(int size)
     return textsByKey(settingsEntries(size));
 }
 
+/// The side that loads with @p load from a file that has changed.
+auto loading(Entries (*load)(const QString &))
+{
+    return Side { makeSaved, [load](const Saved &saved) { return load(saved.file.path()); },
+                  touch };
+}
+
 void addLoading(Suite &suite)
 {
-    const Side library { makeSaved,
-                         [](const Saved &saved) {
-                             VIniSettings store;
-                             store.setPath(saved.file.path());
-                             return store.data();
-                         },
-                         touch };
-    const Side settings { makeSaved,
-                          [](const Saved &saved) { return loadWithQSettings(saved.file.path()); },
-                          touch };
-    compare(suite, { "loading", "QSettings", 100000, fileLimit }, library, settings, textsByKey,
-            expectedTexts);
+    compare(suite, { "loading", "QSettings", 100000, fileLimit }, loading(loadWithLibrary),
+            loading(loadWithQSettings), textsByKey, expectedTexts);
+    compare(suite, { "AUTH_SET::load", "QSettings", 100000, fileLimit }, loading(loadWithRegistry),
+            loading(loadWithQSettings), textsByKey, expectedTexts);
 #ifdef KELTO_BENCHMARKS_KCONFIG
-    const Side config { makeSaved,
-                        [](const Saved &saved) { return loadWithKConfig(saved.file.path()); },
-                        touch };
     const auto size = [](const Entries &entries) { return entries.size(); };
-    compare(suite, { "loading", "KConfig", 100000, noLimit }, library, config, size,
-            [](int n) { return n; });
+    compare(suite, { "loading", "KConfig", 100000, noLimit }, loading(loadWithLibrary),
+            loading(loadWithKConfig), size, [](int n) { return n; });
 #endif
 }
 
@@ -130,6 +148,9 @@ void addSaving(Suite &suite)
     const char *again = "saving into the same file";
     compare(suite, { again, "QSettings", 100000, fileLimit }, saving(saveWithLibrary, touch),
             saving(saveWithQSettings, touch), savedTexts, expectedTexts);
+    compare(suite, { "AUTH_SET::save into the same file", "QSettings", 100000, fileLimit },
+            saving(saveWithRegistry, touch), saving(saveWithQSettings, touch), savedTexts,
+            expectedTexts);
 #ifdef KELTO_BENCHMARKS_KCONFIG
     // What KConfig writes is not what QSettings reads: only the time is compared.
     const auto path = [](const QString &saved) { return saved.isEmpty(); };

@@ -7,6 +7,7 @@
 
 #include "benchmarkfile.h"
 #include "parameterinput.h"
+#include "plaincode.h"
 #include "plainitems.h"
 #include "sides.h"
 
@@ -109,11 +110,14 @@ void addFiles(Suite &suite)
 void addSourceText(Suite &suite)
 {
     const Side library { itemOf, [](const AUTH_INF &item) { return item.to_code(); } };
+    const Side plain { itemOf, [](const AUTH_INF &item) {
+                          return PlainCode::of(item, QStringLiteral("UCal"), QStringLiteral("inf"));
+                      } };
     const auto entryCount = [](const QString &code) {
         return code.count(QLatin1String("]<<QStringList{"))
             + code.count(QLatin1String("]=QStringList{"));
     };
-    compare(suite, { "to_code", "n parameters, 10 modes" }, library, NoSide(), entryCount,
+    compare(suite, { "to_code", "n parameters, 10 modes", 100000 }, library, plain, entryCount,
             [](int size) { return 2 * size + size / 10; });
 }
 

@@ -14,6 +14,8 @@
 
 #include <QHash>
 
+#include <type_traits>
+
 namespace {
 
 using Hash = QHash<QString, QVariant>;
@@ -27,17 +29,19 @@ template <typename Store> struct Asked
 {
     Store store;
     Entries entries;
+    /// As many as the store holds; every second key is there already.
+    Entries others;
 };
 
 template <typename Store>
 constexpr auto makeAsked = [](int size) {
     const Entries entries = settingsEntries(size);
-    return Asked<Store> { Store(entries), entries };
+    return Asked<Store> { Store(entries), entries, settingsEntries(size, size / 2) };
 };
 
 Asked<Hash> makeAskedHash(int size)
 {
-    Asked<Hash> asked { {}, settingsEntries(size) };
+    Asked<Hash> asked { {}, settingsEntries(size), {} };
     for (const auto &entry : qAsConst(asked.entries))
         asked.store.insert(entry.first, entry.second);
     return asked;
@@ -95,15 +99,23 @@ void addContains(Suite &suite)
             count += asked.store.contains(entry.first) ? 1 : 0;
         return count;
     };
-    compareAsking(suite, "contains of every key", ask, [](int size) { return size; });
+    const auto expected = [](int size) { return size; };
+    compareAsking(suite, "contains of every key", ask, expected);
+
+    const auto askNew = [ask](const auto &asked) {
+        const std::decay_t<decltype(asked)> copy = asked;
+        return ask(copy);
+    };
+    compare(suite, { "contains of every key", "plain scans, new store", 10000 },
+            Side { makeAsked<VIniSettings>, askNew }, Side { makeAsked<PlainSettings>, askNew },
+            asItIs, expected);
 }
 
 void addMerging(Suite &suite)
 {
-    // Every second of the merged keys is there already.
     const auto merge = [](const auto &asked) {
         auto store = asked.store;
-        store.setValue(settingsEntries(asked.entries.size(), asked.entries.size() / 2), false);
+        store.setValue(asked.others, false);
         return store.data();
     };
     const auto expected = [](int size) { return settingsEntries(size + size / 2); };

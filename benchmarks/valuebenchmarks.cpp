@@ -46,6 +46,25 @@ void addTemporaryValues(Suite &suite)
     compare(suite, { "set_temp, value_temp of every key", "plain scans", 10000 },
             Side { makeTemporary<AUTH_SET>, setAndAsk },
             Side { makeTemporary<PlainValues>, setAndAsk }, asItIs, settingsValues);
+
+    // Of all but the first key, from the last on.
+    const auto setAndDelete = [](const auto &stored) {
+        auto registry = stored.registry;
+        for (const auto &entry : stored.entries)
+            registry.set_temp(entry.first, entry.second);
+        for (int i = stored.entries.size() - 1; i > 0; --i)
+            registry.delete_temp(stored.entries.at(i).first);
+        return registry;
+    };
+    const auto left = [](const auto &registry) {
+        return QVector<QVariant> { registry.value_temp(settingsKey(0)),
+                                   registry.value_temp(settingsKey(1)) };
+    };
+    compare(suite, { "set_temp, delete_temp of every key", "plain scans", 10000 },
+            Side { makeTemporary<AUTH_SET>, setAndDelete },
+            Side { makeTemporary<PlainValues>, setAndDelete }, left, [](int /*size*/) {
+                return QVector<QVariant> { settingsValue(0), QVariant() };
+            });
 }
 
 QString calculationKey(const char *group, int i)
@@ -221,22 +240,55 @@ void addResultLists(Suite &suite)
             Side { groupsOfFive<PlainParameters>, ofAll }, shown, distinctHalf);
 }
 
+/// The sub-groups of the parameters with the numbers below @p count, sorted.
+QVector<QPair<QString, QString>> sortedSubGroups(int count)
+{
+    QVector<QPair<QString, QString>> groups;
+    for (int i = 0; i < count; i += 10) {
+        const QString name = parameterEntry(i).at(0);
+        groups.append({ name, name });
+    }
+    std::sort(groups.begin(), groups.end());
+    return groups;
+}
+
 void addSubGroups(Suite &suite)
 {
+    const char *name = "defaultParameterSubGroupList";
+    const auto ofHalf = [](int size) { return sortedSubGroups(qMax(1, size / 2)); };
+    const auto ofMode = [](const auto &subject) {
+        return subject.lists().defaultParameterSubGroupList(QStringLiteral("Group 0"),
+                                                            QStringLiteral("mode"));
+    };
+    compare(suite, { name, "of a mode", 10000 }, Side { oneMode<LibraryParameters>, ofMode },
+            Side { oneMode<PlainParameters>, ofMode }, asItIs, sortedSubGroups);
+    const auto ofGroup = [](const auto &subject) {
+        return subject.lists().defaultParameterSubGroupList(QStringLiteral("Group 0"));
+    };
+    compare(suite, { name, "of a group", 1000 }, Side { oneGroup<LibraryParameters>, ofGroup },
+            Side { oneGroup<PlainParameters>, ofGroup }, asItIs, ofHalf);
     const auto ofAll
         = [](const auto &subject) { return subject.lists().defaultParameterSubGroupList(); };
-    const auto expected = [](int size) {
-        QVector<QPair<QString, QString>> groups;
-        for (int i = 0; i < qMax(1, size / 2); i += 10) {
-            const QString name = parameterEntry(i).at(0);
-            groups.append({ name, name });
-        }
-        std::sort(groups.begin(), groups.end());
-        return groups;
+    compare(suite, { name, "of everything", 1000 }, Side { groupsOfFive<LibraryParameters>, ofAll },
+            Side { groupsOfFive<PlainParameters>, ofAll }, asItIs, ofHalf);
+}
+
+void addParametersOfSubGroup(Suite &suite)
+{
+    const auto expected = [](int size) { return shown(sortedParameters(qBound(1, size / 2, 10))); };
+    const auto ofAll = [](const auto &subject) {
+        return subject.lists().defaultParameterListBySubGroup(QStringLiteral("sub-group 0"));
     };
-    compare(suite, { "defaultParameterSubGroupList", "of everything", 1000 },
+    compare(suite, { "defaultParameterListBySubGroup", "of everything", 1000 },
             Side { groupsOfFive<LibraryParameters>, ofAll },
-            Side { groupsOfFive<PlainParameters>, ofAll }, asItIs, expected);
+            Side { groupsOfFive<PlainParameters>, ofAll }, shown, expected);
+    const auto ofGroup = [](const auto &subject) {
+        return subject.lists().defaultParameterListInSubGroup(QStringLiteral("Group 0"),
+                                                              QStringLiteral("sub-group 0"));
+    };
+    compare(suite, { "defaultParameterListInSubGroup", "of a group", 1000 },
+            Side { oneGroup<LibraryParameters>, ofGroup },
+            Side { oneGroup<PlainParameters>, ofGroup }, shown, expected);
 }
 
 /// Two lists of n parameters that have half of them in common.
@@ -294,5 +346,6 @@ void addValueBenchmarks(Suite &suite)
     addParameterLists(suite);
     addResultLists(suite);
     addSubGroups(suite);
+    addParametersOfSubGroup(suite);
     addTwoLists(suite);
 }

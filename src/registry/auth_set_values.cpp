@@ -45,7 +45,7 @@ KeyValueList *groupOrFirst(StoredValues &values, const QString &group)
 
 void AUTH_SETPrivate::loadSetValues()
 {
-    values.set.merge(readIniFile(settingsPath(applicationName)));
+    values.set = KeyValueList(readIniFile(settingsPath(applicationName)));
 }
 
 QVariant AUTH_SET::value_set(QString key) const
@@ -157,8 +157,14 @@ bool AUTH_SET::load(QString path, QVector<QPair<QString, QVariant>> *values) con
 {
     if (!values)
         return true;
+    const KeyValues loaded = readIniFile(path);
+    if (values->isEmpty()) {
+        // No key is twice in a file, so that none has to be looked for.
+        *values = loaded;
+        return true;
+    }
     KeyValueList merged(std::move(*values));
-    merged.merge(readIniFile(path));
+    merged.merge(loaded);
     *values = merged.take();
     return true;
 }
