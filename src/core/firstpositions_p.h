@@ -7,11 +7,29 @@
 #include <QHash>
 #include <QString>
 
+#include <utility>
+
 /// The texts of a list that only grows, looked up at the cost of a hash look-up: indexOf() gives
 /// what QStringList::indexOf() gives on that list.
 class FirstPositions
 {
 public:
+    FirstPositions() = default;
+    FirstPositions(const FirstPositions &other) = default;
+    FirstPositions(FirstPositions &&other) noexcept { swap(other); }
+    FirstPositions &operator=(FirstPositions other) noexcept
+    {
+        swap(other);
+        return *this;
+    }
+    ~FirstPositions() = default;
+
+    void swap(FirstPositions &other) noexcept
+    {
+        m_positions.swap(other.m_positions);
+        std::swap(m_size, other.m_size);
+    }
+
     /// Takes @p text in at the position size().
     void append(const QString &text);
 

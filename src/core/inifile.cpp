@@ -4,10 +4,12 @@
 #include "core/inifile_p.h"
 
 #include "core/inibytes_p.h"
+#include "core/ininesting_p.h"
 
 #include <QDataStream>
 #include <QFile>
 #include <QFileInfo>
+#include <QLockFile>
 #include <QMetaType>
 #include <QSettings>
 
@@ -45,7 +47,7 @@ bool canBeFile(const QString &path)
 QByteArray bytesOf(const QString &path)
 {
     QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return canBeFile(path) && file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 bool isDirectoryWritable(const QString &path)
@@ -61,6 +63,17 @@ bool isWritable(const QSettings &settings)
     const QString path = settings.fileName();
     return settings.isWritable() && isDirectoryWritable(path)
         && isDirectoryWritable(QFileInfo(path).canonicalFilePath());
+}
+
+/// How long another program may keep the file locked while it writes.
+constexpr int longestLock = 1000;
+
+/// Whether nobody else is just writing the file. QSettings would wait for that without end, also
+/// for something that merely has the name of its lock.
+bool isUnlocked(const QSettings &settings)
+{
+    const QFileInfo lock(settings.fileName() + QLatin1String(".lock"));
+    return !lock.exists() || (lock.isFile() && QLockFile(lock.filePath()).tryLock(longestLock));
 }
 
 /// Makes a copy of the file at @p path, which holds @p bytes, and tells whether there is one.
@@ -136,10 +149,9 @@ KeyValues entriesOf(const QSettings &settings)
     return entries;
 }
 
-/// Whether what the file holds will be there after writing, in the file or in a copy.
-bool isKept(const QSettings &settings)
+/// Whether what the file holds, its @p bytes, will be there after writing, in it or in a copy.
+bool isKept(const QByteArray &bytes, const QSettings &settings)
 {
-    const QByteArray bytes = bytesOf(settings.fileName());
     return survivesRewriting(bytes, settings) || copyAside(settings.fileName(), bytes);
 }
 
@@ -162,12 +174,14 @@ bool ensureFile(const QString &path)
     return file.exists() || file.open(QIODevice::ReadWrite | QIODevice::Text);
 }
 
-// A damaged value can make QSettings ask for more memory than there is. Such a file has no keys and
-// is left alone.
+// A damaged value can make QSettings ask for more memory than there is, or nest deeper than the
+// stack goes. Such a file has no keys and is left alone.
 
 KeyValues readIniFile(const QString &path)
 {
     if (!canBeFile(path))
+        return {};
+    if (QFileInfo(path).size() >= smallestDeepFile && nestsTooDeep(bytesOf(path)))
         return {};
     try {
         return entriesOf(Utf8Settings(path));
@@ -180,10 +194,16 @@ void writeIniFile(const QString &path, const KeyValues &entries)
 {
     if (entries.isEmpty() || !canBeFile(path))
         return;
+    QByteArray bytes = bytesOf(path);
+    if (nestsTooDeep(bytes))
+        return;
     try {
         Utf8Settings settings(path);
-        if (isWritable(settings) && isKept(settings))
-            write(&settings, entries);
+        if (!isWritable(settings) || !isUnlocked(settings) || !isKept(bytes, settings))
+            return;
+        // Their memory is of use in writing.
+        bytes.clear();
+        write(&settings, entries);
     } catch (const std::bad_alloc &) {
     }
 }

@@ -137,10 +137,11 @@ void VParameter::set(QStringList sets)
     fields.name = { sets.at(ParameterEntry::Key), sets.at(ParameterEntry::TranslatedKey) };
     fields.unit = { sets.at(ParameterEntry::Unit), sets.at(ParameterEntry::SecondUnit) };
     fields.parameterObjectName = sets.at(ParameterEntry::ObjectName);
-    const QString &multi = sets.at(ParameterEntry::Multi);
     // With neither word the flag stays.
-    if (multi == multiWord(true) || multi == multiWord(false))
-        fields.multi = multi == multiWord(true);
+    if (sets.at(ParameterEntry::Multi) == QLatin1String("true"))
+        fields.multi = true;
+    if (sets.at(ParameterEntry::Multi) == QLatin1String("false"))
+        fields.multi = false;
     fields.symbol = sets.at(ParameterEntry::Symbol);
 }
 

@@ -62,20 +62,13 @@ bool AUTH_INF::inner_mode_contains(QString mode, QString key) const
 
 bool AUTH_INF::inner_mode_contains(QString key) const
 {
-    FirstPositions modes;
-    for (int i = 0; i < inner_mode_nameList.size(); ++i) {
-        const QString &mode = inner_mode_nameList.at(i);
-        modes.append(mode);
-        // A name given twice stands for its first mode.
-        if (modes.indexOf(mode) == i && holdsKey(inner_mode_parameterList.value(i), key))
-            return true;
-    }
-    return false;
+    return !parameter_belonglist(key).isEmpty();
 }
 
 QStringList AUTH_INF::parameter_belonglist(QString key) const
 {
-    // Each list is searched once, however many names stand for it.
+    // A name given twice stands for its first mode. Each list is searched once, however many names
+    // stand for it.
     QVector<bool> hasKey(inner_mode_parameterList.size());
     std::transform(inner_mode_parameterList.cbegin(), inner_mode_parameterList.cend(),
                    hasKey.begin(),

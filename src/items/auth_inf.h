@@ -131,7 +131,8 @@ public:
      * written as that number.
      *
      * Nothing is escaped: a text with a double quote, a backslash or a line break does not compile
-     * as it was meant.
+     * as it was meant. Neither does a value that reads as a number but is none in C++ that fits an
+     * int, such as 08, inf, nan, 2147483648 and -2147483648.
      */
     QString to_code(QString context, QString variable) const;
 

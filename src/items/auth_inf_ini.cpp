@@ -16,16 +16,23 @@
 
 namespace {
 
-/// Of what is in the file for every parameter or result: sections that both share.
 namespace Section {
-const QLatin1String unit("Unit/");
-const QLatin1String symbol("Symbol/");
-const QLatin1String multi("Multi/");
-const QLatin1String objectName("ObjectName/");
-const QLatin1String group("Group/");
-const QLatin1String belong("Belong/");
-const QLatin1String extraKey("ExtraKey/");
+const QLatin1String attribute("Attribute");
+const QLatin1String result("Result");
+const QLatin1String belong("Belong");
+const QLatin1String extraKey("ExtraKey");
+// What describes an entry. Parameters and results share these.
+const QLatin1String unit("Unit");
+const QLatin1String symbol("Symbol");
+const QLatin1String multi("Multi");
+const QLatin1String objectName("ObjectName");
+const QLatin1String group("Group");
 } // namespace Section
+
+QString keyIn(QLatin1String section, const QString &key)
+{
+    return section + QLatin1Char('/') + key;
+}
 
 /// The key of one of the item's own fields.
 QString fieldKey(const char *field)
@@ -66,11 +73,11 @@ void writeEntry(VIniSettings &file, const QStringList &entry)
     const QString key = keyOf(entry);
     const QStringList units { entry.value(ParameterEntry::Unit),
                               entry.value(ParameterEntry::SecondUnit) };
-    file.setValue(Section::unit + key, units);
-    file.setValue(Section::symbol + key, entry.value(ParameterEntry::Symbol));
-    file.setValue(Section::multi + key, entry.value(ParameterEntry::Multi));
-    file.setValue(Section::objectName + key, entry.value(ParameterEntry::ObjectName));
-    file.setValue(Section::group + key, entry.value(ParameterEntry::Group));
+    file.setValue(keyIn(Section::unit, key), units);
+    file.setValue(keyIn(Section::symbol, key), entry.value(ParameterEntry::Symbol));
+    file.setValue(keyIn(Section::multi, key), entry.value(ParameterEntry::Multi));
+    file.setValue(keyIn(Section::objectName, key), entry.value(ParameterEntry::ObjectName));
+    file.setValue(keyIn(Section::group, key), entry.value(ParameterEntry::Group));
 }
 
 void writeResults(VIniSettings &file, const QVector<QStringList> &results)
@@ -78,7 +85,7 @@ void writeResults(VIniSettings &file, const QVector<QStringList> &results)
     for (const QStringList &entry : results) {
         if (entry.size() != ParameterEntry::PlaceCount)
             continue;
-        file.setValue(QLatin1String("Result/") + keyOf(entry), QString());
+        file.setValue(keyIn(Section::result, keyOf(entry)), QString());
         writeEntry(file, entry);
     }
 }
@@ -131,12 +138,12 @@ void writeParameters(VIniSettings &file, const AUTH_INF &item)
 {
     const QVector<QStringList> parameters = distinctParameters(item);
     for (const QStringList &entry : parameters) {
-        file.setValue(QLatin1String("Attribute/") + keyOf(entry), QString());
+        file.setValue(keyIn(Section::attribute, keyOf(entry)), QString());
         writeEntry(file, entry);
     }
     const QHash<QString, QStringList> lists = belongLists(item);
     for (const QStringList &entry : parameters)
-        file.setValue(Section::belong + keyOf(entry), lists.value(keyOf(entry)));
+        file.setValue(keyIn(Section::belong, keyOf(entry)), lists.value(keyOf(entry)));
 }
 
 // --- Loading ---------------------------------------------------------------------
@@ -167,7 +174,7 @@ void readFields(const VIniSettings &file, AUTH_INF &item)
 
 /// The keys of the entries in @p section. Of a key with "/" the last part is left, and what
 /// describes the entry is looked up under that.
-QStringList entryKeys(const VIniSettings &file, const QString &section)
+QStringList entryKeys(const VIniSettings &file, QLatin1String section)
 {
     QStringList keys = file.allKeys(section);
     for (QString &key : keys)
@@ -177,16 +184,16 @@ QStringList entryKeys(const VIniSettings &file, const QString &section)
 
 QStringList readEntry(const VIniSettings &file, const QString &key)
 {
-    const QStringList units = file.value(Section::unit + key).toStringList();
-    const QString group = file.value(Section::group + key).toString();
+    const QStringList units = file.value(keyIn(Section::unit, key)).toStringList();
+    const QString group = file.value(keyIn(Section::group, key)).toString();
     // In the order of ParameterEntry::Place.
     return { group,
              key,
-             file.value(Section::objectName + key).toString(),
-             file.value(Section::multi + key).toString(),
+             file.value(keyIn(Section::objectName, key)).toString(),
+             file.value(keyIn(Section::multi, key)).toString(),
              units.value(0),
              units.value(units.size() - 1),
-             file.value(Section::symbol + key).toString(),
+             file.value(keyIn(Section::symbol, key)).toString(),
              key,
              group };
 }
@@ -206,10 +213,10 @@ QVector<QVector<QStringList>> readParameters(const VIniSettings &file, const AUT
 {
     QVector<QVector<QStringList>> lists(item.inner_mode_nameList.size());
     const QHash<QString, QVector<int>> positions = modePositions(item);
-    const QStringList keys = entryKeys(file, QStringLiteral("Attribute"));
+    const QStringList keys = entryKeys(file, Section::attribute);
     for (const QString &key : keys) {
         const QStringList entry = readEntry(file, key);
-        QStringList modes = file.value(Section::belong + key).toStringList();
+        QStringList modes = file.value(keyIn(Section::belong, key)).toStringList();
         modes.removeDuplicates();
         for (const QString &mode : qAsConst(modes)) {
             const QVector<int> modesOfName = positions.value(mode);
@@ -225,7 +232,7 @@ QVector<QVector<QStringList>> readParameters(const VIniSettings &file, const AUT
 QVector<QStringList> readResults(const VIniSettings &file)
 {
     const int count = file.value(fieldKey("output_results")).toStringList().size();
-    const QStringList keys = entryKeys(file, QStringLiteral("Result")).mid(0, count);
+    const QStringList keys = entryKeys(file, Section::result).mid(0, count);
     QVector<QStringList> results;
     results.reserve(keys.size());
     for (const QString &key : keys)
@@ -236,9 +243,9 @@ QVector<QStringList> readResults(const VIniSettings &file)
 QVector<VDataItem> readExtraKeys(const VIniSettings &file)
 {
     QVector<VDataItem> items;
-    const QStringList keys = entryKeys(file, QStringLiteral("ExtraKey"));
+    const QStringList keys = entryKeys(file, Section::extraKey);
     for (const QString &key : keys)
-        items.append({ key, file.value(Section::extraKey + key) });
+        items.append({ key, file.value(keyIn(Section::extraKey, key)) });
     return items;
 }
 
@@ -261,6 +268,6 @@ void AUTH_INF::save_ini(QString path) const
     // After the results, whose descriptions they replace where keys are equal.
     writeParameters(file, *this);
     for (const VDataItem &extra : extraKey)
-        file.setValue(Section::extraKey + extra.key, extra.value);
+        file.setValue(keyIn(Section::extraKey, extra.key), extra.value);
     file.saveLocal();
 }
