@@ -3,8 +3,7 @@
 
 #include "core/keyvaluelist_p.h"
 
-#include "support/randomitems.h"
-#include "support/settingsjson.h"
+#include "support/randomentries.h"
 
 #include <QTest>
 
@@ -41,14 +40,6 @@ QStringList plainKeys(const Entries &entries)
     for (const auto &entry : entries)
         keys.append(entry.first);
     return keys;
-}
-
-Entries someEntries(Dice *dice, const QStringList &keys, int count)
-{
-    Entries entries;
-    for (int i = 0; i < count; ++i)
-        entries.append({ dice->oneOf(keys), dice->between(0, 999) });
-    return entries;
 }
 
 /// Every @p step-th key of many, so that some of them are in a list and some are not.

@@ -5,7 +5,7 @@
 
 #include <Kelto/VIniSettings>
 
-#include "support/messages.h"
+#include "support/directorytest.h"
 #include "support/plainsettings.h"
 #include "support/settingsjson.h"
 
@@ -36,13 +36,11 @@ Entries withDoubles()
 Q_DECLARE_METATYPE(Change)
 Q_DECLARE_METATYPE(Query)
 
-class TestVIniSettings : public QObject
+class TestVIniSettings : public SilentDirectoryTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { m_messages.reset(new Messages); }
-    void cleanup();
     void startsEmpty();
     void takesDataAsItIs_data();
     void takesDataAsItIs();
@@ -54,17 +52,7 @@ private Q_SLOTS:
     void removes();
     void copiesAreIndependent();
     void copiesKeepKeysApart();
-
-private:
-    QScopedPointer<Messages> m_messages;
 };
-
-void TestVIniSettings::cleanup()
-{
-    const QStringList messages = Messages::collected();
-    m_messages.reset();
-    QCOMPARE(messages, QStringList());
-}
 
 void TestVIniSettings::startsEmpty()
 {

@@ -6,13 +6,14 @@
 
 #include <Kelto/VIniSettings>
 
-#include "support/messages.h"
+#include "support/directorytest.h"
 #include "support/outofmemory.h"
 #include "support/randomitems.h"
 #include "support/secondprocess.h"
 #include "support/settingsjson.h"
-#include "support/temporarycurrentdirectory.h"
+#include "support/testfiles.h"
 
+#include <QLockFile>
 #include <QPoint>
 #include <QRect>
 #include <QRegularExpression>
@@ -25,17 +26,10 @@
 
 namespace {
 
-void write(const QString &name, const QByteArray &bytes)
+QStringList sorted(QStringList texts)
 {
-    QFile file(name);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(bytes), qint64(bytes.size()));
-}
-
-QStringList filesHere()
-{
-    return QDir().entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
-                            QDir::Name);
+    texts.sort();
+    return texts;
 }
 
 void setAndSave(const QString &path, const QString &value)
@@ -52,7 +46,8 @@ QVariantMap valuesIn(const QByteArray &bytes)
     // A name that is new to this process: QSettings remembers files.
     static int number = 0;
     const QString name = labelled("fresh", ++number);
-    write(name, bytes);
+    if (!writeFile(name, bytes))
+        QTest::qFail("the file cannot be written", __FILE__, __LINE__);
     QVariantMap values;
     {
         QSettings settings(name, QSettings::IniFormat);
@@ -129,13 +124,11 @@ QByteArray anyBytes(Dice *dice)
 
 } // namespace
 
-class TestVIniSettingsBadFiles : public QObject
+class TestVIniSettingsBadFiles : public SilentDirectoryTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void keepsACopy_data();
     void keepsACopy();
     void keepsNoCopyOfProperFiles_data();
@@ -149,29 +142,15 @@ private Q_SLOTS:
     void standsValuesOfSenselessSize();
     void keepsACopyOfValuesThatNobodyKnows_data();
     void keepsACopyOfValuesThatNobodyKnows();
+    void standsListsInLists_data();
+    void standsListsInLists();
     void doesNotWaitForAPipe();
+    void doesNotWaitForALock_data();
+    void doesNotWaitForALock();
+    void savesWhenAnAbandonedLockIsLeft();
     void losesNothingOfHostileBytes_data();
     void losesNothingOfHostileBytes();
-
-private:
-    QScopedPointer<TemporaryCurrentDirectory> m_directory;
-    QScopedPointer<Messages> m_messages;
 };
-
-void TestVIniSettingsBadFiles::init()
-{
-    m_directory.reset(new TemporaryCurrentDirectory);
-    QVERIFY(m_directory->isUsable());
-    m_messages.reset(new Messages);
-}
-
-void TestVIniSettingsBadFiles::cleanup()
-{
-    const QStringList messages = Messages::collected();
-    m_messages.reset();
-    m_directory.reset();
-    QCOMPARE(messages, QStringList());
-}
 
 void TestVIniSettingsBadFiles::keepsACopy_data()
 {
@@ -254,7 +233,7 @@ void TestVIniSettingsBadFiles::keepsACopy()
     // The file was read by this process before, or it was not, or it is another process.
     const QStringList names { "loaded.ini", "unread.ini", "other.ini" };
     for (const QString &name : names)
-        write(name, bytes);
+        QVERIFY(writeFile(name, bytes));
     const VIniSettings before(QString("loaded.ini"));
     QCOMPARE(described(before.data()), described(loaded));
     QCOMPARE(fileContent("loaded.ini"), bytes);
@@ -265,7 +244,7 @@ void TestVIniSettingsBadFiles::keepsACopy()
     QCOMPARE(other.size(), 1);
     QCOMPARE(other.at(0).messages, QStringList());
 
-    QCOMPARE(filesHere(),
+    QCOMPARE(filesIn("."),
              (QStringList { "loaded.ini", "loaded.ini.bak", "other.ini", "other.ini.bak",
                             "unread.ini", "unread.ini.bak" }));
     for (const QString &name : names) {
@@ -314,12 +293,12 @@ void TestVIniSettingsBadFiles::keepsNoCopyOfProperFiles_data()
 void TestVIniSettingsBadFiles::keepsNoCopyOfProperFiles()
 {
     QFETCH(QByteArray, bytes);
-    write("f.ini", bytes);
+    QVERIFY(writeFile("f.ini", bytes));
     const QVariantMap before = valuesIn(bytes);
     setAndSave("f.ini", "value");
     setAndSave("f.ini", "other value");
     QCOMPARE(readInSecondProcess(QStringList { "--set", "zz/new=1", "f.ini" }).size(), 1);
-    QCOMPARE(filesHere(), QStringList { "f.ini" });
+    QCOMPARE(filesIn("."), QStringList { "f.ini" });
     QVariantMap after = valuesIn(fileContent("f.ini"));
     QCOMPARE(after.take("zz/new"), QVariant("1"));
     QCOMPARE(after, before);
@@ -327,25 +306,25 @@ void TestVIniSettingsBadFiles::keepsNoCopyOfProperFiles()
 
 void TestVIniSettingsBadFiles::keepsNoCopyOfAKeyWithoutAName()
 {
-    write("f.ini", "[a]\n=1\n");
+    QVERIFY(writeFile("f.ini", "[a]\n=1\n"));
     setAndSave("f.ini", "value");
     setAndSave("f.ini", "value");
     // Its key is "a/"; when it is set, QSettings takes it for "a".
     QCOMPARE(fileContent("f.ini"),
              QByteArray("[General]\na=@Invalid()\n\n[a]\n=1\n\n[zz]\nnew=value\n"));
-    QCOMPARE(filesHere(), QStringList { "f.ini" });
+    QCOMPARE(filesIn("."), QStringList { "f.ini" });
 }
 
 void TestVIniSettingsBadFiles::keepsEarlierCopies()
 {
     for (int i = 1; i <= 4; ++i) {
         const QByteArray junk = "junk " + QByteArray::number(i) + "\n[a]\nb=1\n";
-        write("f.ini", junk);
+        QVERIFY(writeFile("f.ini", junk));
         if (i == 3)
             QVERIFY(QDir().mkdir("f.ini.bak3"));
         setAndSave("f.ini", "value");
     }
-    QCOMPARE(filesHere(),
+    QCOMPARE(filesIn("."),
              (QStringList { "f.ini", "f.ini.bak", "f.ini.bak2", "f.ini.bak3", "f.ini.bak4",
                             "f.ini.bak5" }));
     QCOMPARE(fileContent("f.ini.bak"), QByteArray("junk 1\n[a]\nb=1\n"));
@@ -359,25 +338,25 @@ void TestVIniSettingsBadFiles::keepsOneCopyOfTheSame()
 {
     const QByteArray commented = "; a file that is put back again and again\na=1\n";
     for (int i = 0; i < 3; ++i) {
-        write("f.ini", commented);
+        QVERIFY(writeFile("f.ini", commented));
         VIniSettings store("f.ini", true);
         for (int j = 0; j < 3; ++j)
             store.setValue("a", j);
     }
-    QCOMPARE(filesHere(), (QStringList { "f.ini", "f.ini.bak" }));
+    QCOMPARE(filesIn("."), (QStringList { "f.ini", "f.ini.bak" }));
     QCOMPARE(fileContent("f.ini.bak"), commented);
     QCOMPARE(fileContent("f.ini"), QByteArray("[General]\na=2\n"));
 }
 
 void TestVIniSettingsBadFiles::leavesAloneWhatItCannotCopy()
 {
-    write("f.ini", "junk\na=1\n");
+    QVERIFY(writeFile("f.ini", "junk\na=1\n"));
     // Links that lead nowhere are no files, and yet they are in the way.
     QVERIFY(QFile::link("nowhere", "f.ini.bak"));
     QVERIFY(QFileInfo("f.ini.bak").isSymLink());
     setAndSave("f.ini", "value");
     QCOMPARE(fileContent("f.ini"), QByteArray("junk\na=1\n"));
-    QCOMPARE(filesHere(), (QStringList { "f.ini", "f.ini.bak" }));
+    QCOMPARE(filesIn("."), (QStringList { "f.ini", "f.ini.bak" }));
     QVERIFY(QFileInfo("f.ini.bak").isSymLink());
     // What could not be saved is not told to others in this process either.
     QCOMPARE(VIniSettings(QString("f.ini")).allKeys(), QStringList { "a" });
@@ -390,13 +369,13 @@ void TestVIniSettingsBadFiles::leavesAloneWhatItCannotCopy()
 void TestVIniSettingsBadFiles::copiesOnlyBeforeItWrites()
 {
     const QByteArray junk = "junk\na=1\n";
-    write("f.ini", junk);
+    QVERIFY(writeFile("f.ini", junk));
     VIniSettings store("f.ini", true);
     store.setPath("f.ini");
     store.setValue(Entries { { "b", 2 } }, true);
     QVERIFY(store.remove("b"));
     store.saveLocal();
-    QCOMPARE(filesHere(), QStringList { "f.ini" });
+    QCOMPARE(filesIn("."), QStringList { "f.ini" });
     QCOMPARE(fileContent("f.ini"), junk);
 }
 
@@ -404,11 +383,11 @@ void TestVIniSettingsBadFiles::keepsTheCopyOfAFileThatOthersBroke()
 {
     VIniSettings store("f.ini", true);
     store.setValue("a", 1);
-    QCOMPARE(filesHere(), QStringList { "f.ini" });
+    QCOMPARE(filesIn("."), QStringList { "f.ini" });
     const QByteArray broken = "[General]\na=1\nb=from an editor\nand a line that is none\n";
-    write("f.ini", broken);
+    QVERIFY(writeFile("f.ini", broken));
     store.setValue("a", 2);
-    QCOMPARE(filesHere(), (QStringList { "f.ini", "f.ini.bak" }));
+    QCOMPARE(filesIn("."), (QStringList { "f.ini", "f.ini.bak" }));
     QCOMPARE(fileContent("f.ini.bak"), broken);
     QCOMPARE(fileContent("f.ini"), QByteArray("[General]\na=2\nb=from an editor\n"));
 }
@@ -417,7 +396,7 @@ void TestVIniSettingsBadFiles::standsValuesOfSenselessSize()
 {
     // A list that says it has two thousand million elements.
     const QByteArray damaged = "a=1\nb=@Variant(\\0\\0\\0\\t\\x7f\\xff\\xff\\xff)\n";
-    write("f.ini", damaged);
+    QVERIFY(writeFile("f.ini", damaged));
     for (int i = 0; i < 2; ++i) {
         VIniSettings store(QString("f.ini"));
         QCOMPARE(store.filepath(), QString("f.ini"));
@@ -449,10 +428,10 @@ void TestVIniSettingsBadFiles::keepsACopyOfValuesThatNobodyKnows()
 {
     QFETCH(QByteArray, value);
     const QByteArray bytes = "a=1\nb=" + value + "\n";
-    write("f.ini", bytes);
+    QVERIFY(writeFile("f.ini", bytes));
     setAndSave("f.ini", "value");
     setAndSave("f.ini", "other value");
-    QCOMPARE(filesHere(), (QStringList { "f.ini", "f.ini.bak" }));
+    QCOMPARE(filesIn("."), (QStringList { "f.ini", "f.ini.bak" }));
     QCOMPARE(fileContent("f.ini.bak"), bytes);
     QVERIFY(fileContent("f.ini").contains("new=other value\n"));
     // QVariant itself complains about types that it does not know.
@@ -472,10 +451,108 @@ void TestVIniSettingsBadFiles::doesNotWaitForAPipe()
     QCOMPARE(store.filepath(), QString("pipe.ini"));
     QCOMPARE(store.data(), Entries());
     store.setValue("a", 1);
-    QCOMPARE(filesHere(), QStringList { "pipe.ini" });
+    QCOMPARE(filesIn("."), QStringList { "pipe.ini" });
+
+    QCOMPARE(::mkfifo("f.ini.bak", 0600), 0);
+    QVERIFY(writeFile("f.ini", "junk\na=1\n"));
+    setAndSave("f.ini", "value");
+    QCOMPARE(fileContent("f.ini.bak2"), QByteArray("junk\na=1\n"));
+    QCOMPARE(filesIn("."), (QStringList { "f.ini", "f.ini.bak", "f.ini.bak2", "pipe.ini" }));
 #else
     QSKIP("Only Unix has pipes among its files.");
 #endif
+}
+
+void TestVIniSettingsBadFiles::standsListsInLists_data()
+{
+    QTest::addColumn<QByteArray>("start");
+    QTest::addColumn<QByteArray>("level");
+    QTest::addColumn<int>("levels");
+    QTest::addColumn<QStringList>("keys");
+    const QStringList all { "after", "before", "nested" };
+    const auto rows = [&all](const char *name, const QByteArray &start, const QByteArray &level) {
+        QTest::addRow("%s, some", name) << start << level << 900 << all;
+        QTest::addRow("%s, more than a stack can follow", name)
+            << start << level << 60000 << QStringList();
+    };
+    const QByteArray list = "\\0\\0\\0\\t\\0\\0\\0\\x1";
+    rows("lists", "@Variant(", list);
+    rows("lists in bytes", "@Variant(", QByteArray("\0\0\0\t\0\0\0\1", 8));
+    rows("lists behind other values", "@Variant(\\0\\0\\0\\t\\0\\0\\0\\x2\\0\\0\\0\\n\\0\\0\\0\\0",
+         list);
+    rows("lists with other escapes", "@Variant(", "\\0\\x0\"\\00\\x9\\q\\0\\\n\\0\\0\\1\"");
+    rows("lists whose start is escaped", "\\x40Variant\\50", list);
+    rows("maps", "@Variant(", "\\0\\0\\0\\b\\0\\0\\0\\x1\\0\\0\\0\\x2\\0k");
+    rows("hashes", "@Variant(", "\\0\\0\\0\\x1c\\0\\0\\0\\x1\\0\\0\\0\\x2\\0k");
+    rows("values", "@Variant(", "\\0\\0\\0)");
+    rows("lists with their name", "@Variant(",
+         "\\0\\0\\0\\x7f\\0\\0\\0\\rQVariantList\\0\\0\\0\\0\\x1");
+    rows("lists in a time", "@DateTime(", "\\0\\0\\0\\t\\0\\0\\0\\0\\x1");
+}
+
+void TestVIniSettingsBadFiles::standsListsInLists()
+{
+    QFETCH(QByteArray, start);
+    QFETCH(QByteArray, level);
+    QFETCH(int, levels);
+    QFETCH(QStringList, keys);
+    const QByteArray bytes = "before=1\nnested=" + start + level.repeated(levels)
+        + "\\0\\0\\0\\x2\\0\\0\\0\\x1)\nafter=1\n";
+    QVERIFY(writeFile("f.ini", bytes));
+    // Also for QSettings itself, which would read it again.
+    const VIniSettings store(QString("f.ini"));
+    QCOMPARE(store.filepath(), QString("f.ini"));
+    QCOMPARE(sorted(store.allKeys()), keys);
+    if (keys.isEmpty()) {
+        setAndSave("f.ini", "value");
+        QCOMPARE(fileContent("f.ini"), bytes);
+        QCOMPARE(filesIn("."), QStringList { "f.ini" });
+    }
+}
+
+void TestVIniSettingsBadFiles::doesNotWaitForALock_data()
+{
+    QTest::addColumn<bool>("isDirectory");
+    QTest::newRow("a lock of somebody who does not end") << false;
+    QTest::newRow("a directory with the name of the lock") << true;
+}
+
+void TestVIniSettingsBadFiles::doesNotWaitForALock()
+{
+    QFETCH(bool, isDirectory);
+    QVERIFY(writeFile("f.ini", "a=1\n"));
+    QLockFile lock("f.ini.lock");
+    if (isDirectory)
+        QVERIFY(QDir().mkdir("f.ini.lock"));
+    else
+        QVERIFY(lock.lock());
+    VIniSettings store("f.ini", true);
+    store.setValue("a", 2);
+    QCOMPARE(fileContent("f.ini"), QByteArray("a=1\n"));
+    QCOMPARE(filesIn("."), (QStringList { "f.ini", "f.ini.lock" }));
+
+    if (isDirectory)
+        QVERIFY(QDir().rmdir("f.ini.lock"));
+    else
+        lock.unlock();
+    store.setValue("a", 3);
+    QCOMPARE(fileContent("f.ini"), QByteArray("[General]\na=3\n"));
+}
+
+void TestVIniSettingsBadFiles::savesWhenAnAbandonedLockIsLeft()
+{
+    QVERIFY(writeFile("f.ini", "a=1\n"));
+    // As left by a process that has ended without care.
+    QVERIFY(writeFile("f.ini.lock",
+                      "0\nsomebody\n" + QSysInfo::machineHostName().toLocal8Bit() + "\n"));
+    QFile lock("f.ini.lock");
+    QVERIFY(lock.open(QIODevice::ReadWrite));
+    QVERIFY(lock.setFileTime(QDateTime::currentDateTime().addDays(-1),
+                             QFileDevice::FileModificationTime));
+    lock.close();
+    setAndSave("f.ini", "value");
+    QCOMPARE(fileContent("f.ini"), QByteArray("[General]\na=1\n\n[zz]\nnew=value\n"));
+    QCOMPARE(filesIn("."), QStringList { "f.ini" });
 }
 
 void TestVIniSettingsBadFiles::losesNothingOfHostileBytes_data()
@@ -499,7 +576,7 @@ void TestVIniSettingsBadFiles::losesNothingOfHostileBytes()
             : kind == 1                    ? damagedBytes(&dice)
                                            : anyBytes(&dice);
         const QString name = labelled("f", i);
-        write(name, bytes);
+        QVERIFY(writeFile(name, bytes));
         VIniSettings store(name);
         QCOMPARE(store.allKeys().size(), store.data().size());
         store.styleSheetFormat();
@@ -525,7 +602,7 @@ void TestVIniSettingsBadFiles::losesNothingOfHostileBytes()
                 QCOMPARE(saidBy(after.value(value.key())), saidBy(value.value()));
         }
     }
-    const QStringList files = filesHere();
+    const QStringList files = filesIn(".");
     QCOMPARE(readInSecondProcess(files).size(), files.size());
 }
 

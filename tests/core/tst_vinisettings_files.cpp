@@ -6,10 +6,10 @@
 
 #include <Kelto/VIniSettings>
 
-#include "support/messages.h"
+#include "support/directorytest.h"
 #include "support/secondprocess.h"
 #include "support/settingsjson.h"
-#include "support/temporarycurrentdirectory.h"
+#include "support/testfiles.h"
 
 #include <QDateTime>
 #include <QPoint>
@@ -37,30 +37,15 @@ Entries storedEntries()
     return { { "a/x", "one" }, { "a/y", "two" }, { "b/z", "three" }, { "top", "1" } };
 }
 
-void write(const QString &name, const QByteArray &bytes)
-{
-    QFile file(name);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(bytes), qint64(bytes.size()));
-}
-
-QStringList filesHere()
-{
-    return QDir().entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
-                            QDir::Name);
-}
-
 } // namespace
 
 Q_DECLARE_METATYPE(Change)
 
-class TestVIniSettingsFiles : public QObject
+class TestVIniSettingsFiles : public SilentDirectoryTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void bindsWhenConstructed_data();
     void bindsWhenConstructed();
     void constructsWithDataForAFile_data();
@@ -91,26 +76,7 @@ private Q_SLOTS:
     void leavesOutWhatCannotBeStored();
     void leavesOutListsThatNest_data();
     void leavesOutListsThatNest();
-
-private:
-    QScopedPointer<TemporaryCurrentDirectory> m_directory;
-    QScopedPointer<Messages> m_messages;
 };
-
-void TestVIniSettingsFiles::init()
-{
-    m_directory.reset(new TemporaryCurrentDirectory);
-    QVERIFY(m_directory->isUsable());
-    m_messages.reset(new Messages);
-}
-
-void TestVIniSettingsFiles::cleanup()
-{
-    const QStringList messages = Messages::collected();
-    m_messages.reset();
-    m_directory.reset();
-    QCOMPARE(messages, QStringList());
-}
 
 void TestVIniSettingsFiles::bindsWhenConstructed_data()
 {
@@ -143,18 +109,18 @@ void TestVIniSettingsFiles::bindsWhenConstructed()
     QCOMPARE(store.filepath(), bound);
     QCOMPARE(store.allKeys(), QStringList());
     QCOMPARE(store.data(), Entries());
-    QCOMPARE(filesHere(), files);
+    QCOMPARE(filesIn("."), files);
     for (bool quickSave : { false, true }) {
         VIniSettings other(name, quickSave);
         QCOMPARE(other.filepath(), bound);
         QCOMPARE(other.data(), Entries());
-        QCOMPARE(filesHere(), files);
+        QCOMPARE(filesIn("."), files);
         for (const QString &file : qAsConst(files))
             QCOMPARE(fileContent(file), QByteArray(""));
     }
     VIniSettings quick(name, true);
     quick.setValue("a", 1);
-    QCOMPARE(filesHere(), files);
+    QCOMPARE(filesIn("."), files);
     QCOMPARE(described(quick.data()), described(Entries { { "a", 1 } }));
     for (const QString &file : qAsConst(files))
         QCOMPARE(fileContent(file), QByteArray("[General]\na=1\n"));
@@ -171,7 +137,7 @@ void TestVIniSettingsFiles::constructsWithDataForAFile()
 {
     QFETCH(bool, quickSave);
     const Entries data { { "a/x", 5 }, { "new", 6 }, { "a/x", 7 } };
-    write(path(), stored());
+    QVERIFY(writeFile(path(), stored()));
     VIniSettings store(path(), quickSave, data);
     const VIniSettings withoutMode(path(), data);
     for (const VIniSettings &each : { store, withoutMode }) {
@@ -191,7 +157,7 @@ void TestVIniSettingsFiles::constructsWithDataForAFile()
     QCOMPARE(described(unbound.data()), described(data));
     const VIniSettings created("created.ini", data);
     QCOMPARE(fileContent("created.ini"), QByteArray(""));
-    QCOMPARE(filesHere(), (QStringList { "created.ini", path() }));
+    QCOMPARE(filesIn("."), (QStringList { "created.ini", path() }));
 }
 
 void TestVIniSettingsFiles::loads_data()
@@ -236,7 +202,7 @@ void TestVIniSettingsFiles::loads()
 {
     QFETCH(QByteArray, bytes);
     QFETCH(Entries, expected);
-    write(path(), bytes);
+    QVERIFY(writeFile(path(), bytes));
 
     VIniSettings store(Entries { { "old", 1 } });
     store.setPath(path());
@@ -244,7 +210,7 @@ void TestVIniSettingsFiles::loads()
     QCOMPARE(described(store.data()), described(expected));
     QCOMPARE(store.allKeys(), store.allKeys(&expected));
     QCOMPARE(fileContent(path()), bytes);
-    QCOMPARE(filesHere(), QStringList { path() });
+    QCOMPARE(filesIn("."), QStringList { path() });
 
     const Reading reading = readInSecondProcess(path());
     QCOMPARE(reading.messages, QStringList());
@@ -256,7 +222,7 @@ void TestVIniSettingsFiles::loads()
 
 void TestVIniSettingsFiles::loadsInTheOrderOfQSettings()
 {
-    write(path(), "[z]\nb=1\na=2\n[General]\nm=3\n[a]\nq=4\n[Z]\nc=5\n");
+    QVERIFY(writeFile(path(), "[z]\nb=1\na=2\n[General]\nm=3\n[a]\nq=4\n[Z]\nc=5\n"));
     const VIniSettings store(path());
     const QStringList keys = QSettings(path(), QSettings::IniFormat).allKeys();
     QCOMPARE(keys.size(), 5);
@@ -275,13 +241,13 @@ void TestVIniSettingsFiles::staysAsItWasWhenBindingFails_data()
 void TestVIniSettingsFiles::staysAsItWasWhenBindingFails()
 {
     QFETCH(QString, name);
-    write(path(), stored());
+    QVERIFY(writeFile(path(), stored()));
     VIniSettings store(path(), true);
     store.setValue(Entries { { "unsaved", 1 } }, false);
     store.setPath(name);
     QCOMPARE(store.filepath(), path());
     QCOMPARE(described(store.data()), described(storedEntries() + Entries { { "unsaved", 1 } }));
-    QCOMPARE(filesHere(), QStringList { path() });
+    QCOMPARE(filesIn("."), QStringList { path() });
     QCOMPARE(fileContent(path()), stored());
 
     // Quick-save mode and the file are still what they were.
@@ -301,7 +267,7 @@ void TestVIniSettingsFiles::bindsToADirectory()
     store.setQuickSaveMode(true);
     store.setValue("a", 1);
     store.saveLocal();
-    QCOMPARE(filesHere(), QStringList { "directory" });
+    QCOMPARE(filesIn("."), QStringList { "directory" });
     QVERIFY(QDir("directory").isEmpty());
     store.setPath("directory");
     QCOMPARE(store.data(), Entries());
@@ -309,8 +275,8 @@ void TestVIniSettingsFiles::bindsToADirectory()
 
 void TestVIniSettingsFiles::bindsAnew()
 {
-    write(path(), stored());
-    write("other.ini", "[o]\nk=v\n");
+    QVERIFY(writeFile(path(), stored()));
+    QVERIFY(writeFile("other.ini", "[o]\nk=v\n"));
     VIniSettings store(path());
     Entries target;
     store.setValue("apart", 1, &target);
@@ -362,21 +328,21 @@ void TestVIniSettingsFiles::saves()
     QFETCH(QByteArray, before);
     QFETCH(Entries, data);
     QFETCH(QByteArray, after);
-    write(path(), before);
+    QVERIFY(writeFile(path(), before));
     VIniSettings store(path(), data);
     store.saveLocal();
     QCOMPARE(fileContent(path()), after);
-    QCOMPARE(filesHere(), QStringList { path() });
+    QCOMPARE(filesIn("."), QStringList { path() });
     QCOMPARE(described(store.data()), described(data));
 
     store.saveLocal();
     QCOMPARE(fileContent(path()), after);
-    QCOMPARE(filesHere(), QStringList { path() });
+    QCOMPARE(filesIn("."), QStringList { path() });
 }
 
 void TestVIniSettingsFiles::neverRemovesFromAFile()
 {
-    write(path(), stored());
+    QVERIFY(writeFile(path(), stored()));
     VIniSettings store(path());
     QVERIFY(store.remove("top"));
     QVERIFY(store.remove(QStringList { "b/z" }));
@@ -399,8 +365,8 @@ void TestVIniSettingsFiles::neverRemovesFromAFile()
 
 void TestVIniSettingsFiles::savesToAnotherFile()
 {
-    write(path(), stored());
-    write("other.ini", "[a]\nx=other\nown=kept\n");
+    QVERIFY(writeFile(path(), stored()));
+    QVERIFY(writeFile("other.ini", "[a]\nx=other\nown=kept\n"));
     const VIniSettings store(path());
     store.saveLocal("other.ini");
     store.saveLocal("created.ini");
@@ -418,7 +384,7 @@ void TestVIniSettingsFiles::savesToAnotherFile()
     const VIniSettings empty;
     empty.saveLocal("empty.ini");
     QCOMPARE(fileContent("empty.ini"), QByteArray(""));
-    QCOMPARE(filesHere(),
+    QCOMPARE(filesIn("."),
              (QStringList { "created.ini", "empty.ini", "other.ini", path(), "unbound.ini" }));
 }
 
@@ -436,12 +402,12 @@ void TestVIniSettingsFiles::savesNowhere()
 {
     QFETCH(QString, target);
     QVERIFY(QDir().mkdir("directory"));
-    write(path(), stored());
+    QVERIFY(writeFile(path(), stored()));
     VIniSettings store(path());
     store.setValue("new", 1);
     store.saveLocal(target);
     VIniSettings(Entries { { "a", 1 } }).saveLocal(target);
-    QCOMPARE(filesHere(), (QStringList { "directory", path() }));
+    QCOMPARE(filesIn("."), (QStringList { "directory", path() }));
     QVERIFY(QDir("directory").isEmpty());
     QCOMPARE(fileContent(path()), stored());
     QCOMPARE(store.filepath(), path());
@@ -461,7 +427,7 @@ void TestVIniSettingsFiles::savesRelativeToTheCurrentDirectory()
 
 void TestVIniSettingsFiles::savesThroughALink()
 {
-    write("target.ini", stored());
+    QVERIFY(writeFile("target.ini", stored()));
     QVERIFY(QFile::link("target.ini", "link.ini"));
     QVERIFY(QFileInfo("link.ini").isSymLink());
     VIniSettings store(QString("link.ini"), true);
@@ -469,7 +435,7 @@ void TestVIniSettingsFiles::savesThroughALink()
     QVERIFY(QFileInfo("link.ini").isSymLink());
     QCOMPARE(fileContent("target.ini"),
              QByteArray("[General]\ntop=2\n\n[a]\nx=one\ny=two\n\n[b]\nz=three\n"));
-    QCOMPARE(filesHere(), (QStringList { "link.ini", "target.ini" }));
+    QCOMPARE(filesIn("."), (QStringList { "link.ini", "target.ini" }));
 }
 
 void TestVIniSettingsFiles::savesOnOneOperationOnly_data()
@@ -502,7 +468,7 @@ void TestVIniSettingsFiles::savesOnOneOperationOnly_data()
 void TestVIniSettingsFiles::savesOnOneOperationOnly()
 {
     QFETCH(Change, change);
-    write(path(), stored());
+    QVERIFY(writeFile(path(), stored()));
     {
         VIniSettings store(path(), true);
         store.setValue(Entries { { "unsaved", 1 } }, false);
@@ -520,7 +486,7 @@ void TestVIniSettingsFiles::savesOnOneOperationOnly()
 
 void TestVIniSettingsFiles::quickSaveWritesAllPairs()
 {
-    write(path(), stored());
+    QVERIFY(writeFile(path(), stored()));
     VIniSettings store(path(), true);
     Entries target;
     store.setValue("apart", 0, &target);
@@ -549,7 +515,7 @@ void TestVIniSettingsFiles::quickSaveWritesAllPairs()
 
 void TestVIniSettingsFiles::keepsWhatOthersWrote()
 {
-    write(path(), stored());
+    QVERIFY(writeFile(path(), stored()));
     VIniSettings store(path());
     store.setValue("a/x", "ours");
     const QVector<Reading> others = readInSecondProcess(QStringList {
@@ -567,19 +533,19 @@ void TestVIniSettingsFiles::keepsWhatOthersWrote()
                                  { "top", "1" } }));
 
     // Somebody who writes the file as a whole, with an editor for example.
-    write(path(), "[editor]\nkey=from the editor\n");
+    QVERIFY(writeFile(path(), "[editor]\nkey=from the editor\n"));
     store.saveLocal();
     QCOMPARE(readInSecondProcess(path()).entries,
              described(Entries { { "a/x", "ours" },
                                  { "b/z", "three" },
                                  { "editor/key", "from the editor" },
                                  { "top", "1" } }));
-    QCOMPARE(filesHere(), QStringList { path() });
+    QCOMPARE(filesIn("."), QStringList { path() });
 }
 
 void TestVIniSettingsFiles::seesOthersAfterLoadingAgain()
 {
-    write(path(), stored());
+    QVERIFY(writeFile(path(), stored()));
     VIniSettings one(path());
     VIniSettings other(path());
     one.setValue("a/x", "from one");
@@ -596,7 +562,7 @@ void TestVIniSettingsFiles::seesOthersAfterLoadingAgain()
 
 void TestVIniSettingsFiles::copiesShareTheFileOnly()
 {
-    write(path(), stored());
+    QVERIFY(writeFile(path(), stored()));
     VIniSettings store(path(), true);
     VIniSettings copy(store);
     QCOMPARE(copy.filepath(), path());
@@ -668,12 +634,12 @@ void TestVIniSettingsFiles::readsTypes()
     // The process that wrote the value still knows its type.
     store.setPath(path());
     QCOMPARE(described(store.value("group/键")), described(written));
-    QCOMPARE(filesHere(), QStringList { path() });
+    QCOMPARE(filesIn("."), QStringList { path() });
 }
 
 void TestVIniSettingsFiles::leavesOutWhatCannotBeStored()
 {
-    write(path(), stored());
+    QVERIFY(writeFile(path(), stored()));
     VIniSettings store(path());
     store.setValue("top", QVariant::fromValue(static_cast<QObject *>(this)));
     store.setValue("pointer", QVariant::fromValue(static_cast<void *>(this)));

@@ -6,9 +6,10 @@
 
 #include <Kelto/VIniSettings>
 
+#include "support/directorytest.h"
 #include "support/secondprocess.h"
 #include "support/settingsjson.h"
-#include "support/temporarycurrentdirectory.h"
+#include "support/testfiles.h"
 
 #include <QTest>
 
@@ -42,32 +43,22 @@ QStringList arguments(const QStringList &others)
     return others;
 }
 
-void write(const QString &name, const QByteArray &bytes)
-{
-    QFile file(name);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(bytes), qint64(bytes.size()));
-}
-
 } // namespace
 
 Q_DECLARE_METATYPE(QFile::Permissions)
 
-class TestVIniSettingsPermissions : public QObject
+class TestVIniSettingsPermissions : public DirectoryTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void initTestCase();
-    void init();
-    void cleanup();
+    void init() override;
+    void cleanup() override;
     void readsAndSavesWhatItMay_data();
     void readsAndSavesWhatItMay();
     void savesThroughLinksWhereItMay_data();
     void savesThroughLinksWhereItMay();
-
-private:
-    QScopedPointer<TemporaryCurrentDirectory> m_directory;
 };
 
 void TestVIniSettingsPermissions::initTestCase()
@@ -79,8 +70,9 @@ void TestVIniSettingsPermissions::initTestCase()
 
 void TestVIniSettingsPermissions::init()
 {
-    m_directory.reset(new TemporaryCurrentDirectory);
-    QVERIFY(m_directory->isUsable());
+    DirectoryTest::init();
+    if (QTest::currentTestFailed())
+        return;
     QVERIFY(QFile::setPermissions(m_directory->path(), open));
     QVERIFY(QDir().mkdir("here"));
 }
@@ -89,7 +81,7 @@ void TestVIniSettingsPermissions::cleanup()
 {
     QFile::setPermissions("here", open);
     QFile::setPermissions("there", open);
-    m_directory.reset();
+    DirectoryTest::cleanup();
 }
 
 void TestVIniSettingsPermissions::readsAndSavesWhatItMay_data()
@@ -144,7 +136,7 @@ void TestVIniSettingsPermissions::readsAndSavesWhatItMay()
     QFETCH(bool, isBound);
     QFETCH(Entries, entries);
     if (!before.isEmpty()) {
-        write("here/f.ini", before);
+        QVERIFY(writeFile("here/f.ini", before));
         QVERIFY(QFile::setPermissions("here/f.ini", file));
     }
     QVERIFY(QFile::setPermissions("here", directory));
@@ -187,7 +179,7 @@ void TestVIniSettingsPermissions::savesThroughLinksWhereItMay()
     QFETCH(QFile::Permissions, linkDirectory);
     QFETCH(QFile::Permissions, targetDirectory);
     QVERIFY(QDir().mkdir("there"));
-    write("there/f.ini", stored());
+    QVERIFY(writeFile("there/f.ini", stored()));
     QVERIFY(QFile::setPermissions("there/f.ini", readable | writable));
     QVERIFY(QFile::link(QFileInfo("there/f.ini").absoluteFilePath(), "here/f.ini"));
     QVERIFY(QFile::setPermissions("here", linkDirectory));

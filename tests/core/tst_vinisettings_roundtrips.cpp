@@ -6,11 +6,11 @@
 
 #include <Kelto/VIniSettings>
 
-#include "support/messages.h"
+#include "support/directorytest.h"
 #include "support/randomitems.h"
 #include "support/secondprocess.h"
 #include "support/settingsjson.h"
-#include "support/temporarycurrentdirectory.h"
+#include "support/testfiles.h"
 
 #include <QBitArray>
 #include <QDateTime>
@@ -121,46 +121,20 @@ Entries readPlainly(const QString &name)
     return entries;
 }
 
-QStringList filesHere()
-{
-    return QDir().entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
-}
-
 } // namespace
 
-class TestVIniSettingsRoundTrips : public QObject
+class TestVIniSettingsRoundTrips : public SilentDirectoryTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void writesAndReadsWhatQSettingsDoes_data();
     void writesAndReadsWhatQSettingsDoes();
     void changesNothingOnItsSecondTrip_data();
     void changesNothingOnItsSecondTrip();
     void keepsNoCopyOfItsOwnFiles_data();
     void keepsNoCopyOfItsOwnFiles();
-
-private:
-    QScopedPointer<TemporaryCurrentDirectory> m_directory;
-    QScopedPointer<Messages> m_messages;
 };
-
-void TestVIniSettingsRoundTrips::init()
-{
-    m_directory.reset(new TemporaryCurrentDirectory);
-    QVERIFY(m_directory->isUsable());
-    m_messages.reset(new Messages);
-}
-
-void TestVIniSettingsRoundTrips::cleanup()
-{
-    const QStringList messages = Messages::collected();
-    m_messages.reset();
-    m_directory.reset();
-    QCOMPARE(messages, QStringList());
-}
 
 void TestVIniSettingsRoundTrips::writesAndReadsWhatQSettingsDoes_data()
 {
@@ -220,7 +194,7 @@ void TestVIniSettingsRoundTrips::changesNothingOnItsSecondTrip()
         read.saveLocal();
         QCOMPARE(fileContent(name + "-copy"), fileContent(name));
     }
-    QCOMPARE(filesHere().size(), 3 * storesPerRow);
+    QCOMPARE(filesIn(".").size(), 3 * storesPerRow);
 }
 
 void TestVIniSettingsRoundTrips::keepsNoCopyOfItsOwnFiles_data()
@@ -279,7 +253,7 @@ void TestVIniSettingsRoundTrips::keepsNoCopyOfItsOwnFiles()
         QCOMPARE(readInSecondProcess(QStringList { "--set", "b=2", "store.ini" }).size(), 1);
         store.setValue("b", 3);
     }
-    QCOMPARE(filesHere(), QStringList { "store.ini" });
+    QCOMPARE(filesIn("."), QStringList { "store.ini" });
     QCOMPARE(fileContent("store.ini"), QByteArray(written).replace("b=1", "b=3"));
 }
 

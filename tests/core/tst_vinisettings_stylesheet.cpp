@@ -3,35 +3,22 @@
 
 #include <Kelto/VIniSettings>
 
-#include "support/messages.h"
+#include "support/directorytest.h"
 #include "support/settingsjson.h"
-#include "support/temporarycurrentdirectory.h"
+#include "support/testfiles.h"
 
-#include <QFile>
 #include <QTest>
 
-class TestVIniSettingsStyleSheet : public QObject
+class TestVIniSettingsStyleSheet : public SilentDirectoryTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { m_messages.reset(new Messages); }
-    void cleanup();
     void formatsStores_data();
     void formatsStores();
     void writesAKeyWithoutAnEntryAsEmpty();
     void readsMemoryAndNotTheFile();
-
-private:
-    QScopedPointer<Messages> m_messages;
 };
-
-void TestVIniSettingsStyleSheet::cleanup()
-{
-    const QStringList messages = Messages::collected();
-    m_messages.reset();
-    QCOMPARE(messages, QStringList());
-}
 
 void TestVIniSettingsStyleSheet::formatsStores_data()
 {
@@ -121,17 +108,12 @@ void TestVIniSettingsStyleSheet::writesAKeyWithoutAnEntryAsEmpty()
 
 void TestVIniSettingsStyleSheet::readsMemoryAndNotTheFile()
 {
-    TemporaryCurrentDirectory directory;
-    QVERIFY(directory.isUsable());
-    QFile file("style.ini");
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("[ID]\nQtClassName=QLabel\n\n[normal]\ncolor=red\nbackground=blue\n");
-    file.close();
-
+    QVERIFY(writeFile("style.ini",
+                      "[ID]\nQtClassName=QLabel\n\n[normal]\ncolor=red\nbackground=blue\n"));
     VIniSettings store(QString("style.ini"));
     const QString sheet = "QLabel{normal/background=blue;normal/color=red;};";
     QCOMPARE(store.styleSheetFormat(), sheet);
-    QVERIFY(file.remove());
+    QVERIFY(QFile::remove("style.ini"));
     QCOMPARE(store.styleSheetFormat(), sheet);
     QCOMPARE(QFile::exists("style.ini"), false);
     store.setValue("normal/color", "green");

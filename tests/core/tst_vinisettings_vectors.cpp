@@ -6,10 +6,9 @@
 
 #include <Kelto/VIniSettings>
 
-#include "support/messages.h"
+#include "support/directorytest.h"
 #include "support/plainsettings.h"
-#include "support/randomitems.h"
-#include "support/settingsjson.h"
+#include "support/randomentries.h"
 
 #include <QTest>
 
@@ -40,14 +39,6 @@ struct Texts
     QStringList keys;
     QStringList groups;
 };
-
-Entries someEntries(Dice *dice, const QStringList &keys, int count)
-{
-    Entries entries;
-    for (int i = 0; i < count; ++i)
-        entries.append({ dice->oneOf(keys), dice->between(0, 999) });
-    return entries;
-}
 
 /// Does the same with both stores; what the two operations answered, and the vector they filled.
 QVector<QStringList> doSomething(Dice *dice, const Texts &texts, VIniSettings *store,
@@ -117,13 +108,11 @@ template <typename Store> QStringList allAnswers(const Store &store, const Texts
 
 Q_DECLARE_METATYPE(Change)
 
-class TestVIniSettingsVectors : public QObject
+class TestVIniSettingsVectors : public SilentDirectoryTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { m_messages.reset(new Messages); }
-    void cleanup();
     void setsInAVectorOfTheCaller_data();
     void setsInAVectorOfTheCaller();
     void setsAllOfOneVectorInAnother_data();
@@ -135,17 +124,7 @@ private Q_SLOTS:
     void keepsKeysApart();
     void agreesWithThePlainRules_data();
     void agreesWithThePlainRules();
-
-private:
-    QScopedPointer<Messages> m_messages;
 };
-
-void TestVIniSettingsVectors::cleanup()
-{
-    const QStringList messages = Messages::collected();
-    m_messages.reset();
-    QCOMPARE(messages, QStringList());
-}
 
 void TestVIniSettingsVectors::setsInAVectorOfTheCaller_data()
 {

@@ -4,8 +4,9 @@
 // The source text of module items as a host uses it: compiled into a program that is run, and
 // searched for texts to translate.
 
+#include "support/directorytest.h"
 #include "support/itemjson.h"
-#include "support/temporarycurrentdirectory.h"
+#include "support/testfiles.h"
 
 #include <Kelto/AUTH_INF>
 
@@ -173,13 +174,6 @@ QString generatedSource(const QVector<AUTH_INF> &items)
         + " };\n}\n";
 }
 
-bool writeText(const QString &path, const QString &text)
-{
-    QFile file(path);
-    const QByteArray bytes = text.toUtf8();
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
-}
-
 /// What @p program printed, which is nothing when it failed.
 QByteArray outputOf(const QString &program, const QStringList &arguments)
 {
@@ -214,7 +208,7 @@ QStringList textsIn(const QString &path)
 
 } // namespace
 
-class TestAuthInfCodeCompiles : public QObject
+class TestAuthInfCodeCompiles : public DirectoryTest
 {
     Q_OBJECT
 
@@ -226,9 +220,6 @@ private Q_SLOTS:
 
 void TestAuthInfCodeCompiles::compiledItemsEqualTheirOrigin()
 {
-    const TemporaryCurrentDirectory directory;
-    QVERIFY(directory.isUsable());
-
     const QVector<AUTH_INF> items { AUTH_INF(),
                                     emptyItem("calculation"),
                                     emptyItem(""),
@@ -238,12 +229,12 @@ void TestAuthInfCodeCompiles::compiledItemsEqualTheirOrigin()
                                     itemWithListsThatDisagree(-1),
                                     fullItem("calculation"),
                                     fullItem("Calculation") };
-    QVERIFY(writeText("items.cpp", generatedSource(items)));
+    QVERIFY(writeFile("items.cpp", generatedSource(items).toUtf8()));
     QCOMPARE(outputOf(KELTO_COMPILER, { "items.cpp", "-o", "host", "@" KELTO_COMPILER_ARGUMENTS }),
              QByteArray());
 
     const QJsonArray compiled
-        = QJsonDocument::fromJson(outputOf(directory.path() + "/host", {})).array();
+        = QJsonDocument::fromJson(outputOf(m_directory->path() + "/host", {})).array();
     const QVector<Context> all = contexts();
     QCOMPARE(compiled.size(), items.size() * all.size());
     for (int i = 0; i < compiled.size(); ++i) {
@@ -274,10 +265,9 @@ void TestAuthInfCodeCompiles::textsToTranslateAreFound()
 {
     QFETCH(QString, type);
     QFETCH(QStringList, expected);
-    const TemporaryCurrentDirectory directory;
-    QVERIFY(directory.isUsable());
-    QVERIFY(writeText("item.cpp",
-                      "KeltoItem beamItem()\n{\n" + fullItem(type).to_code() + "return inf;\n}\n"));
+    const QString source
+        = "KeltoItem beamItem()\n{\n" + fullItem(type).to_code() + "return inf;\n}\n";
+    QVERIFY(writeFile("item.cpp", source.toUtf8()));
 
     outputOf(KELTO_LUPDATE, { "item.cpp", "-ts", "item.ts" });
     QStringList found = textsIn("item.ts");

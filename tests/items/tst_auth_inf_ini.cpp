@@ -3,8 +3,9 @@
 
 // What a module item reads from its INI file.
 
+#include "support/directorytest.h"
 #include "support/itemjson.h"
-#include "support/temporarycurrentdirectory.h"
+#include "support/testfiles.h"
 
 #include <Kelto/AUTH_INF>
 
@@ -101,13 +102,6 @@ AUTH_INF itemWith(Value AUTH_INF::*field, Value AUTH_INF::*translated, const Val
     return item;
 }
 
-void writeFile(const QString &path, const QByteArray &content)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(content), qint64(content.size()));
-}
-
 const char oneMode[] = "[KeltoItem]\ninner_mode_count=1\ninner_mode_nameList=A\n";
 const char twoModes[] = "[KeltoItem]\ninner_mode_count=2\ninner_mode_nameList=A, B\n";
 
@@ -123,7 +117,7 @@ QByteArray everyByte()
 
 Q_DECLARE_METATYPE(AUTH_INF)
 
-class TestAuthInfIni : public QObject
+class TestAuthInfIni : public DirectoryTest
 {
     Q_OBJECT
 
@@ -149,9 +143,7 @@ void TestAuthInfIni::load()
 {
     QFETCH(QByteArray, text);
     QFETCH(AUTH_INF, expected);
-    const TemporaryCurrentDirectory directory;
-    QVERIFY(directory.isUsable());
-    writeFile("item.ini", text);
+    QVERIFY(writeFile("item.ini", text));
 
     AUTH_INF item = filledItem();
     item.load_ini("item.ini");
@@ -386,11 +378,9 @@ void TestAuthInfIni::emptiesEveryField()
 {
     QFETCH(QString, path);
     QFETCH(QByteArray, content);
-    const TemporaryCurrentDirectory directory;
-    QVERIFY(directory.isUsable());
     QVERIFY(QDir().mkdir("directory"));
     if (!content.isNull())
-        writeFile(path, content);
+        QVERIFY(writeFile(path, content));
 
     AUTH_INF item = filledItem();
     item.load_ini(path);
@@ -400,9 +390,6 @@ void TestAuthInfIni::emptiesEveryField()
 
 void TestAuthInfIni::createsAMissingFile()
 {
-    const TemporaryCurrentDirectory directory;
-    QVERIFY(directory.isUsable());
-
     AUTH_INF().load_ini("item.ini");
     QVERIFY(QFile::exists("item.ini"));
     QCOMPARE(fileContent("item.ini"), QByteArray(""));

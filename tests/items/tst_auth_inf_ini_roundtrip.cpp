@@ -3,9 +3,9 @@
 
 // What comes back of a module item that was written into an INI file.
 
+#include "support/directorytest.h"
 #include "support/harditems.h"
 #include "support/itemjson.h"
-#include "support/temporarycurrentdirectory.h"
 
 #include <Kelto/AUTH_INF>
 
@@ -197,7 +197,7 @@ QStringList storedEntryOf(const QString &key)
 
 } // namespace
 
-class TestAuthInfIniRoundtrip : public QObject
+class TestAuthInfIniRoundtrip : public DirectoryTest
 {
     Q_OBJECT
 
@@ -211,9 +211,6 @@ private Q_SLOTS:
 
 void TestAuthInfIniRoundtrip::everyStoredFieldComesBack()
 {
-    const TemporaryCurrentDirectory directory;
-    QVERIFY(directory.isUsable());
-
     AUTH_INF item;
     item.number = 3;
     item.name = "Beam";
@@ -288,8 +285,6 @@ void TestAuthInfIniRoundtrip::staleParametersComeBack_data()
 void TestAuthInfIniRoundtrip::staleParametersComeBack()
 {
     QFETCH(QStringList, modes);
-    const TemporaryCurrentDirectory directory;
-    QVERIFY(directory.isUsable());
 
     AUTH_INF earlier;
     earlier.inner_mode_count = 2;
@@ -322,8 +317,6 @@ void TestAuthInfIniRoundtrip::randomItems()
 {
     QFETCH(unsigned, seed);
     QFETCH(int, savesPerFile);
-    const TemporaryCurrentDirectory directory;
-    QVERIFY(directory.isUsable());
 
     HardItemMaker maker(seed);
     QStringList files;

@@ -3,8 +3,9 @@
 
 // What a module item writes into its INI file.
 
+#include "support/directorytest.h"
 #include "support/referencefile.h"
-#include "support/temporarycurrentdirectory.h"
+#include "support/testfiles.h"
 
 #include <Kelto/AUTH_INF>
 #include <Kelto/VIniSettings>
@@ -91,7 +92,7 @@ VIniSettings savedBy(const AUTH_INF &item)
 
 Q_DECLARE_METATYPE(AUTH_INF)
 
-class TestAuthInfIniSaving : public QObject
+class TestAuthInfIniSaving : public DirectoryTest
 {
     Q_OBJECT
 
@@ -205,8 +206,6 @@ void TestAuthInfIniSaving::writesValue()
 {
     QFETCH(AUTH_INF, item);
     QFETCH(QString, key);
-    const TemporaryCurrentDirectory directory;
-    QVERIFY(directory.isUsable());
 
     const VIniSettings file = savedBy(item);
     QVERIFY2(file.contains(key), qPrintable(file.allKeys().join('\n')));
@@ -238,8 +237,6 @@ void TestAuthInfIniSaving::doesNotWriteKey()
 {
     QFETCH(AUTH_INF, item);
     QFETCH(QString, key);
-    const TemporaryCurrentDirectory directory;
-    QVERIFY(directory.isUsable());
 
     const VIniSettings file = savedBy(item);
     QVERIFY(file.contains("KeltoItem/name"));
@@ -248,9 +245,6 @@ void TestAuthInfIniSaving::doesNotWriteKey()
 
 void TestAuthInfIniSaving::writesTheKeysOfAnItem()
 {
-    const TemporaryCurrentDirectory directory;
-    QVERIFY(directory.isUsable());
-
     AUTH_INF item = itemWithModes({ "A" }, { { entry("p", "parameter") } });
     item.output_results = { entry("r", "result") };
     item.extraKey = { { "e", 1 } };
@@ -288,9 +282,6 @@ void TestAuthInfIniSaving::writesTheKeysOfAnItem()
 
 void TestAuthInfIniSaving::writesTheReferenceFile()
 {
-    const TemporaryCurrentDirectory directory;
-    QVERIFY(directory.isUsable());
-
     fullItem().save_ini("item.ini");
     const QString difference = differenceFromReference(QString::fromUtf8(fileContent("item.ini")),
                                                        QStringLiteral(KELTO_TEST_DATA "/item.ini"));
@@ -315,8 +306,6 @@ void TestAuthInfIniSaving::keepsOtherKeys_data()
 void TestAuthInfIniSaving::keepsOtherKeys()
 {
     QFETCH(QString, key);
-    const TemporaryCurrentDirectory directory;
-    QVERIFY(directory.isUsable());
 
     AUTH_INF earlier
         = itemWithModes({ "A" }, { { entry("old", "earlier"), entry("both", "earlier") } });
@@ -345,13 +334,10 @@ void TestAuthInfIniSaving::changesNothingWithoutFile_data()
 void TestAuthInfIniSaving::changesNothingWithoutFile()
 {
     QFETCH(QString, path);
-    const TemporaryCurrentDirectory directory;
-    QVERIFY(directory.isUsable());
     QVERIFY(QDir().mkdir("directory"));
 
     fullItem().save_ini(path);
-    QCOMPARE(QDir().entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden),
-             QStringList { "directory" });
+    QCOMPARE(filesIn("."), QStringList { "directory" });
     QVERIFY(QDir("directory").isEmpty());
 }
 

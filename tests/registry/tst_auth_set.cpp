@@ -3,8 +3,9 @@
 
 #include <Kelto/AUTH_SET>
 
+#include "support/directorytest.h"
 #include "support/moduleitems.h"
-#include "support/temporarycurrentdirectory.h"
+#include "support/testfiles.h"
 
 #include <QDir>
 #include <QTest>
@@ -48,13 +49,11 @@ QVector<int> numbers(const QVector<AUTH_INF> &items)
 
 } // namespace
 
-class TestAuthSet : public QObject
+class TestAuthSet : public DirectoryTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void startsEmpty();
     void withoutModulesItLogsAndForgetsItsName();
     void numbersModulesByPosition_data();
@@ -85,21 +84,7 @@ private Q_SLOTS:
     void clearKeepsNamesAndSelections();
     void afterClearTheGroupsComeBack_data();
     void afterClearTheGroupsComeBack();
-
-private:
-    QScopedPointer<TemporaryCurrentDirectory> m_directory;
 };
-
-void TestAuthSet::init()
-{
-    m_directory.reset(new TemporaryCurrentDirectory);
-    QVERIFY(m_directory->isUsable());
-}
-
-void TestAuthSet::cleanup()
-{
-    m_directory.reset();
-}
 
 void TestAuthSet::startsEmpty()
 {
@@ -109,7 +94,7 @@ void TestAuthSet::startsEmpty()
     QCOMPARE(set.current_group, QString());
     QCOMPARE(set.current_mode, QString());
     QCOMPARE(set.stdModeNameForm("G", "M"), QString(":G:M"));
-    QCOMPARE(QDir().entryList(QDir::NoDotAndDotDot | QDir::AllEntries), QStringList());
+    QCOMPARE(filesIn("."), QStringList());
 }
 
 void TestAuthSet::withoutModulesItLogsAndForgetsItsName()

@@ -3,13 +3,11 @@
 
 // The modules of a registry, and items in INI files, as source text.
 
-#include "support/temporarycurrentdirectory.h"
+#include "support/directorytest.h"
 
 #include <Kelto/AUTH_SET>
 
 #include <QTest>
-
-#include <memory>
 
 namespace {
 
@@ -44,13 +42,12 @@ QString textOfFile(const QString &path)
 
 } // namespace
 
-class TestAuthSetCode : public QObject
+class TestAuthSetCode : public DirectoryTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
+    void init() override;
     void textsOfFiles_data();
     void textsOfFiles();
     void missingFiles_data();
@@ -58,22 +55,15 @@ private Q_SLOTS:
     void textsOfFilesLeaveTheRegistryAlone();
     void textsOfModules_data();
     void textsOfModules();
-
-private:
-    std::unique_ptr<TemporaryCurrentDirectory> m_directory;
 };
 
 void TestAuthSetCode::init()
 {
-    m_directory = std::make_unique<TemporaryCurrentDirectory>();
-    QVERIFY(m_directory->isUsable());
+    DirectoryTest::init();
+    if (QTest::currentTestFailed())
+        return;
     calculation("A").save_ini("a.ini");
     calculation("B").save_ini("b.ini");
-}
-
-void TestAuthSetCode::cleanup()
-{
-    m_directory.reset();
 }
 
 void TestAuthSetCode::textsOfFiles_data()

@@ -1,16 +1,10 @@
 // SPDX-FileCopyrightText: The Kelto developers
 // SPDX-License-Identifier: MIT
 
-#include <Kelto/AUTH_SET>
-
 #include "support/moduleitems.h"
+#include "support/registrycopies.h"
 
 #include <QTest>
-
-#include <functional>
-
-using Change = std::function<void(AUTH_SET &)>;
-Q_DECLARE_METATYPE(Change)
 
 namespace {
 
@@ -72,25 +66,7 @@ void TestAuthSetCopies::copiesDoNotSeeLaterChanges_data()
 void TestAuthSetCopies::copiesDoNotSeeLaterChanges()
 {
     QFETCH(Change, change);
-    const QString before = state(registry());
-
-    AUTH_SET original = registry();
-    const AUTH_SET copy(original);
-    AUTH_SET assigned;
-    assigned = original;
-    QCOMPARE(state(copy), before);
-    QCOMPARE(state(assigned), before);
-
-    change(original);
-    const QString after = state(original);
-    QVERIFY(after != before);
-    QCOMPARE(state(copy), before);
-    QCOMPARE(state(assigned), before);
-
-    change(assigned);
-    QCOMPARE(state(assigned), after);
-    QCOMPARE(state(copy), before);
-    QCOMPARE(state(original), after);
+    changeOneAfterTheOther(registry(), AUTH_SET(), state, change);
 }
 
 void TestAuthSetCopies::copiesDoNotSeeWritesThroughAnEarlierPointer()

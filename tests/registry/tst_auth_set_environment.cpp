@@ -3,8 +3,9 @@
 
 #include <Kelto/AUTH_SET>
 
+#include "support/directorytest.h"
 #include "support/moduleitems.h"
-#include "support/temporarycurrentdirectory.h"
+#include "support/testfiles.h"
 
 #include <QDate>
 #include <QDateTime>
@@ -73,13 +74,11 @@ QString currentName()
 
 } // namespace
 
-class TestAuthSetEnvironment : public QObject
+class TestAuthSetEnvironment : public DirectoryTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void paths_data();
     void paths();
     void pathsFollowTheCurrentDirectory();
@@ -102,21 +101,7 @@ private Q_SLOTS:
     void localeOfSystem();
     void languageOfLocale_data();
     void languageOfLocale();
-
-private:
-    QScopedPointer<TemporaryCurrentDirectory> m_directory;
 };
-
-void TestAuthSetEnvironment::init()
-{
-    m_directory.reset(new TemporaryCurrentDirectory);
-    QVERIFY(m_directory->isUsable());
-}
-
-void TestAuthSetEnvironment::cleanup()
-{
-    m_directory.reset();
-}
 
 void TestAuthSetEnvironment::paths_data()
 {
@@ -140,7 +125,7 @@ void TestAuthSetEnvironment::paths()
     QCOMPARE(set.filepath_updater(), m_directory->path() + "/Update/Update.sh");
 #endif
     // Asking for a path makes nothing.
-    QCOMPARE(QDir().entryList(QDir::NoDotAndDotDot | QDir::AllEntries), QStringList());
+    QCOMPARE(filesIn("."), QStringList());
 }
 
 void TestAuthSetEnvironment::pathsFollowTheCurrentDirectory()
@@ -219,11 +204,7 @@ void TestAuthSetEnvironment::keepsEarlierLines()
 {
     const AUTH_SET set = application("App");
     const QStringList lines = linesLoggedBy(set, [&] {
-        QVERIFY(QDir().mkdir("log"));
-        QFile file(set.filepath_log());
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("2000-01-01 00:00:00 from another run\n");
-        file.close();
+        QVERIFY(writeFile(set.filepath_log(), "2000-01-01 00:00:00 from another run\n"));
         set.log("from this run");
     });
     QCOMPARE(messages(lines), (QStringList { "from another run", "from this run" }));
@@ -243,12 +224,9 @@ void TestAuthSetEnvironment::dropsWhatCannotBeLogged()
     const AUTH_SET set = application(obstacle == "name" ? "a/b" : "App");
     if (obstacle == "name") {
         set.log("lost");
-        QCOMPARE(QDir("log").entryList(QDir::NoDotAndDotDot | QDir::AllEntries), QStringList());
+        QCOMPARE(filesIn("log"), QStringList());
     } else if (obstacle == "log") {
-        QFile file("log");
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("not a directory");
-        file.close();
+        QVERIFY(writeFile("log", "not a directory"));
         set.log("lost");
         QCOMPARE(fileContent("log"), QByteArray("not a directory"));
     } else {
@@ -327,12 +305,8 @@ void TestAuthSetEnvironment::recordsInUtf8()
 
 void TestAuthSetEnvironment::keepsOtherKeysOfTheUpdateFile()
 {
-    QVERIFY(QDir().mkdir("Config"));
-    QFile file("Config/update.ini");
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("[Current]\nName=Old\nServer=here\n\n[Other]\nkey=value\n");
-    file.close();
-
+    QVERIFY(
+        writeFile("Config/update.ini", "[Current]\nName=Old\nServer=here\n\n[Other]\nkey=value\n"));
     const AUTH_SET set("App", "3.0", modulesNamed({ "Update" }));
     QSettings settings("Config/update.ini", QSettings::IniFormat);
     QCOMPARE(settings.value("Current/Name").toString(), QString("App"));

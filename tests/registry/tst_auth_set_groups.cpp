@@ -3,8 +3,8 @@
 
 #include <Kelto/AUTH_SET>
 
+#include "support/directorytest.h"
 #include "support/moduleitems.h"
-#include "support/temporarycurrentdirectory.h"
 
 #include <QTest>
 
@@ -62,13 +62,11 @@ QStringList keys(const QVector<QStringList> &entries)
 
 } // namespace
 
-class TestAuthSetGroups : public QObject
+class TestAuthSetGroups : public DirectoryTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void withoutGroups();
     void listsGroups();
     void deduplicatesTranslatedNamesOnTheirOwn();
@@ -117,21 +115,7 @@ private Q_SLOTS:
     void survivesEmptyNames();
     void unknownGroupsNeverMeanTheNamelessOne();
     void growsByAppending();
-
-private:
-    QScopedPointer<TemporaryCurrentDirectory> m_directory;
 };
-
-void TestAuthSetGroups::init()
-{
-    m_directory.reset(new TemporaryCurrentDirectory);
-    QVERIFY(m_directory->isUsable());
-}
-
-void TestAuthSetGroups::cleanup()
-{
-    m_directory.reset();
-}
 
 void TestAuthSetGroups::withoutGroups()
 {

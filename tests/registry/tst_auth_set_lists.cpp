@@ -43,6 +43,16 @@ VParameter withOther(int field)
                       text(8, "float"), field == 9);
 }
 
+/// Columns for two lists and what comes of them, and a function that adds a row.
+auto rowsOfTwoLists()
+{
+    QTest::addColumn<Parameters>("first");
+    QTest::addColumn<Parameters>("second");
+    QTest::addColumn<Parameters>("expected");
+    return [](const char *name, const Parameters &first, const Parameters &second,
+              const Parameters &expected) { QTest::newRow(name) << first << second << expected; };
+}
+
 void addFieldRows()
 {
     QTest::addColumn<int>("field");
@@ -81,13 +91,7 @@ private Q_SLOTS:
 
 void TestAuthSetLists::merges_data()
 {
-    QTest::addColumn<Parameters>("first");
-    QTest::addColumn<Parameters>("second");
-    QTest::addColumn<Parameters>("expected");
-
-    const auto row
-        = [](const char *name, const Parameters &first, const Parameters &second,
-             const Parameters &expected) { QTest::newRow(name) << first << second << expected; };
+    const auto row = rowsOfTwoLists();
     const Parameters ab = parameters({ entry("a"), entry("b") });
     row("two empty lists", {}, {}, {});
     row("an empty first one", {}, ab, ab);
@@ -138,13 +142,7 @@ void TestAuthSetLists::merges()
 
 void TestAuthSetLists::shares_data()
 {
-    QTest::addColumn<Parameters>("first");
-    QTest::addColumn<Parameters>("second");
-    QTest::addColumn<Parameters>("expected");
-
-    const auto row
-        = [](const char *name, const Parameters &first, const Parameters &second,
-             const Parameters &expected) { QTest::newRow(name) << first << second << expected; };
+    const auto row = rowsOfTwoLists();
     const Parameters ab = parameters({ entry("a"), entry("b") });
     row("two empty lists", {}, {}, {});
     row("an empty first one", {}, ab, {});

@@ -4,15 +4,15 @@
 // Random registries whose parameters and results hardly differ, with every list that AUTH_SET gives
 // compared to that of the plain scans of PlainLists. A failure names the seed and all steps.
 
+#include "support/directorytest.h"
 #include "support/parameters.h"
 #include "support/plainlists.h"
 #include "support/plainregistry.h"
 #include "support/randomitems.h"
-#include "support/temporarycurrentdirectory.h"
+#include "support/twins.h"
 
 #include <Kelto/AUTH_SET>
 
-#include <QDebug>
 #include <QtTest>
 
 #include <iterator>
@@ -31,14 +31,6 @@ struct Texts
     QStringList units { "mm" };
     int wrongLengthPercent = 0;
 };
-
-template <typename... Values> QString printed(const Values &...values)
-{
-    QString text;
-    QDebug debug(&text);
-    (debug << ... << values);
-    return text;
-}
 
 QString shown(const Pair &pair)
 {
@@ -113,42 +105,33 @@ public:
     QString difference()
     {
         append();
-        for (int step = m_dice.between(0, 3); step >= 0 && m_difference.isEmpty(); --step) {
+        for (int step = m_dice.between(0, 3); step >= 0 && !m_twins.differ(); --step) {
             askEverything();
             takeStep();
         }
         askEverything();
-        return m_difference.isEmpty()
-            ? QString()
-            : m_difference + QLatin1String("\n  after:\n  ") + m_steps.join(QLatin1String("\n  "));
+        return m_twins.report();
     }
 
-    /// How many parameters and sub-groups the answers held so far.
-    int answered() const { return m_answered; }
+    /// How many parameters and sub-groups the answers of each twin held so far.
+    int answered() const { return m_answered / 2; }
 
 private:
-    using Lists = PlainLists<PlainRegistry>;
-
-    template <typename Change> void change(const QString &step, Change toChange)
+    static const AUTH_SET &listsOf(const AUTH_SET &library) { return library; }
+    static PlainLists<PlainRegistry> listsOf(const PlainRegistry &plain)
     {
-        m_steps.append(step);
-        toChange(m_library);
-        toChange(m_plain);
+        return PlainLists<PlainRegistry>(plain);
     }
 
-    /// Asks both; the answers of the first difference are kept.
     template <typename Question, typename... Arguments>
     void ask(const char *operation, Question question, const Arguments &...arguments)
     {
-        if (!m_difference.isEmpty())
-            return;
-        const QStringList expected = shown(question(Lists(m_plain), arguments...));
-        const QStringList found = shown(question(m_library, arguments...));
-        m_answered += found.size();
-        if (expected != found) {
-            m_difference = printed(operation, arguments..., "\n  plain scans:", expected,
-                                   "\n  library:    ", found);
-        }
+        const auto shownAnswer = [&](const auto &registry, const auto &...asked) {
+            const QStringList answer = shown(question(listsOf(registry), asked...));
+            m_answered += answer.size();
+            return answer;
+        };
+        m_twins.ask(operation, shownAnswer, arguments...);
     }
 
     void askEverything();
@@ -185,29 +168,31 @@ private:
     void append()
     {
         const auto made = items(m_dice.between(1, 5));
-        change(told("append", made), [&](auto &registry) { registry.append(made); });
+        m_twins.change(told("append", made), [&](auto &registry) { registry.append(made); });
     }
 
     void appendOne()
     {
         const auto made = items(1);
-        change(told("append one", made), [&](auto &registry) { registry.append(made.first()); });
+        m_twins.change(told("append one", made),
+                       [&](auto &registry) { registry.append(made.first()); });
     }
 
     void acquire()
     {
         const auto made = items(m_dice.between(0, 6));
-        change(told("acquire", made), [&](auto &registry) { registry.acquire(made); });
+        m_twins.change(told("acquire", made), [&](auto &registry) { registry.acquire(made); });
     }
 
     void refresh()
     {
-        change(QStringLiteral("refresh_group"), [](auto &registry) { registry.refresh_group(); });
+        m_twins.change(QStringLiteral("refresh_group"),
+                       [](auto &registry) { registry.refresh_group(); });
     }
 
     void clear()
     {
-        change(QStringLiteral("clear"), [](auto &registry) { registry.clear(); });
+        m_twins.change(QStringLiteral("clear"), [](auto &registry) { registry.clear(); });
     }
 
     Flavour m_flavour;
@@ -215,16 +200,9 @@ private:
     Dice m_dice;
     ItemMaker m_items;
     EntryMaker m_entries;
-    AUTH_SET m_library;
-    PlainRegistry m_plain;
-    QStringList m_steps;
-    QString m_difference;
+    Twins<PlainRegistry> m_twins;
     int m_answered = 0;
 };
-
-/// The name of an operation that both have, and a function that calls it on either.
-#define OPERATION(name)                                                                            \
-#name, [](const auto &lists, const auto &...arguments) { return lists.name(arguments...); }
 
 void Life::askEverything()
 {
@@ -258,7 +236,7 @@ void Life::askAboutGroup(const QString &group)
 
 void Life::askAboutItems()
 {
-    const QVector<AUTH_INF> items = m_library.AUTH_INF_DATA();
+    const QVector<AUTH_INF> items = m_twins.library().AUTH_INF_DATA();
     for (const AUTH_INF &item : items) {
         ask(
             "defaultResultList",
@@ -300,25 +278,16 @@ Parameters randomParameters(Dice &dice, const Texts &texts, int most)
 Q_DECLARE_METATYPE(Flavour)
 Q_DECLARE_METATYPE(Texts)
 
-class AUTH_SETListsReferenceTest : public QObject
+class AUTH_SETListsReferenceTest : public DirectoryTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
     void givesTheListsOfPlainScans_data();
     void givesTheListsOfPlainScans();
     void combinesListsAsPlainScansDo_data();
     void combinesListsAsPlainScansDo();
-
-private:
-    TemporaryCurrentDirectory m_directory;
 };
-
-void AUTH_SETListsReferenceTest::initTestCase()
-{
-    QVERIFY(m_directory.isUsable());
-}
 
 void AUTH_SETListsReferenceTest::givesTheListsOfPlainScans_data()
 {

@@ -4,28 +4,19 @@
 // Random registries and random changes of them, with every answer of AUTH_SET compared to that of
 // the plain scans of PlainRegistry. A failure names the seed and all steps that led to it.
 
+#include "support/directorytest.h"
 #include "support/plainregistry.h"
 #include "support/randomitems.h"
-#include "support/temporarycurrentdirectory.h"
+#include "support/twins.h"
 
 #include <Kelto/AUTH_SET>
 
-#include <QDebug>
 #include <QtTest>
 
 #include <iterator>
 #include <type_traits>
-#include <utility>
 
 namespace {
-
-template <typename... Values> QString printed(const Values &...values)
-{
-    QString text;
-    QDebug debug(&text);
-    (debug << ... << values);
-    return text;
-}
 
 /// Enough of each item to tell which one it is and that it was numbered.
 QVector<QPair<int, QString>> identities(const QVector<AUTH_INF> &items)
@@ -36,52 +27,9 @@ QVector<QPair<int, QString>> identities(const QVector<AUTH_INF> &items)
     return result;
 }
 
-/// The same registry twice, by the library and by the plain scans.
-class Twins
-{
-public:
-    /// Does the same to both.
-    template <typename Change> void change(const QString &step, Change toChange)
-    {
-        m_steps.append(step);
-        toChange(m_library);
-        toChange(m_plain);
-    }
-
-    /// Asks both; the answers of the first difference are kept.
-    template <typename Question, typename... Arguments>
-    void ask(Question question, const char *operation, const Arguments &...arguments)
-    {
-        if (!m_difference.isEmpty())
-            return;
-        const auto expected = question(m_plain, arguments...);
-        const auto found = question(m_library, arguments...);
-        if (expected != found) {
-            m_difference = printed(operation, arguments..., "\n  plain scans:", expected,
-                                   "\n  library:    ", found);
-        }
-    }
-
-    bool differ() const { return !m_difference.isEmpty(); }
-    QString report() const
-    {
-        return m_difference + QLatin1String("\n  after:\n  ") + m_steps.join(QLatin1String("\n  "));
-    }
-
-private:
-    AUTH_SET m_library;
-    PlainRegistry m_plain;
-    QStringList m_steps;
-    QString m_difference;
-};
-
 // --- Questions ---------------------------------------------------------------------
 
-/// A function that calls an operation on a registry of either kind, and the operation's name.
-#define OPERATION(name)                                                                            \
-    [](auto &registry, const auto &...arguments) { return registry.name(arguments...); }, #name
-
-void askAboutModules(Twins &twins, const QStringList &names)
+void askAboutModules(Twins<PlainRegistry> &twins, const QStringList &names)
 {
     const auto ofType = [](auto &registry, const QString &type) {
         return identities(registry.AUTH_INF_list_by_type(type));
@@ -89,18 +37,18 @@ void askAboutModules(Twins &twins, const QStringList &names)
     const auto ofGroup = [](auto &registry, const QString &group) {
         return identities(registry.AUTH_INF_list_by_group(group));
     };
-    twins.ask([](auto &registry) { return identities(registry.AUTH_INF_DATA()); }, "AUTH_INF_DATA");
+    twins.ask("AUTH_INF_DATA", [](auto &registry) { return identities(registry.AUTH_INF_DATA()); });
     twins.ask(OPERATION(model_count));
     for (const QString &name : names) {
         twins.ask(OPERATION(index), name);
         twins.ask(OPERATION(model_exists), name);
         twins.ask(OPERATION(information), name);
-        twins.ask(ofType, "AUTH_INF_list_by_type", name);
-        twins.ask(ofGroup, "AUTH_INF_list_by_group", name);
+        twins.ask("AUTH_INF_list_by_type", ofType, name);
+        twins.ask("AUTH_INF_list_by_group", ofGroup, name);
     }
 }
 
-void askByIndex(Twins &twins)
+void askByIndex(Twins<PlainRegistry> &twins)
 {
     for (int i = -1; i < 12; ++i) {
         twins.ask(OPERATION(model_data), i);
@@ -115,7 +63,7 @@ void askByIndex(Twins &twins)
     }
 }
 
-void askAboutGroup(Twins &twins, const QString &group, const QStringList &names)
+void askAboutGroup(Twins<PlainRegistry> &twins, const QString &group, const QStringList &names)
 {
     twins.ask(OPERATION(findExclusiveGroupName), group);
     twins.ask(OPERATION(exclusive_group_mode_count), group);
@@ -147,7 +95,7 @@ QStringList modeCodes(const QString &application, const QStringList &names)
     return codes + codes.mid(0, 3);
 }
 
-void askEverything(Twins &twins, const Flavour &flavour)
+void askEverything(Twins<PlainRegistry> &twins, const Flavour &flavour)
 {
     const QStringList names = flavour.allNames();
     askAboutModules(twins, names);
@@ -166,13 +114,13 @@ void askEverything(Twins &twins, const Flavour &flavour)
 // --- Changes -----------------------------------------------------------------------
 
 /// The random life of one registry and of the copies that it leaves behind.
-class Life
+class Life : private TwinLife<PlainRegistry>
 {
 public:
     Life(unsigned seed, const Flavour &flavour)
-        : m_flavour(flavour)
+        : TwinLife(seed)
+        , m_flavour(flavour)
         , m_names(flavour.allNames())
-        , m_dice(seed)
         , m_maker(m_dice, flavour)
     {
     }
@@ -186,13 +134,7 @@ public:
                 askEverything(m_twins, m_flavour);
             takeStep();
         }
-        m_left.append(m_twins);
-        for (Twins &twins : m_left) {
-            askEverything(twins, m_flavour);
-            if (twins.differ())
-                return twins.report();
-        }
-        return QString();
+        return differenceAtTheEnd([this](auto &twins) { askEverything(twins, m_flavour); });
     }
 
 private:
@@ -200,12 +142,10 @@ private:
     {
         using Step = void (Life::*)();
         static const Step steps[]
-            = { &Life::appendOne,     &Life::appendOne,   &Life::appendOne,
-                &Life::appendSeveral, &Life::acquire,     &Life::clear,
-                &Life::refresh,       &Life::setPosition, &Life::setMode,
-                &Life::setMode,       &Life::setMode,     &Life::writePosition,
-                &Life::writePosition, &Life::copy,        &Life::copyAndGoOnWithCopy,
-                &Life::assignCopyBack };
+            = { &Life::appendOne,     &Life::appendOne, &Life::appendOne,    &Life::appendSeveral,
+                &Life::acquire,       &Life::clear,     &Life::refresh,      &Life::setPosition,
+                &Life::setMode,       &Life::setMode,   &Life::setMode,      &Life::writePosition,
+                &Life::writePosition, &Life::copy,      &Life::goOnWithCopy, &Life::goBackToCopy };
         (this->*steps[m_dice.between(0, int(std::size(steps)) - 1)])();
     }
 
@@ -274,51 +214,23 @@ private:
                        });
     }
 
-    void copy() { m_left.append(m_twins); }
-
-    void copyAndGoOnWithCopy()
-    {
-        Twins copied = m_twins;
-        std::swap(copied, m_twins);
-        m_left.append(copied);
-    }
-
-    /// Goes back to an earlier copy, which stays as it is.
-    void assignCopyBack()
-    {
-        if (!m_left.isEmpty())
-            m_twins = m_left.at(m_dice.between(0, m_left.size() - 1));
-    }
-
     Flavour m_flavour;
     QStringList m_names;
-    Dice m_dice;
     ItemMaker m_maker;
-    Twins m_twins;
-    QVector<Twins> m_left;
 };
 
 } // namespace
 
 Q_DECLARE_METATYPE(Flavour)
 
-class TestAuthSetReference : public QObject
+class TestAuthSetReference : public DirectoryTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
     void answersAsPlainScansDo_data();
     void answersAsPlainScansDo();
-
-private:
-    TemporaryCurrentDirectory m_directory;
 };
-
-void TestAuthSetReference::initTestCase()
-{
-    QVERIFY(m_directory.isUsable());
-}
 
 void TestAuthSetReference::answersAsPlainScansDo_data()
 {

@@ -3,9 +3,10 @@
 
 // The stored values in memory: looking up, storing, and taking over those of a calculation.
 
+#include "support/directorytest.h"
 #include "support/moduleitems.h"
 #include "support/storedvalues.h"
-#include "support/temporarycurrentdirectory.h"
+#include "support/testfiles.h"
 
 #include <QMap>
 #include <QTest>
@@ -15,13 +16,11 @@
 using Change = std::function<void(AUTH_SET &)>;
 Q_DECLARE_METATYPE(Change)
 
-class TestAuthSetValues : public QObject
+class TestAuthSetValues : public DirectoryTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void looksUp_data();
     void looksUp();
     void looksUpInGroups_data();
@@ -45,21 +44,7 @@ private Q_SLOTS:
     void keepsStoresApart();
     void keepsValuesWhenModulesChange_data();
     void keepsValuesWhenModulesChange();
-
-private:
-    QScopedPointer<TemporaryCurrentDirectory> m_directory;
 };
-
-void TestAuthSetValues::init()
-{
-    m_directory.reset(new TemporaryCurrentDirectory);
-    QVERIFY(m_directory->isUsable());
-}
-
-void TestAuthSetValues::cleanup()
-{
-    m_directory.reset();
-}
 
 void TestAuthSetValues::looksUp_data()
 {
@@ -371,7 +356,7 @@ void TestAuthSetValues::keepsTemporaryValues()
     QCOMPARE(described(set.value_temp("t")), described(QVariant("1")));
     set.set_temp("t", QVariant());
     QCOMPARE(set.value_temp("t"), QVariant());
-    QCOMPARE(QDir().entryList(QDir::NoDotAndDotDot | QDir::AllEntries), QStringList());
+    QCOMPARE(filesIn("."), QStringList());
 }
 
 void TestAuthSetValues::deletesTemporaryValues()

@@ -3,10 +3,9 @@
 
 // The set values in the configuration file of the application, where they outlive the registry.
 
-#include "support/messages.h"
+#include "support/directorytest.h"
 #include "support/moduleitems.h"
 #include "support/secondregistry.h"
-#include "support/temporarycurrentdirectory.h"
 #include "support/testfiles.h"
 
 #include <QPoint>
@@ -37,13 +36,11 @@ QStringList valuesOf(const AUTH_SET &set, const QStringList &keys)
 
 } // namespace
 
-class TestAuthSetValuesConfiguration : public QObject
+class TestAuthSetValuesConfiguration : public SilentDirectoryTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void constructionWritesNothing();
     void keepsValuesInTheFileOfTheApplication_data();
     void keepsValuesInTheFileOfTheApplication();
@@ -70,25 +67,7 @@ private Q_SLOTS:
     void losesNothingOfAnOddFile();
     void standsFilesOfOthers_data();
     void standsFilesOfOthers();
-
-private:
-    QScopedPointer<TemporaryCurrentDirectory> m_directory;
-    QScopedPointer<Messages> m_messages;
 };
-
-void TestAuthSetValuesConfiguration::init()
-{
-    m_directory.reset(new TemporaryCurrentDirectory);
-    QVERIFY(m_directory->isUsable());
-    m_messages.reset(new Messages);
-}
-
-void TestAuthSetValuesConfiguration::cleanup()
-{
-    QCOMPARE(Messages::collected(), QStringList());
-    m_messages.reset();
-    m_directory.reset();
-}
 
 void TestAuthSetValuesConfiguration::constructionWritesNothing()
 {

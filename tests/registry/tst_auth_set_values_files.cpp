@@ -3,21 +3,18 @@
 
 // Lists of values in INI files: saving and loading them, whatever the files are like.
 
-#include "support/messages.h"
+#include "support/directorytest.h"
 #include "support/secondregistry.h"
-#include "support/temporarycurrentdirectory.h"
 #include "support/testfiles.h"
 
 #include <QPoint>
 #include <QTest>
 
-class TestAuthSetValuesFiles : public QObject
+class TestAuthSetValuesFiles : public SilentDirectoryTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void saves_data();
     void saves();
     void savesForAnotherProcess_data();
@@ -36,25 +33,7 @@ private Q_SLOTS:
     void losesNothingOfOddFiles();
     void standsFilesOfOthers_data();
     void standsFilesOfOthers();
-
-private:
-    QScopedPointer<TemporaryCurrentDirectory> m_directory;
-    QScopedPointer<Messages> m_messages;
 };
-
-void TestAuthSetValuesFiles::init()
-{
-    m_directory.reset(new TemporaryCurrentDirectory);
-    QVERIFY(m_directory->isUsable());
-    m_messages.reset(new Messages);
-}
-
-void TestAuthSetValuesFiles::cleanup()
-{
-    QCOMPARE(Messages::collected(), QStringList());
-    m_messages.reset();
-    m_directory.reset();
-}
 
 void TestAuthSetValuesFiles::saves_data()
 {

@@ -3,8 +3,9 @@
 
 // Stored values that are lent for writing, and the copies of a registry that are not to notice.
 
+#include "support/directorytest.h"
+#include "support/registrycopies.h"
 #include "support/storedvalues.h"
-#include "support/temporarycurrentdirectory.h"
 
 #include <QTest>
 
@@ -12,7 +13,6 @@
 
 namespace {
 
-using Change = std::function<void(AUTH_SET &)>;
 /// Takes a pointer from a registry and gives a function that writes through it.
 using Lending = std::function<std::function<void()>(AUTH_SET &)>;
 
@@ -23,16 +23,13 @@ std::function<void()> writing(QVariant *value)
 
 } // namespace
 
-Q_DECLARE_METATYPE(Change)
 Q_DECLARE_METATYPE(Lending)
 
-class TestAuthSetValuePointers : public QObject
+class TestAuthSetValuePointers : public DirectoryTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void lendsValues_data();
     void lendsValues();
     void lendsGroups_data();
@@ -51,21 +48,7 @@ private Q_SLOTS:
     void pointersOutliveCopies();
     void takesBackALentList();
     void takesBackACopyOfALentList();
-
-private:
-    QScopedPointer<TemporaryCurrentDirectory> m_directory;
 };
-
-void TestAuthSetValuePointers::init()
-{
-    m_directory.reset(new TemporaryCurrentDirectory);
-    QVERIFY(m_directory->isUsable());
-}
-
-void TestAuthSetValuePointers::cleanup()
-{
-    m_directory.reset();
-}
 
 void TestAuthSetValuePointers::lendsValues_data()
 {
@@ -308,23 +291,9 @@ void TestAuthSetValuePointers::copiesDoNotSeeLaterChanges_data()
 void TestAuthSetValuePointers::copiesDoNotSeeLaterChanges()
 {
     QFETCH(Change, change);
-    AUTH_SET original = filled();
-    const QStringList before = state(original);
-    const AUTH_SET copy(original);
     AUTH_SET assigned;
     assigned.setDefaultSettings("new", { { "n", 1 } });
-    assigned = original;
-    QCOMPARE(state(copy), before);
-    QCOMPARE(state(assigned), before);
-
-    change(original);
-    const QStringList after = state(original);
-    QVERIFY(after != before);
-    QCOMPARE(state(copy), before);
-    QCOMPARE(state(assigned), before);
-    change(assigned);
-    QCOMPARE(state(assigned), after);
-    QCOMPARE(state(copy), before);
+    changeOneAfterTheOther(filled(), assigned, state, change);
 }
 
 void TestAuthSetValuePointers::copiesDoNotSeeWritesThroughPointers_data()

@@ -9,14 +9,14 @@
 #include "support/randomitems.h"
 #include "support/settingsjson.h"
 #include "support/temporarycurrentdirectory.h"
+#include "support/testfiles.h"
+#include "support/twins.h"
 
 #include <Kelto/AUTH_SET>
 
-#include <QDebug>
 #include <QtTest>
 
 #include <iterator>
-#include <utility>
 
 namespace {
 
@@ -28,14 +28,6 @@ struct Names
     int longestList = 6;
 };
 
-template <typename... Values> QString printed(const Values &...values)
-{
-    QString text;
-    QDebug debug(&text);
-    (debug << ... << values);
-    return text;
-}
-
 /// Calls @p action in a directory of its own below the current one.
 template <typename Action> void within(const QString &directory, Action action)
 {
@@ -46,85 +38,49 @@ template <typename Action> void within(const QString &directory, Action action)
     QDir::setCurrent(before);
 }
 
-const char *const libraryDirectory = "library";
-const char *const plainDirectory = "plain";
-
-/// The same values twice, in the library and in plain vectors.
-class Twins
+const char *directoryOf(const AUTH_SET &)
 {
-public:
-    /// Does the same to both, each in its directory.
-    template <typename Change> void change(const QString &step, Change toChange)
-    {
-        m_steps.append(step);
-        within(libraryDirectory, [&] { toChange(m_library); });
-        within(plainDirectory, [&] { toChange(m_plain); });
-    }
+    return "library";
+}
 
-    /// Asks both; the answers of the first difference are kept.
-    template <typename Question, typename... Arguments>
-    void ask(const char *operation, Question question, const Arguments &...arguments)
-    {
-        if (!m_difference.isEmpty())
-            return;
-        const auto expected = described(question(m_plain, arguments...));
-        const auto found = described(question(m_library, arguments...));
-        if (expected != found) {
-            m_difference = printed(operation, arguments..., "\n  plain vectors:", expected,
-                                   "\n  library:      ", found);
-        }
-    }
+const char *directoryOf(const PlainValues &)
+{
+    return "plain";
+}
 
-    /// Writes to the same place of both; AUTH_SET also has one where plain vectors have none.
-    template <typename Lend> void writeThroughPointer(const QString &step, Lend lend, int value)
-    {
-        change(step, [&](auto &values) {
-            if (QVariant *place = lend(values))
-                *place = value;
-        });
-    }
+using ValueTwins = Twins<PlainValues>;
 
-    bool differ() const { return !m_difference.isEmpty(); }
-    QString report() const
-    {
-        return m_difference + QLatin1String("\n  after:\n  ") + m_steps.join(QLatin1String("\n  "));
-    }
+/// Asks both for values and compares these with their types.
+template <typename Question, typename... Arguments>
+void ask(ValueTwins &twins, const char *operation, Question question, const Arguments &...arguments)
+{
+    const auto describedAnswer = [&question](const auto &values, const auto &...asked) {
+        return described(question(values, asked...));
+    };
+    twins.ask(operation, describedAnswer, arguments...);
+}
 
-    AUTH_SET &library() { return m_library; }
-    PlainValues &plain() { return m_plain; }
-
-private:
-    AUTH_SET m_library;
-    PlainValues m_plain;
-    QStringList m_steps;
-    QString m_difference;
-};
-
-/// The name of an operation that both have, and a function that calls it on either.
-#define OPERATION(name)                                                                            \
-#name, [](const auto &values, const auto &...arguments) { return values.name(arguments...); }
-
-void askEverything(Twins &twins, const Names &names)
+void askEverything(ValueTwins &twins, const Names &names)
 {
     for (const QString &key : names.keys) {
-        twins.ask(OPERATION(value_set), key);
-        twins.ask(OPERATION(value_cal), key);
-        twins.ask(OPERATION(value_temp), key);
+        ask(twins, OPERATION(value_set), key);
+        ask(twins, OPERATION(value_cal), key);
+        ask(twins, OPERATION(value_temp), key);
     }
     for (const QString &group : names.groups) {
-        twins.ask(OPERATION(value_group), group);
+        ask(twins, OPERATION(value_group), group);
         for (const QString &key : names.keys)
-            twins.ask(OPERATION(value_group_at), group, key);
+            ask(twins, OPERATION(value_group_at), group, key);
     }
 }
 
 /// The random life of one registry's values and of the copies that it leaves behind.
-class Life
+class Life : private TwinLife<PlainValues>
 {
 public:
     Life(unsigned seed, const Names &names)
-        : m_names(names)
-        , m_dice(seed)
+        : TwinLife(seed)
+        , m_names(names)
     {
     }
 
@@ -136,13 +92,7 @@ public:
             if (m_dice.chance(30))
                 askEverything(m_twins, m_names);
         }
-        m_left.append(m_twins);
-        for (Twins &twins : m_left) {
-            askEverything(twins, m_names);
-            if (twins.differ())
-                return twins.report();
-        }
-        return QString();
+        return differenceAtTheEnd([this](auto &twins) { askEverything(twins, m_names); });
     }
 
 private:
@@ -156,7 +106,7 @@ private:
                 &Life::writeSet,          &Life::writeSet,      &Life::writeCalculation,
                 &Life::writeGroup,        &Life::writeInGroup,  &Life::writeInGroup,
                 &Life::writeAfterCopying, &Life::loadIntoGroup, &Life::copy,
-                &Life::copyAndGoOn,       &Life::assignBack };
+                &Life::goOnWithCopy,      &Life::goBackToCopy };
         // Files take most of the time.
         if (m_dice.chance(4))
             setValue();
@@ -164,6 +114,23 @@ private:
             startAnew();
         else
             (this->*steps[m_dice.between(0, int(std::size(steps)) - 1)])();
+    }
+
+    /// Does the same to both, each in its directory.
+    template <typename Change> void change(const QString &step, Change toChange)
+    {
+        m_twins.change(step, [&](auto &values) {
+            within(directoryOf(values), [&] { toChange(values); });
+        });
+    }
+
+    /// Writes to the same place of both; AUTH_SET also has one where plain vectors have none.
+    template <typename Lend> void writeThroughPointer(const QString &step, Lend lend, int value)
+    {
+        change(step, [&](auto &values) {
+            if (QVariant *place = lend(values))
+                *place = value;
+        });
     }
 
     QString key() { return m_dice.oneOf(m_names.keys); }
@@ -180,58 +147,57 @@ private:
     {
         const QString name = key();
         const int value = ++m_lastValue;
-        m_twins.change(printed("setValueInSet", name, value),
-                       [&](auto &values) { values.setValueInSet(name, value); });
+        change(printed("setValueInSet", name, value),
+               [&](auto &values) { values.setValueInSet(name, value); });
     }
 
     void startAnew()
     {
-        m_twins.change(QStringLiteral("start anew"),
-                       [](auto &values) { values = std::decay_t<decltype(values)>(); });
+        change(QStringLiteral("start anew"),
+               [](auto &values) { values = std::decay_t<decltype(values)>(); });
     }
 
     void setDefaults()
     {
         const QString name = group();
         m_held = entries();
-        m_twins.change(printed("setDefaultSettings", name, m_held),
-                       [&](auto &values) { values.setDefaultSettings(name, m_held); });
+        change(printed("setDefaultSettings", name, m_held),
+               [&](auto &values) { values.setDefaultSettings(name, m_held); });
     }
 
     /// The list of an earlier step, which may be another group's.
     void setSameAgain()
     {
         const QString name = group();
-        m_twins.change(printed("setDefaultSettings again", name, m_held),
-                       [&](auto &values) { values.setDefaultSettings(name, m_held); });
+        change(printed("setDefaultSettings again", name, m_held),
+               [&](auto &values) { values.setDefaultSettings(name, m_held); });
     }
 
     void takeOver()
     {
         const Entries data = entries();
-        m_twins.change(printed("getCalculationLData", data),
-                       [&](auto &values) { values.getCalculationLData(data); });
+        change(printed("getCalculationLData", data),
+               [&](auto &values) { values.getCalculationLData(data); });
     }
 
     void setTemporary()
     {
         const QString name = key();
         const int value = ++m_lastValue;
-        m_twins.change(printed("set_temp", name, value),
-                       [&](auto &values) { values.set_temp(name, value); });
+        change(printed("set_temp", name, value),
+               [&](auto &values) { values.set_temp(name, value); });
     }
 
     void deleteOne()
     {
         const QString name = key();
-        m_twins.change(printed("delete_temp", name),
-                       [&](auto &values) { values.delete_temp(name); });
+        change(printed("delete_temp", name), [&](auto &values) { values.delete_temp(name); });
     }
 
     void writeSet()
     {
         const QString name = key();
-        m_twins.writeThroughPointer(
+        writeThroughPointer(
             printed("write to value_set_p", name),
             [&](auto &values) { return values.value_set_p(name); }, ++m_lastValue);
     }
@@ -239,7 +205,7 @@ private:
     void writeCalculation()
     {
         const QString name = key();
-        m_twins.writeThroughPointer(
+        writeThroughPointer(
             printed("write to value_cal_p", name),
             [&](auto &values) { return values.value_cal_p(name); }, ++m_lastValue);
     }
@@ -248,7 +214,7 @@ private:
     {
         const QString groupName = group();
         const QString name = key();
-        m_twins.writeThroughPointer(
+        writeThroughPointer(
             printed("write to value_group_at_p", groupName, name),
             [&](auto &values) { return values.value_group_at_p(groupName, name); }, ++m_lastValue);
     }
@@ -260,7 +226,7 @@ private:
         const QString name = key();
         const int kind = m_dice.between(0, 3);
         const int value = ++m_lastValue;
-        m_twins.change(printed("write to value_group_p", groupName, name, kind), [&](auto &values) {
+        change(printed("write to value_group_p", groupName, name, kind), [&](auto &values) {
             Entries *list = values.value_group_p(groupName);
             if (!list)
                 return;
@@ -285,8 +251,8 @@ private:
             = { m_twins.plain().value_set_p(name), m_twins.plain().value_cal_p(name),
                 m_twins.plain().value_group_at_p(groupName, name) };
         copy();
-        m_twins.change(printed("write to earlier pointers", groupName, name),
-                       [](const auto &) { /* They are written to below. */ });
+        change(printed("write to earlier pointers", groupName, name),
+               [](const auto &) { /* They are written to below. */ });
         for (std::size_t i = 0; i < std::size(library); ++i) {
             const int value = ++m_lastValue;
             *library[i] = value;
@@ -298,7 +264,7 @@ private:
     void loadIntoGroup()
     {
         const QString name = group();
-        m_twins.change(printed("save and load", name), [&](auto &values) {
+        change(printed("save and load", name), [&](auto &values) {
             const Entries saved { { m_names.keys.first(), "saved" } };
             if (!QFile::exists("values.ini"))
                 values.save("values.ini", &saved);
@@ -307,26 +273,7 @@ private:
         });
     }
 
-    void copy() { m_left.append(m_twins); }
-
-    void copyAndGoOn()
-    {
-        Twins copied = m_twins;
-        std::swap(copied, m_twins);
-        m_left.append(copied);
-    }
-
-    /// Goes back to an earlier copy, which stays as it is.
-    void assignBack()
-    {
-        if (!m_left.isEmpty())
-            m_twins = m_left.at(m_dice.between(0, m_left.size() - 1));
-    }
-
     Names m_names;
-    Dice m_dice;
-    Twins m_twins;
-    QVector<Twins> m_left;
     Entries m_held;
     int m_lastValue = 0;
 };
@@ -371,8 +318,8 @@ void AUTH_SETValuesReferenceTest::keepsValuesAsPlainVectorsDo()
         QVERIFY(directory.isUsable());
         const QString difference = Life(seed, names).difference();
         QVERIFY2(difference.isEmpty(), qPrintable(printed("seed", seed) + difference));
-        const QString file = "/Config/_config.ini";
-        QCOMPARE(fileContent(libraryDirectory + file), fileContent(plainDirectory + file));
+        QCOMPARE(fileContent("library/Config/_config.ini"),
+                 fileContent("plain/Config/_config.ini"));
     }
 }
 

@@ -5,7 +5,6 @@
 #define TEMPORARYCURRENTDIRECTORY_H
 
 #include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 
 /// A fresh directory that is the current one for the life of this object and is removed after it.
@@ -30,12 +29,5 @@ private:
     QString m_previous;
     bool m_usable;
 };
-
-/// The whole content of the file at @p path; null when it cannot be read.
-inline QByteArray fileContent(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 #endif

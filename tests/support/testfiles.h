@@ -20,6 +20,13 @@ inline bool writeFile(const QString &path, const QByteArray &bytes)
         && file.write(bytes) == bytes.size();
 }
 
+/// The whole content of the file at @p path; null when it cannot be read.
+inline QByteArray fileContent(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
 /// The names of everything in @p directory, in order.
 inline QStringList filesIn(const QString &directory)
 {

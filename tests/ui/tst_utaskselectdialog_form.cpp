@@ -3,7 +3,7 @@
 
 #include "dialogsupport.h"
 
-#include "support/temporarycurrentdirectory.h"
+#include "support/directorytest.h"
 
 #include <QButtonGroup>
 #include <QFormLayout>
@@ -71,12 +71,11 @@ bool showsAllOfTheName(const UTaskSelectDialog &dialog)
 
 } // namespace
 
-class TestTaskSelectDialogForm : public QObject
+class TestTaskSelectDialogForm : public DirectoryTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
     void dialogItself();
     void members_data();
     void members();
@@ -100,15 +99,7 @@ private Q_SLOTS:
     void makesRoomInAnotherFont();
     void opensInTheMiddle_data();
     void opensInTheMiddle();
-
-private:
-    TemporaryCurrentDirectory m_directory;
 };
-
-void TestTaskSelectDialogForm::initTestCase()
-{
-    QVERIFY(m_directory.isUsable());
-}
 
 void TestTaskSelectDialogForm::dialogItself()
 {

@@ -3,7 +3,7 @@
 
 #include "dialogsupport.h"
 
-#include "support/temporarycurrentdirectory.h"
+#include "support/directorytest.h"
 
 #include <QPlainTextEdit>
 
@@ -38,12 +38,11 @@ void pressAll(const UTaskSelectDialog &dialog, const KeyPresses &presses)
 
 Q_DECLARE_METATYPE(KeyPress)
 
-class TestTaskSelectDialogKeyboard : public QObject
+class TestTaskSelectDialogKeyboard : public DirectoryTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
     void focusStartsOnTheComboBox_data();
     void focusStartsOnTheComboBox();
     void movesTheFocus_data();
@@ -53,15 +52,7 @@ private Q_SLOTS:
     void closes_data();
     void closes();
     void textFieldTakesText();
-
-private:
-    TemporaryCurrentDirectory m_directory;
 };
-
-void TestTaskSelectDialogKeyboard::initTestCase()
-{
-    QVERIFY(m_directory.isUsable());
-}
 
 void TestTaskSelectDialogKeyboard::focusStartsOnTheComboBox_data()
 {

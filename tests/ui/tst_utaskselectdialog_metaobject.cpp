@@ -3,7 +3,7 @@
 
 #include "dialogsupport.h"
 
-#include "support/temporarycurrentdirectory.h"
+#include "support/directorytest.h"
 
 #include <QMetaMethod>
 #include <QSequentialIterable>
@@ -22,12 +22,11 @@ QString declaration(int index)
 
 } // namespace
 
-class TestTaskSelectDialogMetaObject : public QObject
+class TestTaskSelectDialogMetaObject : public DirectoryTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
     void knowsItsTypesFromTheStart_data();
     void knowsItsTypesFromTheStart();
     void listIsIterable();
@@ -36,15 +35,7 @@ private Q_SLOTS:
     void parameterNames();
     void setsItemsByName();
     void showsByName();
-
-private:
-    TemporaryCurrentDirectory m_directory;
 };
-
-void TestTaskSelectDialogMetaObject::initTestCase()
-{
-    QVERIFY(m_directory.isUsable());
-}
 
 // First of all tests: no dialog has been made yet, and nothing here asks for the types otherwise.
 void TestTaskSelectDialogMetaObject::knowsItsTypesFromTheStart_data()

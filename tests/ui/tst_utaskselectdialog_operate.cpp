@@ -3,7 +3,7 @@
 
 #include "dialogsupport.h"
 
-#include "support/temporarycurrentdirectory.h"
+#include "support/directorytest.h"
 
 #include <limits>
 #include <memory>
@@ -18,14 +18,23 @@ QString outcome(const AUTH_SET &registry)
         + registry.currentExclusiveGroupSelect("H").first;
 }
 
+/// twoGroups() with mode b selected in G, and a task that it does not have.
+AUTH_SET registryInUse()
+{
+    AUTH_SET registry = twoGroups();
+    registry.exclusive_group_set_mode("G", "b");
+    registry.current_group = "old";
+    registry.current_mode = "older";
+    return registry;
+}
+
 } // namespace
 
-class TestTaskSelectDialogOperate : public QObject
+class TestTaskSelectDialogOperate : public DirectoryTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
     void operates_data();
     void operates();
     void acceptsAnyItem_data();
@@ -35,15 +44,7 @@ private Q_SLOTS:
     void operatesWithoutAnyMode_data();
     void operatesWithoutAnyMode();
     void leavesTheRegistryBehind();
-
-private:
-    TemporaryCurrentDirectory m_directory;
 };
-
-void TestTaskSelectDialogOperate::initTestCase()
-{
-    QVERIFY(m_directory.isUsable());
-}
 
 void TestTaskSelectDialogOperate::operates_data()
 {
@@ -69,10 +70,7 @@ void TestTaskSelectDialogOperate::operates()
 {
     QFETCH(int, index);
     QFETCH(int, id);
-    AUTH_SET registry = twoGroups();
-    registry.exclusive_group_set_mode("G", "b");
-    registry.current_group = "old";
-    registry.current_mode = "older";
+    AUTH_SET registry = registryInUse();
     UTaskSelectDialog dialog;
     dialog.set(&registry);
     comboBox(dialog)->setCurrentIndex(index);
@@ -109,10 +107,7 @@ void TestTaskSelectDialogOperate::acceptsAnyItem_data()
 void TestTaskSelectDialogOperate::acceptsAnyItem()
 {
     QFETCH(Pair, item);
-    AUTH_SET registry = twoGroups();
-    registry.exclusive_group_set_mode("G", "b");
-    registry.current_group = "old";
-    registry.current_mode = "older";
+    AUTH_SET registry = registryInUse();
     UTaskSelectDialog dialog;
     dialog.set(&registry);
     dialog.setItems({ item });

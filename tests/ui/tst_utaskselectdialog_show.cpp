@@ -3,7 +3,7 @@
 
 #include "closings.h"
 
-#include "support/temporarycurrentdirectory.h"
+#include "support/directorytest.h"
 
 #include <QCloseEvent>
 #include <QHideEvent>
@@ -21,14 +21,13 @@ template <typename Event> void sendSpontaneous(UTaskSelectDialog &dialog, Event 
 
 } // namespace
 
-class TestTaskSelectDialogShow : public QObject
+class TestTaskSelectDialogShow : public DirectoryTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void init();
-    void cleanup();
+    void init() override;
+    void cleanup() override;
     void preselects_data();
     void preselects();
     void preselectsOnAnyShowEvent();
@@ -48,22 +47,20 @@ private Q_SLOTS:
     void showsAgainWhileClosing();
 
 private:
-    TemporaryCurrentDirectory m_directory;
     AUTH_SET m_registry;
 };
 
-void TestTaskSelectDialogShow::initTestCase()
-{
-    QVERIFY(m_directory.isUsable());
-}
-
 void TestTaskSelectDialogShow::init()
 {
+    DirectoryTest::init();
+    if (QTest::currentTestFailed())
+        return;
     m_registry = twoGroups();
 }
 
 void TestTaskSelectDialogShow::cleanup()
 {
+    DirectoryTest::cleanup();
     QVERIFY(!isAnyWindowOnScreen());
 }
 

@@ -3,7 +3,7 @@
 
 #include "closings.h"
 
-#include "support/temporarycurrentdirectory.h"
+#include "support/directorytest.h"
 
 namespace {
 
@@ -18,13 +18,12 @@ template <typename Action> void onceActive(UTaskSelectDialog &dialog, Action act
 
 } // namespace
 
-class TestTaskSelectDialogUnbound : public QObject
+class TestTaskSelectDialogUnbound : public DirectoryTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void cleanup();
+    void cleanup() override;
     void tellsThatNothingIsBound();
     void boxComesWithAnyShowEvent();
     void staysOpenWithoutARegistry();
@@ -33,18 +32,11 @@ private Q_SLOTS:
     void returnsWhenDeletedWhileTheBoxIsOpen_data();
     void returnsWhenDeletedWhileTheBoxIsOpen();
     void bindsWhileTheBoxIsOpen();
-
-private:
-    TemporaryCurrentDirectory m_directory;
 };
-
-void TestTaskSelectDialogUnbound::initTestCase()
-{
-    QVERIFY(m_directory.isUsable());
-}
 
 void TestTaskSelectDialogUnbound::cleanup()
 {
+    DirectoryTest::cleanup();
     QVERIFY(!isAnyWindowOnScreen());
 }
 
