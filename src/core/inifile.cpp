@@ -57,7 +57,8 @@ bool isDirectoryWritable(const QString &path)
 
 /// Whether the file, the directory in which QSettings locks it, and the one in which it puts the
 /// new file together can be written; through a link these are two. If not, QSettings would still
-/// show the new values to everybody in this process.
+/// show the new values to everybody in this process. It also makes missing directories, when it is
+/// asked: that comes first.
 bool isWritable(const QSettings &settings)
 {
     const QString path = settings.fileName();

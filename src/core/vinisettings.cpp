@@ -35,55 +35,52 @@ bool VIniSettingsPrivate::isInGroup(const QString &key, const QString &group)
 
 QStringList VIniSettingsPrivate::keys() const
 {
-    return m_keysAreApart ? m_keysApart : list.keys();
+    return m_keysApart ? *m_keysApart : list.keys();
 }
 
 int VIniSettingsPrivate::keyIndex(const QString &key) const
 {
-    return m_keysAreApart ? m_keysApart.indexOf(key) : list.indexOf(key);
+    return m_keysApart ? m_keysApart->indexOf(key) : list.indexOf(key);
 }
 
 void VIniSettingsPrivate::assign(const KeyValues &entries)
 {
     list = KeyValueList(entries);
-    m_keysAreApart = false;
-    m_keysApart.clear();
+    m_keysApart.reset();
 }
 
 void VIniSettingsPrivate::merge(const KeyValues &entries)
 {
     list.merge(entries);
-    m_keysAreApart = false;
-    m_keysApart.clear();
+    m_keysApart.reset();
 }
 
 void VIniSettingsPrivate::set(const QString &key, const QVariant &value)
 {
-    if (list.set(key, value) && m_keysAreApart)
-        m_keysApart.append(key);
+    if (list.set(key, value) && m_keysApart)
+        m_keysApart->append(key);
 }
 
 void VIniSettingsPrivate::addKeyApart(const QString &key)
 {
-    if (!m_keysAreApart)
+    if (!m_keysApart)
         m_keysApart = list.keys();
-    m_keysAreApart = true;
-    m_keysApart.append(key);
+    m_keysApart->append(key);
 }
 
 void VIniSettingsPrivate::removeAt(int index)
 {
     if (index < list.size())
         list.removeAt(index);
-    if (m_keysAreApart)
-        m_keysApart.removeAt(index);
+    if (m_keysApart)
+        m_keysApart->removeAt(index);
 }
 
 void VIniSettingsPrivate::removeMarked(const QVector<bool> &marks)
 {
     list.removeMarked(marks);
-    if (m_keysAreApart)
-        m_keysApart = withoutMarked(m_keysApart, marks);
+    if (m_keysApart)
+        m_keysApart = withoutMarked(*m_keysApart, marks);
 }
 
 VIniSettings::VIniSettings()

@@ -10,6 +10,8 @@
 #include <QStringList>
 #include <QVector>
 
+#include <optional>
+
 class VIniSettingsPrivate
 {
 public:
@@ -36,8 +38,7 @@ public:
 private:
     /// The keys are those of the list, until one is taken in without an entry: then they are kept
     /// apart, because the two differ in order and in number.
-    bool m_keysAreApart = false;
-    QStringList m_keysApart;
+    std::optional<QStringList> m_keysApart;
 };
 
 #endif
