@@ -40,10 +40,12 @@ Outcome<QVector<AUTH_INF>> modulesFromFiles(const QString &directory)
     const QFileInfo info(directory);
     if (!info.isDir())
         return { {}, QStringLiteral("There is no directory \"%1\".").arg(directory) };
-    if (!info.isReadable())
+    // What may be listed but not searched gives names without files.
+    if (!info.isReadable() || !info.isExecutable())
         return { {}, QStringLiteral("The directory \"%1\" cannot be read.").arg(directory) };
-    const auto files
-        = QDir(directory).entryInfoList({ QStringLiteral("*.ini") }, QDir::Files, QDir::Name);
+    // The build reads files with the same names.
+    const auto files = QDir(directory).entryInfoList({ QStringLiteral("*.ini") },
+                                                     QDir::Files | QDir::CaseSensitive, QDir::Name);
     if (files.isEmpty())
         return { {}, QStringLiteral("The directory \"%1\" holds no files *.ini.").arg(directory) };
 

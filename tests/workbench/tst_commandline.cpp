@@ -7,6 +7,11 @@
 #include <QtTest>
 
 #include "support/temporarycurrentdirectory.h"
+#include "support/testfiles.h"
+
+#ifdef Q_OS_UNIX
+#include <unistd.h>
+#endif
 
 namespace {
 
@@ -17,15 +22,16 @@ struct Ending
     QString complaint;
 };
 
-/// Runs the workbench to its end in the directory @p path.
-Ending run(const QString &path, const QStringList &arguments)
+/// Runs a program, the workbench where none is named, to its end in the directory @p path.
+Ending run(const QString &path, const QStringList &arguments,
+           const QString &program = QStringLiteral(WORKBENCH_EXECUTABLE))
 {
     QProcess process;
     process.setWorkingDirectory(path);
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), path); // or Qt complains
     process.setProcessEnvironment(environment);
-    process.start(QStringLiteral(WORKBENCH_EXECUTABLE), arguments);
+    process.start(program, arguments);
     if (!process.waitForFinished()) {
         process.kill();
         process.waitForFinished();
@@ -34,6 +40,23 @@ Ending run(const QString &path, const QStringList &arguments)
     return { process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
              QString::fromUtf8(process.readAllStandardOutput()),
              QString::fromUtf8(process.readAllStandardError()) };
+}
+
+QString modulesAdvice()
+{
+    return "\nName a directory with module files (--modules), or start with the modules that were "
+           "compiled in (--compiled).\n";
+}
+
+/// The user who owns the directory @p path and whom permissions bind: another one for the
+/// superuser.
+QString boundOwner(const QString &path)
+{
+#ifdef Q_OS_UNIX
+    if (geteuid() == 0 && chown(qPrintable(path), 65534, 65534) == 0)
+        return "65534";
+#endif
+    return {};
 }
 
 } // namespace
@@ -48,6 +71,8 @@ private Q_SLOTS:
     void complaints_data();
     void complaints();
     void fileWithoutModule();
+    void modulesThatMayNotBeRead_data();
+    void modulesThatMayNotBeRead();
     void modulesOfAnotherDirectory();
     void unknownTaskListsTheKnownOnes_data();
     void unknownTaskListsTheKnownOnes();
@@ -98,13 +123,11 @@ void tst_CommandLine::complaints_data()
         << list("--modules=") << 2 << "--modules needs a directory.\n";
     QTest::newRow("both kinds of modules")
         << list("--compiled|--modules|.") << 2 << "--modules and --compiled exclude each other.\n";
-    const QString advice
-        = QStringLiteral("\nName a directory with module files (--modules), or start with the "
-                         "modules that were compiled in (--compiled).\n");
     QTest::newRow("missing directory")
-        << list("--modules|missing") << 1 << "There is no directory \"missing\"." + advice;
+        << list("--modules|missing") << 1 << "There is no directory \"missing\"." + modulesAdvice();
     QTest::newRow("directory without modules")
-        << list("--modules|.") << 1 << "The directory \".\" holds no files *.ini." + advice;
+        << list("--modules|.") << 1
+        << "The directory \".\" holds no files *.ini." + modulesAdvice();
 }
 
 void tst_CommandLine::complaints()
@@ -123,18 +146,53 @@ void tst_CommandLine::complaints()
 void tst_CommandLine::fileWithoutModule()
 {
     const TemporaryCurrentDirectory directory;
-    QFile file(QStringLiteral("notes.ini"));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QVERIFY(file.write("[Notes]\nname=none\n") > 0);
-    file.close();
+    QVERIFY(writeFile("notes.ini", "[Notes]\nname=none\n"));
 
     const Ending ending = run(directory.path(), { "--modules", "." });
 
     QCOMPARE(ending.exitCode, 1);
     QVERIFY2(ending.complaint.startsWith("The file \"./notes.ini\" holds no module: "),
              qPrintable(ending.complaint));
-    QCOMPARE(QDir().entryList(QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot),
-             QStringList("notes.ini"));
+    QCOMPARE(filesIn("."), QStringList("notes.ini"));
+}
+
+void tst_CommandLine::modulesThatMayNotBeRead_data()
+{
+    QTest::addColumn<int>("directoryRights");
+    QTest::addColumn<int>("fileRights");
+    QTest::addColumn<int>("exitCode");
+    QTest::addColumn<QString>("complaint");
+
+    const QString file = "The file \"mine/wall.ini\" cannot be read." + modulesAdvice();
+    const QString directory = "The directory \"mine\" cannot be read." + modulesAdvice();
+    QTest::newRow("everything may be read") << 5 << 4 << 0 << "";
+    QTest::newRow("file that may not be read") << 5 << 0 << 1 << file;
+    QTest::newRow("file that may only be written") << 7 << 2 << 1 << file;
+    QTest::newRow("directory that may not be read") << 1 << 4 << 1 << directory;
+    QTest::newRow("directory that may not be searched") << 4 << 4 << 1 << directory;
+    QTest::newRow("directory that may not be touched") << 0 << 4 << 1 << directory;
+}
+
+void tst_CommandLine::modulesThatMayNotBeRead()
+{
+#ifndef Q_OS_UNIX
+    QSKIP("Permissions of this system say nothing about what a process may do.");
+#endif
+    QFETCH(int, directoryRights);
+    QFETCH(int, fileRights);
+    const TemporaryCurrentDirectory directory;
+    const QString user = boundOwner(directory.path());
+    QVERIFY(QDir().mkdir("mine"));
+    QVERIFY(QFile::copy(WORKBENCH_MODULES "/40-plane-wall.ini", "mine/wall.ini"));
+    setRights("mine/wall.ini", fileRights);
+    setRights("mine", directoryRights);
+
+    const Ending ending = run(directory.path(), { user, "--modules", "mine" }, WORKBENCH_AS_USER);
+    setRights("mine", 7);
+
+    QTEST(ending.complaint, "complaint");
+    QTEST(ending.exitCode, "exitCode");
+    QCOMPARE(ending.output, QString());
 }
 
 /// With one module the list of tasks is that of its modes.

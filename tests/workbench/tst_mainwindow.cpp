@@ -1,11 +1,9 @@
 // SPDX-FileCopyrightText: The Kelto developers
 // SPDX-License-Identifier: MIT
 
-#include "modules.h"
+#include "hostmodules.h"
 #include "task.h"
 #include "windowtest.h"
-
-#include <Kelto/AUTH_INF>
 
 #include <QComboBox>
 #include <QLabel>
@@ -13,6 +11,8 @@
 #include <QPushButton>
 #include <QTableWidget>
 #include <QtTest>
+
+#include "support/testfiles.h"
 
 namespace {
 
@@ -148,7 +148,7 @@ void tst_MainWindow::dialogOpensWithTheTaskOfTheEarlierRun()
         dialog->findChild<QComboBox *>()->setCurrentText(QStringLiteral("Workbench:Heat:Steady"));
         click(dialog, "pushButton_accept");
     });
-    AUTH_SET registry(QStringLiteral("Workbench"), QStringLiteral("1.0"), compiledModules());
+    AUTH_SET registry(QStringLiteral("Workbench"), QStringLiteral("1.0"), hostModules());
     recallTask(registry);
     MainWindow window(&registry);
     QString current;

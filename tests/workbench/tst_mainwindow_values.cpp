@@ -1,10 +1,8 @@
 // SPDX-FileCopyrightText: The Kelto developers
 // SPDX-License-Identifier: MIT
 
-#include "modules.h"
+#include "hostmodules.h"
 #include "windowtest.h"
-
-#include <Kelto/AUTH_INF>
 
 #include <QHeaderView>
 #include <QLabel>
@@ -40,7 +38,7 @@ void tst_MainWindowValues::addTasks() const
     QTest::addColumn<QString>("standardName");
     // Rows are made before init(), and a registry writes into the current directory.
     const TemporaryCurrentDirectory directory;
-    const AUTH_SET registry(QStringLiteral("Workbench"), QStringLiteral("1.0"), compiledModules());
+    const AUTH_SET registry(QStringLiteral("Workbench"), QStringLiteral("1.0"), hostModules());
     const auto modes = registry.currentModeList();
     for (const auto &mode : modes)
         QTest::newRow(qPrintable(mode.first)) << mode.first;

@@ -13,9 +13,8 @@
 #include <QTranslator>
 #include <QtTest>
 
-#include "support/temporarycurrentdirectory.h"
-
-#include <memory>
+#include "support/directorytest.h"
+#include "support/testfiles.h"
 
 namespace {
 
@@ -32,27 +31,31 @@ QVector<QStringList> setsForms(const QVector<VParameter> &parameters)
     return forms;
 }
 
-void write(const QString &path, const char *text)
+/// A value is a text from a file, and possibly a number from source text.
+QStringList extraTexts(const AUTH_INF &module)
 {
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(text), qint64(qstrlen(text)));
+    QStringList texts;
+    for (const VDataItem &extra : module.extraKey)
+        texts.append(extra.key + '=' + extra.value.toString());
+    return texts;
 }
 
 } // namespace
 
 /// The modules from the files against those that were compiled in, and files that are not as they
 /// should be.
-class tst_ModuleFiles : public QObject
+class tst_ModuleFiles : public DirectoryTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
+    void cleanup() override;
 
     void fieldsAreEqual_data();
     void fieldsAreEqual();
+    void oneFileHoldsEverything_data();
+    void oneFileHoldsEverything();
+    void copiesBesideTheProgramAreEqual();
     void modesAndTheirListsAreEqual_data();
     void modesAndTheirListsAreEqual();
     void everyResultOfAFileIsRead();
@@ -64,21 +67,13 @@ private Q_SLOTS:
 private:
     void addLanguages() const;
     void compareLists(const AUTH_SET &files, const AUTH_SET &compiled) const;
-
-    std::unique_ptr<TemporaryCurrentDirectory> m_directory;
 };
-
-void tst_ModuleFiles::init()
-{
-    m_directory = std::make_unique<TemporaryCurrentDirectory>();
-    QVERIFY(m_directory->isUsable());
-}
 
 void tst_ModuleFiles::cleanup()
 {
     // Installed languages would stay for the next test.
     qDeleteAll(QCoreApplication::instance()->findChildren<QTranslator *>());
-    m_directory.reset();
+    DirectoryTest::cleanup();
 }
 
 void tst_ModuleFiles::addLanguages() const
@@ -103,8 +98,9 @@ void tst_ModuleFiles::fieldsAreEqual()
     installTranslations(QLocale(language));
     const auto fromFiles = modulesFromFiles(QStringLiteral(WORKBENCH_MODULES));
     QCOMPARE(fromFiles.problem, QString());
-    const auto files = registryOf(fromFiles.result).AUTH_INF_DATA();
-    const auto compiled = registryOf(compiledModules()).AUTH_INF_DATA();
+    const QVector<AUTH_INF> &files = fromFiles.result;
+    // No registry in between: it counts the modules anew.
+    const QVector<AUTH_INF> compiled = compiledModules();
 
     QCOMPARE(files.size(), 5);
     QCOMPARE(compiled.size(), 5);
@@ -129,8 +125,43 @@ void tst_ModuleFiles::fieldsAreEqual()
         QCOMPARE(compiled.at(i).trObjectName, files.at(i).trObjectName);
         QCOMPARE(compiled.at(i).codeFunctionName, files.at(i).codeFunctionName);
         QCOMPARE(compiled.at(i).output_results, files.at(i).output_results);
-        QCOMPARE(compiled.at(i).extraKey.size(), files.at(i).extraKey.size());
+        QCOMPARE(extraTexts(compiled.at(i)), extraTexts(files.at(i)));
     }
+}
+
+/// So that no field is empty on both sides of the comparison.
+void tst_ModuleFiles::oneFileHoldsEverything_data()
+{
+    QTest::addColumn<bool>("compiled");
+    QTest::newRow("from files") << false;
+    QTest::newRow("compiled") << true;
+}
+
+void tst_ModuleFiles::oneFileHoldsEverything()
+{
+    QFETCH(bool, compiled);
+    const QVector<AUTH_INF> modules
+        = compiled ? compiledModules() : modulesFromFiles(WORKBENCH_MODULES).result;
+    const AUTH_INF wall = modules.value(3);
+
+    QCOMPARE(wall.name, QString("Plane wall"));
+    QCOMPARE(wall.number, 40);
+    QCOMPARE(wall.icon, QString("plane-wall"));
+    QCOMPARE(wall.lib_name, (QStringList { "buildingmaterials", "insulation" }));
+    QCOMPARE(extraTexts(wall), (QStringList { "Edition=2017", "Standard=ISO 6946" }));
+    QCOMPARE(registryOf(modules).AUTH_INF_DATA().value(3).number, 3);
+}
+
+/// Under the names and with the content of today's files, also after one was renamed or removed.
+void tst_ModuleFiles::copiesBesideTheProgramAreEqual()
+{
+    const QDir files(WORKBENCH_MODULES, "*.ini", QDir::Name, QDir::Files | QDir::CaseSensitive);
+    const QDir copies(WORKBENCH_MODULE_COPIES, "*.ini", QDir::Name,
+                      QDir::Files | QDir::CaseSensitive);
+    const QStringList names = files.entryList();
+    QCOMPARE(copies.entryList(), names);
+    for (const QString &name : names)
+        QCOMPARE(fileContent(copies.filePath(name)), fileContent(files.filePath(name)));
 }
 
 void tst_ModuleFiles::modesAndTheirListsAreEqual_data()
@@ -196,9 +227,10 @@ void tst_ModuleFiles::everyResultOfAFileIsRead()
 
 void tst_ModuleFiles::orderIsThatOfTheFileNames()
 {
-    write("2.ini", "[KeltoItem]\nname=second\n");
-    write("10.ini", "[KeltoItem]\nname=first\n");
-    write("1.txt", "[KeltoItem]\nname=no module\n");
+    QVERIFY(writeFile("2.ini", "[KeltoItem]\nname=second\n"));
+    QVERIFY(writeFile("10.ini", "[KeltoItem]\nname=first\n"));
+    for (const char *name : { "1.txt", "4.INI", "5.Ini", ".6.ini", "7.ini.bak" })
+        QVERIFY(writeFile(name, "[KeltoItem]\nname=no module\n"));
     QVERIFY(QDir().mkdir("3.ini"));
 
     const auto modules = modulesFromFiles(".");
@@ -222,6 +254,9 @@ void tst_ModuleFiles::problems_data()
                                                  << "There is no directory \"rubbish/a.ini\".";
     QTest::newRow("directory without files") << "empty"
                                              << "The directory \"empty\" holds no files *.ini.";
+    QTest::newRow("file with an ending in upper case")
+        << "shouted"
+        << "The directory \"shouted\" holds no files *.ini.";
     QTest::newRow("file that is no INI file") << "rubbish" << noModule.arg("rubbish/a.ini");
     QTest::newRow("empty file") << "blank" << noModule.arg("blank/a.ini");
     QTest::newRow("module without a name") << "nameless" << noModule.arg("nameless/a.ini");
@@ -230,11 +265,11 @@ void tst_ModuleFiles::problems_data()
 void tst_ModuleFiles::problems()
 {
     QFETCH(QString, directory);
-    for (const char *name : { "empty", "rubbish", "blank", "nameless" })
-        QVERIFY(QDir().mkdir(name));
-    write("rubbish/a.ini", "\1\2[no section\nno key");
-    write("blank/a.ini", "");
-    write("nameless/a.ini", "[KeltoItem]\nname=\ntype=calculation\n");
+    QVERIFY(QDir().mkdir("empty"));
+    QVERIFY(writeFile("shouted/A.INI", "[KeltoItem]\nname=no module\n"));
+    QVERIFY(writeFile("rubbish/a.ini", "\1\2[no section\nno key"));
+    QVERIFY(writeFile("blank/a.ini", ""));
+    QVERIFY(writeFile("nameless/a.ini", "[KeltoItem]\nname=\ntype=calculation\n"));
 
     const auto modules = modulesFromFiles(directory);
 
@@ -245,9 +280,9 @@ void tst_ModuleFiles::problems()
 
 void tst_ModuleFiles::firstProblemOfSeveralFiles()
 {
-    write("1.ini", "[KeltoItem]\nname=good\n");
-    write("2.ini", "");
-    write("3.ini", "");
+    QVERIFY(writeFile("1.ini", "[KeltoItem]\nname=good\n"));
+    QVERIFY(writeFile("2.ini", ""));
+    QVERIFY(writeFile("3.ini", ""));
 
     const auto modules = modulesFromFiles(".");
 

@@ -1,10 +1,9 @@
 // SPDX-FileCopyrightText: The Kelto developers
 // SPDX-License-Identifier: MIT
 
-#include "modules.h"
+#include "hostmodules.h"
 #include "task.h"
 
-#include <Kelto/AUTH_INF>
 #include <Kelto/AUTH_SET>
 #include <Kelto/VParameter>
 
@@ -12,7 +11,7 @@
 
 #include <QtTest>
 
-#include "support/temporarycurrentdirectory.h"
+#include "support/directorytest.h"
 
 namespace {
 
@@ -26,7 +25,7 @@ QStringList plainNames(const QVector<VParameter> &parameters)
 
 } // namespace
 
-class tst_Task : public QObject
+class tst_Task : public DirectoryTest
 {
     Q_OBJECT
 
@@ -44,18 +43,14 @@ private Q_SLOTS:
 
 void tst_Task::noTaskAtFirst()
 {
-    const TemporaryCurrentDirectory directory;
-    QVERIFY(directory.isUsable());
-    AUTH_SET registry(QStringLiteral("Workbench"), QStringLiteral("1.0"), compiledModules());
+    AUTH_SET registry(QStringLiteral("Workbench"), QStringLiteral("1.0"), hostModules());
 
     QVERIFY(currentTask(registry).isNull());
 }
 
 void tst_Task::taskHoldsWhatTheRegistryDescribes()
 {
-    const TemporaryCurrentDirectory directory;
-    QVERIFY(directory.isUsable());
-    AUTH_SET registry(QStringLiteral("Workbench"), QStringLiteral("1.0"), compiledModules());
+    AUTH_SET registry(QStringLiteral("Workbench"), QStringLiteral("1.0"), hostModules());
     // Position 5 of the group, but the third mode of its module.
     QVERIFY(selectTask(registry, QStringLiteral("Workbench:Statics:Torsion")));
 
@@ -92,9 +87,7 @@ void tst_Task::selectTaskByStandardName_data()
 void tst_Task::selectTaskByStandardName()
 {
     QFETCH(QString, standardName);
-    const TemporaryCurrentDirectory directory;
-    QVERIFY(directory.isUsable());
-    AUTH_SET registry(QStringLiteral("Workbench"), QStringLiteral("1.0"), compiledModules());
+    AUTH_SET registry(QStringLiteral("Workbench"), QStringLiteral("1.0"), hostModules());
     QVERIFY(selectTask(registry, standardName));
     QTEST(currentTask(registry).title(), "title");
 }
@@ -115,9 +108,7 @@ void tst_Task::unknownTaskChangesNothing_data()
 void tst_Task::unknownTaskChangesNothing()
 {
     QFETCH(QString, standardName);
-    const TemporaryCurrentDirectory directory;
-    QVERIFY(directory.isUsable());
-    AUTH_SET registry(QStringLiteral("Workbench"), QStringLiteral("1.0"), compiledModules());
+    AUTH_SET registry(QStringLiteral("Workbench"), QStringLiteral("1.0"), hostModules());
     QVERIFY(selectTask(registry, QStringLiteral("Workbench:Vessels:Thick wall")));
 
     QVERIFY(!selectTask(registry, standardName));
@@ -128,14 +119,12 @@ void tst_Task::unknownTaskChangesNothing()
 
 void tst_Task::rememberedTaskComesBackInTheNextRun()
 {
-    const TemporaryCurrentDirectory directory;
-    QVERIFY(directory.isUsable());
-    AUTH_SET earlier(QStringLiteral("Workbench"), QStringLiteral("1.0"), compiledModules());
+    AUTH_SET earlier(QStringLiteral("Workbench"), QStringLiteral("1.0"), hostModules());
     QVERIFY(selectTask(earlier, QStringLiteral("Workbench:Vessels:Thick wall")));
     rememberTask(earlier, currentTask(earlier));
     // Selected, but never remembered.
     QVERIFY(selectTask(earlier, QStringLiteral("Workbench:Heat:Steady")));
-    AUTH_SET registry(QStringLiteral("Workbench"), QStringLiteral("1.0"), compiledModules());
+    AUTH_SET registry(QStringLiteral("Workbench"), QStringLiteral("1.0"), hostModules());
 
     recallTask(registry);
 
@@ -155,14 +144,12 @@ void tst_Task::firstTaskWhereNoneCanBeRecalled_data()
 void tst_Task::firstTaskWhereNoneCanBeRecalled()
 {
     QFETCH(QString, setting);
-    const TemporaryCurrentDirectory directory;
-    QVERIFY(directory.isUsable());
     if (!setting.isNull()) {
         QVERIFY(QDir().mkdir("Config"));
         QSettings("Config/Workbench_config.ini", QSettings::IniFormat)
             .setValue("Task/Last", setting);
     }
-    AUTH_SET registry(QStringLiteral("Workbench"), QStringLiteral("1.0"), compiledModules());
+    AUTH_SET registry(QStringLiteral("Workbench"), QStringLiteral("1.0"), hostModules());
     QCOMPARE(registry.value_set("Task/Last").toString(), setting);
 
     recallTask(registry);

@@ -3,10 +3,8 @@
 
 #include "windowtest.h"
 
-#include "modules.h"
+#include "hostmodules.h"
 #include "task.h"
-
-#include <Kelto/AUTH_INF>
 
 #include <QLabel>
 #include <QPushButton>
@@ -44,7 +42,7 @@ void WindowTest::init()
     m_directory = std::make_unique<TemporaryCurrentDirectory>();
     QVERIFY(m_directory->isUsable());
     m_registry = std::make_unique<AUTH_SET>(QStringLiteral("Workbench"), QStringLiteral("1.0"),
-                                            compiledModules());
+                                            hostModules());
     m_window = std::make_unique<MainWindow>(m_registry.get());
     m_window->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));

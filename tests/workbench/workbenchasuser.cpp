@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: The Kelto developers
+// SPDX-License-Identifier: MIT
+
+// The start of the workbench with the rights of another user, who need not be able to read the
+// directory that the program lies in: it gives up its own rights when it is loaded.
+//   workbenchasuser ID [option of the workbench]...
+// An empty ID stands for the user who it is.
+
+#include "commandline.h"
+#include "workbench.h"
+
+#include "support/becomeuser.h"
+
+#include <QApplication>
+
+int main(int argc, char *argv[])
+{
+    if (argc < 2 || !becomeUser(QString::fromLocal8Bit(argv[1])))
+        return 3;
+    QApplication application(argc, argv);
+    nameApplication();
+    QStringList arguments = QCoreApplication::arguments();
+    arguments.removeAt(1);
+    const Workbench workbench(readOptions(arguments));
+    return Done;
+}
