@@ -7,6 +7,7 @@
 #include <QDataStream>
 #include <QMetaType>
 #include <QString>
+#include <QTextCodec>
 #include <QVariant>
 
 namespace {
@@ -14,54 +15,114 @@ namespace {
 constexpr int deepestLevel = 1000;
 
 /// The digit that @p c is in numbers of @p base; -1 when it is none.
-int digitOf(QChar c, int base)
+int digitOf(char c, int base)
 {
-    const char letter = c.toLower().toLatin1();
-    const int digit = letter >= 'a' ? letter - 'a' + 10 : letter - '0';
-    const bool isDigit = (letter >= '0' && letter <= '9') || letter >= 'a';
+    const int digit = c >= 'a' ? c - 'a' + 10 : c >= 'A' ? c - 'A' + 10 : c - '0';
+    const bool isDigit = (c >= '0' && c <= '9') || c >= 'A';
     return isDigit && digit < base ? digit : -1;
 }
 
-/// The character of the number that begins at @p at, which is moved behind it.
-QChar takeNumber(const QString &text, int &at, int base)
+bool isBlank(char c)
 {
-    ushort code = 0;
-    for (int digit; at < text.size() && (digit = digitOf(text.at(at), base)) >= 0; ++at)
-        code = static_cast<ushort>(code * base + digit);
-    return QChar(code);
+    return c == ' ' || c == '\t';
 }
 
-/// Appends to @p result what the escape means of which the backslash stands in front of @p at, and
-/// moves that behind it.
-void takeEscape(const QString &text, int &at, QString &result)
+bool isLineEnd(char c)
 {
-    static const QString letters = QStringLiteral("abfnrtv\"?'\\");
-    static const QString meanings = QStringLiteral("\a\b\f\n\r\t\v\"?'\\");
-    if (digitOf(text.at(at), 8) >= 0) {
-        result += takeNumber(text, at, 8);
+    return c == '\n' || c == '\r';
+}
+
+/// Whether two different characters at @p at are one line end together.
+bool isLineEndOfTwo(const QByteArray &bytes, int at)
+{
+    return at + 1 < bytes.size() && isLineEnd(bytes.at(at)) && isLineEnd(bytes.at(at + 1))
+        && bytes.at(at) != bytes.at(at + 1);
+}
+
+/// A value with its quotes and escapes resolved as QSettings does it: nothing may be left over or
+/// be missing between two bytes of what is serialised there, however they are spelt.
+class Unescaping
+{
+public:
+    explicit Unescaping(const QByteArray &bytes)
+        : m_bytes(bytes)
+    {
+    }
+
+    QByteArray result();
+
+private:
+    bool atEnd() const { return m_at >= m_bytes.size(); }
+    char ahead() const { return m_bytes.at(m_at); }
+    void takeQuote();
+    void takeEscape();
+    void takeNumber(int base);
+    void takePlain();
+
+    const QByteArray &m_bytes;
+    bool m_isQuoted = false;
+    int m_at = 0;
+    QString m_text;
+};
+
+QByteArray Unescaping::result()
+{
+    while (!atEnd()) {
+        if (ahead() == '\\')
+            takeEscape();
+        else if (ahead() == '"')
+            takeQuote();
+        else
+            takePlain();
+    }
+    return m_text.toLatin1();
+}
+
+void Unescaping::takeQuote()
+{
+    ++m_at;
+    m_isQuoted = !m_isQuoted;
+    while (!m_isQuoted && !atEnd() && isBlank(ahead()))
+        ++m_at;
+}
+
+void Unescaping::takeEscape()
+{
+    static const QByteArray letters("abfnrtv\"?'\\");
+    static const QByteArray meanings("\a\b\f\n\r\t\v\"?'\\");
+    ++m_at;
+    if (atEnd())
+        return;
+    if (digitOf(ahead(), 8) >= 0) {
+        takeNumber(8);
         return;
     }
-    const QChar letter = text.at(at++);
-    if (letter == QLatin1Char('x'))
-        result += takeNumber(text, at, 16);
-    else if (letters.contains(letter))
-        result += meanings.at(letters.indexOf(letter));
+    const char c = ahead();
+    m_at += isLineEndOfTwo(m_bytes, m_at) ? 2 : 1;
+    if (letters.contains(c))
+        m_text += QLatin1Char(meanings.at(letters.indexOf(c)));
+    else if (c == 'x')
+        takeNumber(16);
 }
 
-/// The whole text as if it were one value: without quotes and with its escapes resolved.
-QByteArray unescaped(const QByteArray &bytes)
+void Unescaping::takeNumber(int base)
 {
-    const QString text = QString::fromUtf8(bytes.constData(), bytes.size());
-    QString result;
-    result.reserve(text.size());
-    for (int i = 0; i < text.size();) {
-        const QChar c = text.at(i++);
-        if (c == QLatin1Char('\\') && i < text.size())
-            takeEscape(text, i, result);
-        else if (c != QLatin1Char('"'))
-            result += c;
-    }
-    return result.toLatin1();
+    const int start = m_at;
+    ushort code = 0;
+    for (int digit; !atEnd() && (digit = digitOf(ahead(), base)) >= 0; ++m_at)
+        code = static_cast<ushort>(code * base + digit);
+    if (m_at > start)
+        m_text += QChar(code);
+}
+
+/// Pieces are decoded one by one, which makes a difference where they begin with a byte order mark.
+void Unescaping::takePlain()
+{
+    const int start = m_at++;
+    while (!atEnd() && ahead() != '\\' && ahead() != '"' && ahead() != ',')
+        ++m_at;
+    static const QTextCodec *const codec = QTextCodec::codecForName("utf-8");
+    m_text += codec->toUnicode(m_bytes.constData() + start, m_at - start);
 }
 
 /// Walks through one serialised value after another, as deep as is allowed.
@@ -158,19 +219,63 @@ constexpr Opening openings[] = {
     { "@DateTime(", QDataStream::Qt_5_6 },
 };
 
+bool isDeep(const QByteArray &value)
+{
+    const QByteArray text = Unescaping(value).result();
+    DepthCheck check(text);
+    for (const Opening &opening : openings) {
+        const int length = static_cast<int>(qstrlen(opening.text));
+        for (int at = text.indexOf(opening.text); at >= 0;
+             at = text.indexOf(opening.text, at + length)) {
+            if (check.isDeep(at + length, opening.version))
+                return true;
+        }
+    }
+    return false;
+}
+
+/// Where the value begins in the line at @p at, which is moved to the end of both; there itself
+/// without a key.
+int takeLine(const QByteArray &bytes, int &at)
+{
+    int value = -1;
+    bool isQuoted = false;
+    for (; at < bytes.size(); ++at) {
+        const char c = bytes.at(at);
+        if (c == '\\')
+            at += isLineEndOfTwo(bytes, at + 1) ? 2 : 1;
+        else if (c == '"')
+            isQuoted = !isQuoted;
+        else if (!isQuoted && (isLineEnd(c) || c == ';'))
+            break;
+        else if (!isQuoted && c == '=' && value < 0)
+            value = at + 1;
+    }
+    at = qMin(at, bytes.size());
+    return value < 0 ? at : value;
+}
+
+void skipComment(const QByteArray &bytes, int &at)
+{
+    while (at < bytes.size() && !isLineEnd(bytes.at(at)))
+        ++at;
+}
+
 } // namespace
 
 bool nestsTooDeep(const QByteArray &bytes)
 {
-    if (bytes.size() < smallestDeepFile || !(bytes.contains('@') || bytes.contains('\\')))
+    if (bytes.size() < smallestDeepFile)
         return false;
-    const QByteArray values = unescaped(bytes);
-    DepthCheck check(values);
-    for (const Opening &opening : openings) {
-        const int length = static_cast<int>(qstrlen(opening.text));
-        for (int at = values.indexOf(opening.text); at >= 0;
-             at = values.indexOf(opening.text, at + length)) {
-            if (check.isDeep(at + length, opening.version))
+    for (int at = 0; at < bytes.size();) {
+        const char c = bytes.at(at);
+        if (isBlank(c) || isLineEnd(c)) {
+            ++at;
+        } else if (c == ';') {
+            skipComment(bytes, at);
+        } else {
+            const int value = takeLine(bytes, at);
+            if (at - value >= smallestDeepFile && isDeep(bytes.mid(value, at - value)))
                 return true;
         }
     }

@@ -480,7 +480,10 @@ void TestVIniSettingsBadFiles::standsListsInLists_data()
     rows("lists in bytes", "@Variant(", QByteArray("\0\0\0\t\0\0\0\1", 8));
     rows("lists behind other values", "@Variant(\\0\\0\\0\\t\\0\\0\\0\\x2\\0\\0\\0\\n\\0\\0\\0\\0",
          list);
-    rows("lists with other escapes", "@Variant(", "\\0\\x0\"\\00\\x9\\q\\0\\\n\\0\\0\\1\"");
+    rows("lists with other escapes", "@Variant(", "\\0\\x0\\00\\x9\\q\\0\\\n\\0\\x\\0\\\r\n\\1");
+    rows("lists with quotes", "@Variant(", "\\0\"\\0\\0\\t\" \t\\0\\0\"\"\\0\\x1");
+    rows("lists with byte order marks", "@Variant(",
+         "\\0\\0\\0\xef\xbb\xbf\\t\\0\\0\"\xef\xbb\xbf\"\\0\\x1");
     rows("lists whose start is escaped", "\\x40Variant\\50", list);
     rows("maps", "@Variant(", "\\0\\0\\0\\b\\0\\0\\0\\x1\\0\\0\\0\\x2\\0k");
     rows("hashes", "@Variant(", "\\0\\0\\0\\x1c\\0\\0\\0\\x1\\0\\0\\0\\x2\\0k");
@@ -496,10 +499,9 @@ void TestVIniSettingsBadFiles::standsListsInLists()
     QFETCH(QByteArray, level);
     QFETCH(int, levels);
     QFETCH(QStringList, keys);
-    const QByteArray bytes = "before=1\nnested=" + start + level.repeated(levels)
-        + "\\0\\0\\0\\x2\\0\\0\\0\\x1)\nafter=1\n";
+    const QByteArray bytes = "  ; a \" here\nbefore=1 ; and \" there\nnested=" + start
+        + level.repeated(levels) + "\\0\\0\\0\\x2\\0\\0\\0\\x1)\nafter=1\n";
     QVERIFY(writeFile("f.ini", bytes));
-    // Also for QSettings itself, which would read it again.
     const VIniSettings store(QString("f.ini"));
     QCOMPARE(store.filepath(), QString("f.ini"));
     QCOMPARE(sorted(store.allKeys()), keys);
