@@ -4,6 +4,7 @@
 #include "core/inibytes_p.h"
 
 #include "core/inikeys_p.h"
+#include "core/inisyntax_p.h"
 
 #include <QDataStream>
 #include <QTextCodec>
@@ -21,14 +22,9 @@ bool isUtf8(const QByteArray &bytes)
     return state.invalidChars == 0 && state.remainingChars == 0;
 }
 
-bool isLineEnd(char c)
+bool isWhiteSpace(char c)
 {
-    return c == '\n' || c == '\r';
-}
-
-bool isBlank(char c)
-{
-    return c == ' ' || c == '\t' || isLineEnd(c);
+    return isBlank(c) || isLineEnd(c);
 }
 
 /// These mean something to QSettings even where a name is expected.
@@ -134,7 +130,6 @@ private:
     bool takeElement();
     bool takeEscape();
     bool takeDigits(int base, int most);
-    bool takeContinuation(char lineEnd);
 
     const QByteArray &m_bytes;
     int m_at = 0;
@@ -160,7 +155,7 @@ bool IniWalk::isWhole()
 
 void IniWalk::skipBlanks()
 {
-    while (!atEnd() && isBlank(ahead()))
+    while (!atEnd() && isWhiteSpace(ahead()))
         ++m_at;
 }
 
@@ -256,9 +251,12 @@ bool IniWalk::takeEscape()
 {
     if (atEnd())
         return false;
+    if (isLineEnd(ahead())) {
+        // The value goes on in the next line.
+        m_at += isLineEndOfTwo(m_bytes, m_at) ? 2 : 1;
+        return true;
+    }
     const char c = next();
-    if (isLineEnd(c))
-        return takeContinuation(c);
     if (m_place == Place::Start)
         m_place = Place::Plain;
     if (c == 'x')
@@ -267,12 +265,10 @@ bool IniWalk::takeEscape()
         --m_at;
         return takeDigits(8, 5);
     }
-    static const QByteArray letters("abfnrtv\"?'\\");
-    static const QByteArray meanings("\a\b\f\n\r\t\v\"?'\\");
-    const int index = letters.indexOf(c);
-    if (index >= 0)
-        m_element.append(meanings.at(index));
-    return index >= 0;
+    const auto meaning = escapedLetter(c);
+    if (meaning)
+        m_element.append(*meaning);
+    return meaning.has_value();
 }
 
 bool IniWalk::takeDigits(int base, int most)
@@ -291,13 +287,6 @@ bool IniWalk::takeDigits(int base, int most)
     const QChar character(m_bytes.mid(start, count).toInt(nullptr, base));
     m_element.append(QString(character).toUtf8());
     return !character.isSurrogate();
-}
-
-bool IniWalk::takeContinuation(char lineEnd)
-{
-    if (!atEnd() && isLineEnd(ahead()) && ahead() != lineEnd)
-        ++m_at;
-    return true;
 }
 
 } // namespace

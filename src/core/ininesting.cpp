@@ -3,6 +3,8 @@
 
 #include "core/ininesting_p.h"
 
+#include "core/inisyntax_p.h"
+
 #include <QBuffer>
 #include <QDataStream>
 #include <QMetaType>
@@ -20,23 +22,6 @@ int digitOf(char c, int base)
     const int digit = c >= 'a' ? c - 'a' + 10 : c >= 'A' ? c - 'A' + 10 : c - '0';
     const bool isDigit = (c >= '0' && c <= '9') || c >= 'A';
     return isDigit && digit < base ? digit : -1;
-}
-
-bool isBlank(char c)
-{
-    return c == ' ' || c == '\t';
-}
-
-bool isLineEnd(char c)
-{
-    return c == '\n' || c == '\r';
-}
-
-/// Whether two different characters at @p at are one line end together.
-bool isLineEndOfTwo(const QByteArray &bytes, int at)
-{
-    return at + 1 < bytes.size() && isLineEnd(bytes.at(at)) && isLineEnd(bytes.at(at + 1))
-        && bytes.at(at) != bytes.at(at + 1);
 }
 
 /// A value with its quotes and escapes resolved as QSettings does it: nothing may be left over or
@@ -88,8 +73,6 @@ void Unescaping::takeQuote()
 
 void Unescaping::takeEscape()
 {
-    static const QByteArray letters("abfnrtv\"?'\\");
-    static const QByteArray meanings("\a\b\f\n\r\t\v\"?'\\");
     ++m_at;
     if (atEnd())
         return;
@@ -99,8 +82,8 @@ void Unescaping::takeEscape()
     }
     const char c = ahead();
     m_at += isLineEndOfTwo(m_bytes, m_at) ? 2 : 1;
-    if (letters.contains(c))
-        m_text += QLatin1Char(meanings.at(letters.indexOf(c)));
+    if (const auto meaning = escapedLetter(c))
+        m_text += QLatin1Char(*meaning);
     else if (c == 'x')
         takeNumber(16);
 }
