@@ -13,6 +13,8 @@
 
 #include <QApplication>
 
+#include <cstdlib>
+
 int main(int argc, char *argv[])
 {
     if (argc < 2 || !becomeUser(QString::fromLocal8Bit(argv[1])))
@@ -22,5 +24,7 @@ int main(int argc, char *argv[])
     QStringList arguments = QCoreApplication::arguments();
     arguments.removeAt(1);
     const Workbench workbench(readOptions(arguments));
-    return Done;
+    // A leak checker, which looks at what is left at a usual end, may have lost the right to read
+    // what it is to overlook.
+    std::quick_exit(Done);
 }
