@@ -21,6 +21,8 @@
 namespace {
 
 using Change = std::function<void(VIniSettings &)>;
+using Making = std::function<VIniSettings()>;
+using Copying = std::function<VIniSettings(const VIniSettings &)>;
 
 QString path()
 {
@@ -40,6 +42,8 @@ Entries storedEntries()
 } // namespace
 
 Q_DECLARE_METATYPE(Change)
+Q_DECLARE_METATYPE(Making)
+Q_DECLARE_METATYPE(Copying)
 
 class TestVIniSettingsFiles : public SilentDirectoryTest
 {
@@ -57,6 +61,8 @@ private Q_SLOTS:
     void staysAsItWasWhenBindingFails();
     void bindsToADirectory();
     void bindsAnew();
+    void keepsQuickSaveModeWhenBound_data();
+    void keepsQuickSaveModeWhenBound();
     void saves_data();
     void saves();
     void neverRemovesFromAFile();
@@ -70,7 +76,9 @@ private Q_SLOTS:
     void quickSaveWritesAllPairs();
     void keepsWhatOthersWrote();
     void seesOthersAfterLoadingAgain();
+    void copiesShareTheFileOnly_data();
     void copiesShareTheFileOnly();
+    void forgetsItsFileForThatOfAnother();
     void readsTypes_data();
     void readsTypes();
     void leavesOutWhatCannotBeStored();
@@ -139,12 +147,13 @@ void TestVIniSettingsFiles::constructsWithDataForAFile()
     const Entries data { { "a/x", 5 }, { "new", 6 }, { "a/x", 7 } };
     QVERIFY(writeFile(path(), stored()));
     VIniSettings store(path(), quickSave, data);
-    const VIniSettings withoutMode(path(), data);
+    VIniSettings withoutMode(path(), data);
     for (const VIniSettings &each : { store, withoutMode }) {
         QCOMPARE(each.filepath(), path());
         QCOMPARE(described(each.data()), described(data));
         QCOMPARE(each.allKeys(), (QStringList { "a/x", "new", "a/x" }));
     }
+    withoutMode.setValue("new", 9);
     QCOMPARE(fileContent(path()), stored());
 
     store.setValue("new", 8);
@@ -288,6 +297,59 @@ void TestVIniSettingsFiles::bindsAnew()
     store.setValue("o/k", "unsaved");
     store.setPath("other.ini");
     QCOMPARE(described(store.data()), described(Entries { { "o/k", "v" } }));
+}
+
+void TestVIniSettingsFiles::keepsQuickSaveModeWhenBound_data()
+{
+    QTest::addColumn<bool>("quickSave");
+    QTest::addColumn<Making>("make");
+    const auto row = [](const char *name, bool quickSave, const Making &make) {
+        QTest::newRow(name) << quickSave << make;
+    };
+    const Entries data { { "a/x", "one" } };
+    row("made empty: off", false, [] { return VIniSettings(); });
+    row("made of a vector: off", false, [=] { return VIniSettings(data); });
+    row("made for a file: off", false, [] { return VIniSettings(path()); });
+    row("made for a file with a vector: off", false, [=] { return VIniSettings(path(), data); });
+    row("made for a file, off", false, [] { return VIniSettings(path(), false); });
+    row("made for a file, on", true, [] { return VIniSettings(path(), true); });
+    row("made for no file, on", true, [] { return VIniSettings(QString(), true); });
+    row("made for a file, off, with a vector", false,
+        [=] { return VIniSettings(path(), false, data); });
+    row("made for a file, on, with a vector", true,
+        [=] { return VIniSettings(path(), true, data); });
+
+    const auto switched = [](VIniSettings store, bool on) {
+        store.setQuickSaveMode(on);
+        return store;
+    };
+    row("switched on", true, [=] { return switched(VIniSettings(path()), true); });
+    row("switched on before there is a file", true, [=] { return switched({}, true); });
+    row("switched off", false, [=] { return switched(VIniSettings(path(), true), false); });
+
+    const auto assigned = [](const VIniSettings &store, bool modeBefore) {
+        VIniSettings other(path(), modeBefore);
+        other = store;
+        return other;
+    };
+    row("assigned on", true, [=] { return assigned(VIniSettings(path(), true), false); });
+    row("assigned off", false, [=] { return assigned(VIniSettings(path(), false), true); });
+}
+
+void TestVIniSettingsFiles::keepsQuickSaveModeWhenBound()
+{
+    QFETCH(Making, make);
+    QFETCH(bool, quickSave);
+    QVERIFY(writeFile("other.ini", "[General]\na=0\n"));
+    VIniSettings store = make();
+    // To another file, and to the same one again.
+    for (const char *number : { "1", "2" }) {
+        store.setPath("other.ini");
+        QCOMPARE(store.filepath(), QString("other.ini"));
+        store.setValue("a", number);
+        QCOMPARE(fileContent("other.ini"),
+                 QByteArray("[General]\na=" + QByteArray(quickSave ? number : "0") + '\n'));
+    }
 }
 
 void TestVIniSettingsFiles::saves_data()
@@ -560,12 +622,37 @@ void TestVIniSettingsFiles::seesOthersAfterLoadingAgain()
     QCOMPARE(described(other.value("process")), described(QVariant("second")));
 }
 
+void TestVIniSettingsFiles::copiesShareTheFileOnly_data()
+{
+    QTest::addColumn<Copying>("copyOf");
+    const auto row = [](const char *name, const Copying &copyOf) { QTest::newRow(name) << copyOf; };
+    row("constructed", [](const VIniSettings &store) { return VIniSettings(store); });
+    row("assigned to an empty store", [](const VIniSettings &store) {
+        VIniSettings copy;
+        copy = store;
+        return copy;
+    });
+    row("assigned to a store with another file, and keys without an entry",
+        [](const VIniSettings &store) {
+            VIniSettings copy("earlier.ini", false, Entries { { "earlier", 1 } });
+            Entries target;
+            copy.setValue("earlier apart", 1, &target);
+            copy = store;
+            return copy;
+        });
+}
+
 void TestVIniSettingsFiles::copiesShareTheFileOnly()
 {
+    QFETCH(Copying, copyOf);
     QVERIFY(writeFile(path(), stored()));
     VIniSettings store(path(), true);
-    VIniSettings copy(store);
+    Entries target;
+    store.setValue("apart", 1, &target);
+    VIniSettings copy = copyOf(store);
     QCOMPARE(copy.filepath(), path());
+    QCOMPARE(copy.allKeys(), (QStringList { "a/x", "a/y", "b/z", "top", "apart" }));
+    QCOMPARE(described(copy.data()), described(storedEntries()));
     copy.setValue("top", "copy");
     QVERIFY(fileContent(path()).contains("top=copy"));
     QCOMPARE(described(store.value("top")), described(QVariant("1")));
@@ -575,6 +662,22 @@ void TestVIniSettingsFiles::copiesShareTheFileOnly()
     QCOMPARE(store.filepath(), path());
     store.setValue("top", "original");
     QVERIFY(fileContent(path()).contains("top=original"));
+}
+
+void TestVIniSettingsFiles::forgetsItsFileForThatOfAnother()
+{
+    QVERIFY(writeFile(path(), stored()));
+    VIniSettings store(path(), true);
+    Entries target;
+    store.setValue("apart", 1, &target);
+    store = VIniSettings(Entries { { "a", 1 } });
+    QCOMPARE(store.filepath(), QString());
+    QCOMPARE(store.allKeys(), QStringList { "a" });
+    QCOMPARE(described(store.data()), described(Entries { { "a", 1 } }));
+    store.setValue("a", 2);
+    store.saveLocal();
+    QCOMPARE(fileContent(path()), stored());
+    QCOMPARE(filesIn("."), QStringList { path() });
 }
 
 void TestVIniSettingsFiles::readsTypes_data()

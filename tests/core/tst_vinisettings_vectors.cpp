@@ -188,14 +188,12 @@ void TestVIniSettingsVectors::setsAllOfOneVectorInAnother()
     QFETCH(Entries, target);
     QFETCH(Entries, source);
     QFETCH(Entries, expected);
-    const Entries sourceBefore = source;
 
     VIniSettings store(Entries { { "a", 1 } });
     store.setValue(&target, &source);
     QCOMPARE(described(target), described(expected));
     QTEST(store.allKeys(), "keysOfStore");
     QCOMPARE(described(store.data()), described(Entries { { "a", 1 } }));
-    QCOMPARE(described(source), described(sourceBefore));
 }
 
 void TestVIniSettingsVectors::setsAVectorInItself()
@@ -218,7 +216,6 @@ void TestVIniSettingsVectors::looksIntoAVectorOfTheCaller()
     QCOMPARE(described(store.value("A", &others)), described(QVariant()));
     QCOMPARE(described(store.value("own", &others)), described(QVariant()));
     QCOMPARE(store.allKeys(&constant), (QStringList { "a", "g/b", "a", "g/b", "c" }));
-    QCOMPARE(described(others), described(withDoubles()));
 
     const Entries none;
     QCOMPARE(described(store.value("a", &none)), described(QVariant()));

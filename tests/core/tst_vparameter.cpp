@@ -115,6 +115,8 @@ private Q_SLOTS:
     void setsTheValue();
     void readsSetsForm_data();
     void readsSetsForm();
+    void keepsTheFlagWithAnotherWord_data();
+    void keepsTheFlagWithAnotherWord();
     void replacesAllFields_data();
     void replacesAllFields();
     void writesSetsForm_data();
@@ -217,11 +219,6 @@ void TestVParameter::readsSetsForm_data()
     };
     addChange("written in place", single, setInPlace);
     addChange("the word true", multi, [](VParameter &p) { p.set(entry("true")); });
-    addChange("TRUE keeps the flag", multi, [](VParameter &p) { p.set(entry("TRUE")); });
-    addChange("False keeps the flag", multi, [](VParameter &p) { p.set(entry("False")); });
-    addChange("0 keeps the flag", multi, [](VParameter &p) { p.set(entry("0")); });
-    addChange("a space keeps the flag", multi, [](VParameter &p) { p.set(entry("false ")); });
-    addChange("no word keeps the flag", multi, [](VParameter &p) { p.set(entry("")); });
     const Change clearAndSet = [](VParameter &p) { p.clear(), p.set(entry("TRUE")); };
     addChange("TRUE does not set a cleared() flag", fieldsWith(entryTexts(), "single", "no value"),
               clearAndSet);
@@ -240,6 +237,44 @@ void TestVParameter::readsSetsForm_data()
 void TestVParameter::readsSetsForm()
 {
     checkChange();
+}
+
+void TestVParameter::keepsTheFlagWithAnotherWord_data()
+{
+    QTest::addColumn<QString>("word");
+
+    QTest::newRow("one") << "1";
+    QTest::newRow("zero") << "0";
+    QTest::newRow("capital letters") << "TRUE";
+    QTest::newRow("capital letters, false") << "FALSE";
+    QTest::newRow("a capital letter") << "True";
+    QTest::newRow("a capital letter, false") << "False";
+    QTest::newRow("a space in front") << " true";
+    QTest::newRow("a space in front, false") << " false";
+    QTest::newRow("a space behind") << "true ";
+    QTest::newRow("a space behind, false") << "false ";
+    QTest::newRow("the first letter") << "t";
+    QTest::newRow("the first letter, false") << "f";
+    QTest::newRow("more letters") << "trueish";
+    QTest::newRow("yes") << "yes";
+    QTest::newRow("no") << "no";
+    QTest::newRow("on") << "on";
+    QTest::newRow("off") << "off";
+    QTest::newRow("multi") << "multi";
+    QTest::newRow("a space") << " ";
+    QTest::newRow("empty") << "";
+    QTest::newRow("null") << QString();
+}
+
+void TestVParameter::keepsTheFlagWithAnotherWord()
+{
+    QFETCH(QString, word);
+    for (bool multi : { false, true }) {
+        VParameter parameter(1.5, { "n", "N" }, { "u", "U" }, "s", { "g", "G" }, "o", multi);
+        parameter.set(entry(word));
+        QCOMPARE(fields(parameter),
+                 fieldsWith(entryTexts(), multi ? "multi" : "single", "double 1.5"));
+    }
 }
 
 void TestVParameter::replacesAllFields_data()

@@ -81,6 +81,11 @@ void TestVParameterComparison::matchesNames_data()
     row("a no-break space counts", { QString("a") + QChar(0x00a0) + "b", "x" }, "ab", false);
     row("a long dash counts", { QString("a") + QChar(0x2013) + "b", "x" }, "ab", false);
     row("case beyond ASCII", { QString::fromUtf8("Länge"), "x" }, QString::fromUtf8("LÄNGE"), true);
+    row("a letter with two capital ones is not these two", { "ß", "x" }, "SS", false);
+    row("nor are they that letter", { "SS", "x" }, "ß", false);
+    row("Greek in capital and small letters", { "x", "ΟΔΟΣ" }, "οδοσ", true);
+    row("a letter that looks different at the end of a word is another one", { "x", "ΟΔΟΣ" },
+        "οδος", false);
     row("Chinese", { "x", QString::fromUtf8("弹性 模量") }, QString::fromUtf8("弹性模量"), true);
     row("an empty text is no name", { "a", "b" }, "", false);
     row("an empty text is an empty name", { "a", "" }, "", true);
@@ -129,7 +134,6 @@ void TestVParameterComparison::comparesEachField()
     const VParameter parameter = filled();
     QVERIFY(!parameter.isEqual(&other));
     QVERIFY(!other.isEqual(&parameter));
-    QVERIFY(parameterHash(parameter) != parameterHash(other));
 }
 
 void TestVParameterComparison::comparesValues_data()
@@ -168,8 +172,10 @@ void TestVParameterComparison::comparesValues()
 {
     QFETCH(VParameter, parameter);
     QFETCH(VParameter, other);
-    QTEST(parameter.isEqual(&other), "expected");
-    QCOMPARE(parameterHash(parameter), parameterHash(other));
+    QFETCH(bool, expected);
+    QCOMPARE(parameter.isEqual(&other), expected);
+    if (expected)
+        QCOMPARE(parameterHash(parameter), parameterHash(other));
 }
 
 void TestVParameterComparison::takesNullForEmpty_data()

@@ -276,11 +276,15 @@ void TestAuthInfCode::writesExtraValue_data()
     QTest::newRow("a number with an exponent") << QVariant("1e5") << "1e5";
     QTest::newRow("a number with leading zeros stays") << QVariant("012") << "012";
     QTest::newRow("a number with a sign stays") << QVariant("+1") << "+1";
+    QTest::newRow("a number with blanks around it keeps them") << QVariant(" 12 ") << " 12 ";
+    QTest::newRow("a number that only double precision holds") << QVariant("1e300") << "1e300";
     QTest::newRow("a word that is a number") << QVariant("nan") << "nan";
     QTest::newRow("a text") << QVariant("abc") << "\"abc\"";
     QTest::newRow("Chinese text") << QVariant("王") << "\"王\"";
     QTest::newRow("a number with more behind it") << QVariant("12 mm") << "\"12 mm\"";
     QTest::newRow("a number with a decimal comma") << QVariant("1,5") << "\"1,5\"";
+    QTest::newRow("a number with a comma between its thousands")
+        << QVariant("1,000") << "\"1,000\"";
     QTest::newRow("a hexadecimal number") << QVariant("0x10") << "\"0x10\"";
     QTest::newRow("a number beyond all numbers") << QVariant("1e999") << "\"1e999\"";
     QTest::newRow("an empty text") << QVariant("") << "\"\"";

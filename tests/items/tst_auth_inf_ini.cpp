@@ -117,7 +117,7 @@ QByteArray everyByte()
 
 Q_DECLARE_METATYPE(AUTH_INF)
 
-class TestAuthInfIni : public DirectoryTest
+class TestAuthInfIni : public SilentDirectoryTest
 {
     Q_OBJECT
 
@@ -164,6 +164,8 @@ void TestAuthInfIni::readsField_data()
     row("the number", "number=12", itemWith(&Item::number, 12));
     row("a negative number", "number=-3", itemWith(&Item::number, -3));
     row("a number that is none", "number=12a", emptyItem());
+    row("a fraction is no number", "number=3.7", emptyItem());
+    row("a number to another base is none", "number=0x10", emptyItem());
     row("the name in both forms", "name=Beam",
         itemWith(&Item::name, &Item::name_tr, QString("Beam")));
     row("a Chinese name", "name=梁", itemWith(&Item::name, &Item::name_tr, QString("梁")));
@@ -181,11 +183,20 @@ void TestAuthInfIni::readsField_data()
         itemWith(&Item::exclusive_group, true));
     row("no exclusive group", "exclusive_group=false", emptyItem());
     row("no exclusive group by number", "exclusive_group=0", emptyItem());
+    row("an exclusive group by any word", "exclusive_group=yes",
+        itemWith(&Item::exclusive_group, true));
+    row("an exclusive group even by the word no", "exclusive_group=no",
+        itemWith(&Item::exclusive_group, true));
+    row("no exclusive group in capital letters", "exclusive_group=FALSE", emptyItem());
+    row("no exclusive group by an empty text", "exclusive_group=", emptyItem());
+    row("no exclusive group by a list", "exclusive_group=true, true", emptyItem());
     row("library names", "lib_name=a, b", itemWith(&Item::lib_name, QStringList { "a", "b" }));
     row("one library name", "lib_name=a", itemWith(&Item::lib_name, QStringList { "a" }));
     row("an empty library name", "lib_name=", itemWith(&Item::lib_name, QStringList { "" }));
     row("no library name", "lib_name=@Invalid()", emptyItem());
     row("a number of inner modes", "inner_mode_count=3", itemWith(&Item::inner_mode_count, 3));
+    row("a fraction is no number of inner modes", "inner_mode_count=3.7", emptyItem());
+    row("a number of inner modes to another base is none", "inner_mode_count=0x10", emptyItem());
     row("the largest number of inner modes", "inner_mode_count=2147483647",
         itemWith(&Item::inner_mode_count, std::numeric_limits<int>::max()));
     row("descriptions of inner modes", "inner_mode_description=a, \"b, c\"",

@@ -197,7 +197,7 @@ QStringList storedEntryOf(const QString &key)
 
 } // namespace
 
-class TestAuthInfIniRoundtrip : public DirectoryTest
+class TestAuthInfIniRoundtrip : public SilentDirectoryTest
 {
     Q_OBJECT
 

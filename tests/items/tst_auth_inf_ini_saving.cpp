@@ -92,7 +92,7 @@ VIniSettings savedBy(const AUTH_INF &item)
 
 Q_DECLARE_METATYPE(AUTH_INF)
 
-class TestAuthInfIniSaving : public DirectoryTest
+class TestAuthInfIniSaving : public SilentDirectoryTest
 {
     Q_OBJECT
 

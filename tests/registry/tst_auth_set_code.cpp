@@ -52,7 +52,6 @@ private Q_SLOTS:
     void textsOfFiles();
     void missingFiles_data();
     void missingFiles();
-    void textsOfFilesLeaveTheRegistryAlone();
     void textsOfModules_data();
     void textsOfModules();
 };
@@ -83,6 +82,10 @@ void TestAuthSetCode::textsOfFiles()
     for (const QString &file : qAsConst(files))
         expected.append(textOfFile(file));
     QCOMPARE(AUTH_SET().generate_AUTH_INF_to_code(files), expected);
+    // The modules of the registry are not among them, nor does it take in those of the files.
+    const AUTH_SET set("App", "1", { calculation("C") });
+    QCOMPARE(set.generate_AUTH_INF_to_code(files), expected);
+    QCOMPARE(set.AUTH_INF_list_to_code(), QStringList(calculation("C").to_code()));
 }
 
 void TestAuthSetCode::missingFiles_data()
@@ -103,14 +106,6 @@ void TestAuthSetCode::missingFiles()
     QCOMPARE(texts.size(), 2);
     QCOMPARE(texts.at(0), textOfFile("a.ini"));
     QCOMPARE(texts.at(1), emptyItemText());
-}
-
-void TestAuthSetCode::textsOfFilesLeaveTheRegistryAlone()
-{
-    const AUTH_SET set("App", "1", { calculation("C") });
-    QCOMPARE(set.generate_AUTH_INF_to_code({ "a.ini" }), QStringList(textOfFile("a.ini")));
-    QCOMPARE(set.model_count(), 1);
-    QCOMPARE(set.name(0), QString("C"));
 }
 
 void TestAuthSetCode::textsOfModules_data()

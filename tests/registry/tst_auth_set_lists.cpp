@@ -53,6 +53,15 @@ auto rowsOfTwoLists()
               const Parameters &expected) { QTest::newRow(name) << first << second << expected; };
 }
 
+/// So many others that what is looked up among them is no longer compared with each of them.
+Parameters manyOthers()
+{
+    Parameters list;
+    for (int i = 0; i < 100; ++i)
+        list.append(valued("x", i));
+    return list;
+}
+
 void addFieldRows()
 {
     QTest::addColumn<int>("field");
@@ -199,6 +208,11 @@ void TestAuthSetLists::tellsParametersApartByEveryField()
     const Parameters second { withOther(field) };
     QCOMPARE(set.mergingList(&first, &second).size(), equal ? 1 : 2);
     QCOMPARE(shown(set.sharingList(&first, &second)), equal ? shown(first) : QStringList());
+
+    const Parameters others = manyOthers();
+    const Parameters many = others + second;
+    QCOMPARE(set.mergingList(&first, &many).size(), others.size() + (equal ? 1 : 2));
+    QCOMPARE(shown(set.sharingList(&first, &many)), equal ? shown(first) : QStringList());
 }
 
 void TestAuthSetLists::keepsItsArguments()
