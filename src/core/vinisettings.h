@@ -115,7 +115,8 @@ public:
 
     /**
      * Writes the list into the file @p path, which is created where it is missing, and keeps the
-     * other keys of that file. Directories are not made. The store stays bound to its own file.
+     * other keys of that file. Directories are not made, and a file that another program keeps
+     * locked for more than a second is left alone. The store stays bound to its own file.
      *
      * What QSettings makes nothing of would be lost in that: comments, broken lines, damaged
      * values. A file with any of it is kept as a copy beside it, with the additional ending ".bak",
