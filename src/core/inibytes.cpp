@@ -261,7 +261,7 @@ bool IniWalk::takeEscape()
         m_place = Place::Plain;
     if (c == 'x')
         return takeDigits(16, 4);
-    if (c >= '0' && c <= '7') {
+    if (digitOf(c, 8) >= 0) {
         --m_at;
         return takeDigits(8, 5);
     }
@@ -274,12 +274,7 @@ bool IniWalk::takeEscape()
 bool IniWalk::takeDigits(int base, int most)
 {
     const int start = m_at;
-    const auto isDigit = [base](char c) {
-        bool ok = false;
-        QByteArray(1, c).toInt(&ok, base);
-        return ok;
-    };
-    while (!atEnd() && isDigit(ahead()))
+    while (!atEnd() && digitOf(ahead(), base) >= 0)
         ++m_at;
     const int count = m_at - start;
     if (count == 0 || count > most)

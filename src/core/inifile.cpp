@@ -182,9 +182,9 @@ KeyValues readIniFile(const QString &path)
 {
     if (!canBeFile(path))
         return {};
-    if (QFileInfo(path).size() >= smallestDeepFile && nestsTooDeep(bytesOf(path)))
-        return {};
     try {
+        if (QFileInfo(path).size() >= smallestDeepFile && nestsTooDeep(bytesOf(path)))
+            return {};
         return entriesOf(Utf8Settings(path));
     } catch (const std::bad_alloc &) {
         return {};
@@ -195,10 +195,10 @@ void writeIniFile(const QString &path, const KeyValues &entries)
 {
     if (entries.isEmpty() || !canBeFile(path))
         return;
-    QByteArray bytes = bytesOf(path);
-    if (nestsTooDeep(bytes))
-        return;
     try {
+        QByteArray bytes = bytesOf(path);
+        if (nestsTooDeep(bytes))
+            return;
         Utf8Settings settings(path);
         if (!isWritable(settings) || !isUnlocked(settings) || !isKept(bytes, settings))
             return;

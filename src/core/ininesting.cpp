@@ -16,14 +16,6 @@ namespace {
 
 constexpr int deepestLevel = 1000;
 
-/// The digit that @p c is in numbers of @p base; -1 when it is none.
-int digitOf(char c, int base)
-{
-    const int digit = c >= 'a' ? c - 'a' + 10 : c >= 'A' ? c - 'A' + 10 : c - '0';
-    const bool isDigit = (c >= '0' && c <= '9') || c >= 'A';
-    return isDigit && digit < base ? digit : -1;
-}
-
 /// A value with its quotes and escapes resolved as QSettings does it: nothing may be left over or
 /// be missing between two bytes of what is serialised there, however they are spelt.
 class Unescaping

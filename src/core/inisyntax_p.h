@@ -36,4 +36,12 @@ inline std::optional<char> escapedLetter(char letter)
     return index < 0 ? std::nullopt : std::optional<char>(meanings.at(index));
 }
 
+/// The digit that @p c is in numbers of @p base; -1 when it is none.
+inline int digitOf(char c, int base)
+{
+    const int digit = c >= 'a' ? c - 'a' + 10 : c >= 'A' ? c - 'A' + 10 : c - '0';
+    const bool isDigit = (c >= '0' && c <= '9') || c >= 'A';
+    return isDigit && digit < base ? digit : -1;
+}
+
 #endif

@@ -194,6 +194,7 @@ private Q_SLOTS:
     void keepsTheCopyOfAFileThatOthersBroke();
     void standsValuesOfSenselessSize_data();
     void standsValuesOfSenselessSize();
+    void standsValuesOfSenselessSizeInLargeFiles();
     void keepsACopyOfValuesThatNobodyKnows_data();
     void keepsACopyOfValuesThatNobodyKnows();
     void standsListsInLists_data();
@@ -484,6 +485,21 @@ void TestVIniSettingsBadFiles::standsValuesOfSenselessSize()
         QCOMPARE(fileContent("f.ini"), damaged);
         QCOMPARE(filesIn("."), QStringList { "f.ini" });
     }
+}
+
+void TestVIniSettingsBadFiles::standsValuesOfSenselessSizeInLargeFiles()
+{
+    // A list of texts that says it has two thousand million elements, and much behind it.
+    const QByteArray damaged
+        = "a=1\nb=@Variant(\\0\\0\\0\\v\\x7f\\xff\\xff\\xff" + QByteArray(100000, 'x') + ")\n";
+    QVERIFY(writeFile("f.ini", damaged));
+    const VIniSettings store(QString("f.ini"));
+    QCOMPARE(store.filepath(), QString("f.ini"));
+    QCOMPARE(described(store.data()), described(Entries()));
+    QCOMPARE(readInSecondProcess(QString("f.ini")).path, QString("f.ini"));
+    setAndSave("f.ini", "value");
+    QCOMPARE(fileContent("f.ini"), damaged);
+    QCOMPARE(filesIn("."), QStringList { "f.ini" });
 }
 
 void TestVIniSettingsBadFiles::keepsACopyOfValuesThatNobodyKnows_data()
