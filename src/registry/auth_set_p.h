@@ -45,7 +45,7 @@ public:
     void select(int group, int position);
     QVector<QStringList> parameterEntries(int group, int position) const;
 
-    /// Adds what the configuration file of the application holds to the set values.
+    /// Takes the set values from the configuration file of the application.
     void loadSetValues();
 
     QString applicationName;
