@@ -7,7 +7,7 @@
 #include "filebenchmarks.h"
 
 #include "benchmarkfile.h"
-#include "plainfile.h"
+#include "models/plainfile.h"
 #include "settingsinput.h"
 #include "sides.h"
 

@@ -6,9 +6,9 @@
 #include "itembenchmarks.h"
 
 #include "benchmarkfile.h"
+#include "models/plaincode.h"
+#include "models/plainitems.h"
 #include "parameterinput.h"
-#include "plaincode.h"
-#include "plainitems.h"
 #include "sides.h"
 
 #include <Kelto/AUTH_INF>

@@ -4,7 +4,7 @@
 #include "memory.h"
 
 #include "benchmarkfile.h"
-#include "plainfile.h"
+#include "models/plainfile.h"
 #include "settingsinput.h"
 
 #include <Kelto/VIniSettings>

@@ -10,10 +10,10 @@
 
 #include "registrybenchmarks.h"
 
-#include "plainfile.h"
+#include "models/plainfile.h"
+#include "models/plainregistry.h"
 #include "registryinput.h"
 #include "suite.h"
-#include "support/plainregistry.h"
 
 #include <Kelto/AUTH_SET>
 

@@ -6,9 +6,9 @@
 
 #include "settingsbenchmarks.h"
 
+#include "models/plainsettings.h"
 #include "settingsinput.h"
 #include "sides.h"
-#include "support/plainsettings.h"
 
 #include <Kelto/VIniSettings>
 

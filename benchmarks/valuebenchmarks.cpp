@@ -6,12 +6,12 @@
 
 #include "valuebenchmarks.h"
 
+#include "models/plainlists.h"
+#include "models/plainregistry.h"
+#include "models/plainvalues.h"
 #include "parameterinput.h"
 #include "settingsinput.h"
 #include "sides.h"
-#include "support/plainlists.h"
-#include "support/plainregistry.h"
-#include "support/plainvalues.h"
 
 #include <Kelto/AUTH_SET>
 

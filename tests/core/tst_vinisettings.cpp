@@ -5,8 +5,8 @@
 
 #include <Kelto/VIniSettings>
 
+#include "models/plainsettings.h"
 #include "support/directorytest.h"
-#include "support/plainsettings.h"
 #include "support/settingsjson.h"
 
 #include <QTest>

@@ -6,8 +6,8 @@
 
 #include <Kelto/VIniSettings>
 
+#include "models/plainsettings.h"
 #include "support/directorytest.h"
-#include "support/plainsettings.h"
 #include "support/randomentries.h"
 
 #include <QTest>

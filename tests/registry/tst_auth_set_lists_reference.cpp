@@ -4,10 +4,10 @@
 // Random registries whose parameters and results hardly differ, with every list that AUTH_SET gives
 // compared to that of the plain scans of PlainLists. A failure names the seed and all steps.
 
+#include "models/plainlists.h"
+#include "models/plainregistry.h"
 #include "support/directorytest.h"
 #include "support/parameters.h"
-#include "support/plainlists.h"
-#include "support/plainregistry.h"
 #include "support/randomitems.h"
 #include "support/twins.h"
 

@@ -4,8 +4,8 @@
 // Random registries and random changes of them, with every answer of AUTH_SET compared to that of
 // the plain scans of PlainRegistry. A failure names the seed and all steps that led to it.
 
+#include "models/plainregistry.h"
 #include "support/directorytest.h"
-#include "support/plainregistry.h"
 #include "support/randomitems.h"
 #include "support/twins.h"
 

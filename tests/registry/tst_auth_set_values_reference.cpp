@@ -5,7 +5,7 @@
 // AUTH_SET and of the copies that were left behind compared to that of the plain vectors of
 // PlainValues. A failure names the seed and all steps.
 
-#include "support/plainvalues.h"
+#include "models/plainvalues.h"
 #include "support/randomitems.h"
 #include "support/settingsjson.h"
 #include "support/temporarycurrentdirectory.h"

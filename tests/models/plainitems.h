@@ -4,8 +4,8 @@
 #ifndef PLAINITEMS_H
 #define PLAINITEMS_H
 
+#include "models/plainsettings.h"
 #include "plainfile.h"
-#include "support/plainsettings.h"
 
 #include <Kelto/AUTH_INF>
 

@@ -4,7 +4,7 @@
 #ifndef PLAINFILE_H
 #define PLAINFILE_H
 
-#include "settingsinput.h"
+#include "support/settingsjson.h"
 
 #include <QSettings>
 
