@@ -9,6 +9,7 @@
 #include "ui_utaskselectdialog.h"
 
 #include <QButtonGroup>
+#include <QEvent>
 #include <QEventLoop>
 #include <QFontMetrics>
 #include <QHideEvent>
@@ -17,7 +18,6 @@
 #include <QPointer>
 #include <QScreen>
 #include <QShowEvent>
-#include <QSignalBlocker>
 #include <QStyle>
 #include <QStyleOptionComboBox>
 
@@ -47,8 +47,8 @@ FirstPositions firstPositions(const QStringList &texts)
     return positions;
 }
 
-/// What @p box needs to show each of its entries whole. Its own size hint is fixed by the entries
-/// that it has when it is shown first, and knows no bounds.
+/// The width at which @p box shows each of its entries whole. Its own size hint is calculated from
+/// the entries of its first showing and then kept.
 int widthOfEntries(const QComboBox &box)
 {
     const QFontMetrics metrics = box.fontMetrics();
@@ -65,14 +65,19 @@ int widthOfEntries(const QComboBox &box)
 class UTaskSelectDialogPrivate
 {
 public:
-    void makeRoomForNames(int screenWidth) const;
-    void tellThatNothingIsBound();
+    void makeRoomForNames(const QScreen *screen) const;
+    void showUnboundMessage();
+    void translateMessageBox() const;
     void endShow() const;
     void accept(const QString &modeName) const;
 
     QPointer<QEventLoop> loop;
-    /// While show() puts the window on the screen.
+    /// Whether show() is just putting the window on the screen.
     bool isOpening = false;
+    /// How many calls of setItems() are running: a listener to the combo box may nest them.
+    int runningOffers = 0;
+    /// Number of the offer that was made last.
+    int lastOffer = 0;
     QPointer<QMessageBox> messageBox;
     QButtonGroup buttons;
     Ui::UTaskSelectDialog ui;
@@ -80,22 +85,32 @@ public:
     VStringPairList items;
 };
 
-void UTaskSelectDialogPrivate::makeRoomForNames(int screenWidth) const
+/// Without a screen (a host can lose its last one) nothing bounds the width, so it stays.
+void UTaskSelectDialogPrivate::makeRoomForNames(const QScreen *screen) const
 {
-    ui.comboBox->setMinimumWidth(std::min(widthOfEntries(*ui.comboBox), screenWidth * 3 / 4));
+    if (!screen)
+        return;
+    const int limit = screen->availableGeometry().width() * 3 / 4;
+    ui.comboBox->setMinimumWidth(std::min(widthOfEntries(*ui.comboBox), limit));
 }
 
-void UTaskSelectDialogPrivate::tellThatNothingIsBound()
+void UTaskSelectDialogPrivate::showUnboundMessage()
 {
-    QMessageBox box(QMessageBox::Information, UTaskSelectDialog::tr("Wrong Sets"),
-                    UTaskSelectDialog::tr("Please connect Kelto first."), QMessageBox::Ok);
+    QMessageBox box(QMessageBox::Information, QString(), QString(), QMessageBox::Ok);
     messageBox = &box;
+    translateMessageBox();
     box.exec();
+}
+
+void UTaskSelectDialogPrivate::translateMessageBox() const
+{
+    messageBox->setWindowTitle(UTaskSelectDialog::tr("Wrong Sets"));
+    messageBox->setText(UTaskSelectDialog::tr("Please connect Kelto first."));
 }
 
 void UTaskSelectDialogPrivate::endShow() const
 {
-    // An open box would hold up show() although the dialog that it speaks of has gone.
+    // An open box would keep show() from returning although its dialog is gone.
     if (messageBox)
         messageBox->reject();
     if (loop)
@@ -126,6 +141,12 @@ UTaskSelectDialog::UTaskSelectDialog()
 UTaskSelectDialog::~UTaskSelectDialog()
 {
     d->endShow();
+    // A listener to the combo box may have deleted the dialog while the box is being filled. Then
+    // QComboBox is not done with its signals and must not be deleted yet.
+    if (d->runningOffers > 0) {
+        d->ui.comboBox->setParent(nullptr);
+        d->ui.comboBox->deleteLater();
+    }
 }
 
 void UTaskSelectDialog::set(AUTH_SET *registry)
@@ -189,17 +210,17 @@ QStringList UTaskSelectDialog::getSecondItems(QVector<QPair<QString, QString>> l
 void UTaskSelectDialog::showEvent(QShowEvent *event)
 {
     event->accept();
-    // Coming back from being minimised: what the user has chosen so far stays.
+    // The window was minimised and is restored: what the user has chosen so far stays.
     if (event->spontaneous())
         return;
-    d->makeRoomForNames(screen()->availableGeometry().width());
+    d->makeRoomForNames(screen());
     QDialog::showEvent(event);
     d->ui.comboBox->setFocus();
     if (!d->registry) {
-        // show() opens the box itself as soon as Qt is done with the window: one that is closed or
-        // deleted within this event would be put on the screen all the same.
+        // show() opens the box itself, once Qt has shown the window: Qt would still show a window
+        // that is closed or deleted within this event.
         if (!d->isOpening)
-            d->tellThatNothingIsBound();
+            d->showUnboundMessage();
         return;
     }
     const QString name
@@ -222,6 +243,16 @@ void UTaskSelectDialog::hideEvent(QHideEvent *event)
     // the window was minimised.
     if (!event->spontaneous())
         d->endShow();
+}
+
+void UTaskSelectDialog::changeEvent(QEvent *event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() != QEvent::LanguageChange)
+        return;
+    d->ui.retranslateUi(this);
+    if (d->messageBox)
+        d->translateMessageBox();
 }
 
 void UTaskSelectDialog::operate(int id)
@@ -257,17 +288,22 @@ void UTaskSelectDialog::resetToProjectMode()
     setItems(availableModeItems());
 }
 
+// The combo box sends its signals in between, always with entries and items that belong together.
 void UTaskSelectDialog::setItems(VStringPairList list)
 {
-    {
-        // Whoever listens to the combo box is not to meet it between two offers.
-        const QSignalBlocker quiet(d->ui.comboBox);
-        d->ui.comboBox->clear();
+    const QPointer<UTaskSelectDialog> self(this);
+    const int offer = ++d->lastOffer;
+    ++d->runningOffers;
+    d->ui.comboBox->clear();
+    // Otherwise a listener has deleted the dialog, or its own, later offer is in place.
+    if (self && d->lastOffer == offer) {
         d->items = list;
         d->ui.comboBox->addItems(getSecondItems(list));
     }
-    d->makeRoomForNames(screen()->availableGeometry().width());
-    Q_EMIT d->ui.comboBox->currentIndexChanged(currentItemIndex());
+    if (!self)
+        return;
+    --d->runningOffers;
+    d->makeRoomForNames(screen());
 }
 
 int UTaskSelectDialog::show()
@@ -278,8 +314,8 @@ int UTaskSelectDialog::show()
         activateWindow();
         return 0;
     }
-    // Each showing has its own loop: that of an earlier one may still be on its way out when a
-    // slot that is told of the closing shows the dialog again.
+    // Each showing has its own loop: a slot that is called on closing may show the dialog again
+    // while the loop of the earlier showing has not returned yet.
     QEventLoop loop;
     d->loop = &loop;
     const QPointer<UTaskSelectDialog> self(this);
@@ -287,13 +323,13 @@ int UTaskSelectDialog::show()
     QWidget::show();
     d->isOpening = false;
     if (!d->registry)
-        d->tellThatNothingIsBound();
-    // A loop that was told to quit before it runs would run for ever.
+        d->showUnboundMessage();
+    // A loop forgets a quit() that came before exec(), and would run for ever.
     if (!self || !isVisible())
         return 0;
-    // After a box without a parent the window system may have turned to any other window.
+    // When a box without a parent closes, the window system may activate any other window.
     activateWindow();
-    // The choice is read elsewhere; a program that is told to end in the meantime changes nothing.
+    // The exit code of the loop is not 0 when the whole program is told to exit meanwhile.
     loop.exec();
     return 0;
 }

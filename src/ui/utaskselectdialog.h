@@ -27,9 +27,12 @@ using VStringPairList = QVector<QPair<QString, QString>>;
  * The window in which the user confirms the task type, that is the mode, when a project is opened.
  *
  * A host creates it, binds its registry with set(), may narrow the offer with
- * resetToExclusiveGroup(), and calls show(), which comes back when the window has closed. The
- * outcome then stands in AUTH_SET::current_group and AUTH_SET::current_mode, in the selection of
+ * resetToExclusiveGroup(), and calls show(), which returns when the window has closed. The
+ * outcome is then found in AUTH_SET::current_group and AUTH_SET::current_mode, in the selection of
  * the exclusive group, and in operateIndex.
+ *
+ * When the language changes, the dialog sets its own texts anew, its title included. The entries
+ * are the host's and stay.
  */
 class KELTO_EXPORT UTaskSelectDialog : public QDialog
 {
@@ -38,15 +41,18 @@ class KELTO_EXPORT UTaskSelectDialog : public QDialog
 public:
     /// A dialog without parent, registry and entries.
     UTaskSelectDialog();
-    /// Leaves the registry alone. A show() that is still running comes back.
+    /// Leaves the registry alone. A show() that is still running returns.
     ~UTaskSelectDialog() override;
 
     /// The id last given to operate(): 0 after "Accept" and after "Default", 1 after "Cancel"; -1
-    /// from each showing with a registry until then.
+    /// from each showing with a registry until then. It is 0 also when nothing could be accepted,
+    /// because no entry was current or its name does not have exactly three fields: then the
+    /// registry is unchanged.
     int operateIndex;
 
     /// Binds @p registry and offers all its modes. The registry stays the caller's and has to
-    /// outlive the dialog; nullptr unbinds and offers nothing.
+    /// outlive the dialog, which cannot notice its deletion: a host that deletes the registry first
+    /// calls set(nullptr) before. nullptr unbinds and offers nothing.
     void set(AUTH_SET *registry);
 
     /// The entry under the current index of the combo box; a pair of empty texts when there is
@@ -62,7 +68,7 @@ public:
     /// The modes of the registry that @p codes names, as the other overload picks them.
     QVector<QPair<QString, QString>> availableModeItemsWithModeCodeList(QStringList codes) const;
 
-    /// For each of @p codes, in order and with doubles kept, the first entry of @p list with the
+    /// For each of @p codes, in order and with duplicates kept, the first entry of @p list with the
     /// code as its first member, or else the first with it as its second; unknown codes are left
     /// out.
     QVector<QPair<QString, QString>> availableModeItemsWithModeCodeList(
@@ -73,14 +79,12 @@ public:
     /// The second members of @p list, in order.
     QStringList getSecondItems(QVector<QPair<QString, QString>> list) const;
 
-    /// Makes the mode that the registry holds as accepted last the current entry. Without a
-    /// registry it tells the user so in an information box. A window that comes back from being
-    /// minimised keeps the entry that the user had chosen.
+    /// Makes the mode that was accepted last, as the registry holds it, the current entry. Without
+    /// a registry an information box tells the user so. A window that was minimised and is restored
+    /// keeps the entry that the user had chosen.
     void showEvent(QShowEvent *event) override;
-    /// Lets a running show() come back.
+    /// Lets a running show() return.
     void closeEvent(QCloseEvent *event) override;
-    /// Lets a running show() come back, unless the window was only minimised.
-    void hideEvent(QHideEvent *event) override;
 
 public Q_SLOTS:
     /// Does what the button with this id does: 0 accepts the current entry and closes, 2 makes the
@@ -93,13 +97,22 @@ public Q_SLOTS:
     /// Offers all modes of the registry again.
     void resetToProjectMode();
 
-    /// Replaces the entries. The combo box shows the second members.
+    /// Replaces the entries: the combo box is cleared and then filled with the second members, and
+    /// sends the signals of both steps. In the first, no entry is current. When a listener to
+    /// them calls setItems() itself, its entries stay.
     void setItems(VStringPairList list);
 
-    /// Shows the window, waits until it has gone, in whatever way, or the program is told to end,
-    /// and returns 0. While another dialog's show() runs on top, it waits for that one, too. Called
-    /// while the window is shown already, it brings the window to the front and returns 0 at once.
+    /// Shows the window, waits until it is closed or hidden in whatever way, or the program is told
+    /// to exit, and returns 0. While the show() of a second dialog runs within this one, this one
+    /// waits for that, too. When the window is shown already, show() brings it to the front and
+    /// returns 0 at once.
     int show();
+
+protected:
+    /// Lets a running show() return, unless the window was only minimised.
+    void hideEvent(QHideEvent *event) override;
+    /// Sets the dialog's own texts anew when the language has changed.
+    void changeEvent(QEvent *event) override;
 
 private:
     std::unique_ptr<UTaskSelectDialogPrivate> d;
