@@ -7,6 +7,7 @@
 #include <Kelto/AUTH_SET>
 #include <Kelto/UTaskSelectDialog>
 
+#include "support/directorytest.h"
 #include "support/moduleitems.h"
 
 #include <QApplication>
@@ -17,8 +18,6 @@
 #include <QTest>
 #include <QTimer>
 #include <QWindow>
-
-#include <algorithm>
 
 /// Group G with the modes a, b, c, and group H with the mode k.
 inline AUTH_SET twoGroups()
@@ -58,15 +57,10 @@ inline void click(const UTaskSelectDialog &dialog, const QString &buttonName)
 }
 
 /// Sends the key to the window, which hands it to whatever has the focus.
-inline void press(const QWidget &window, Qt::Key key, Qt::KeyboardModifiers modifiers = {})
+inline void press(const QWidget &window, Qt::Key key)
 {
-    QTest::keyClick(window.windowHandle(), key, modifiers);
-}
-
-/// What the window system says when the user presses the close button of the window.
-inline void pressCloseButton(const QWidget &window)
-{
-    window.windowHandle()->close();
+    const Qt::KeyboardModifiers shift = key == Qt::Key_Backtab ? Qt::ShiftModifier : Qt::NoModifier;
+    QTest::keyClick(window.windowHandle(), key, key == Qt::Key_Enter ? Qt::KeypadModifier : shift);
 }
 
 /// A check for code that runs inside of show(), where a QVERIFY() could not leave the test.
@@ -76,13 +70,13 @@ inline void failUnless(bool condition, const char *what)
         QTest::qFail(what, __FILE__, __LINE__);
 }
 
-/// Ends a test whose show() does not come back.
+/// Ends a test whose show() does not return.
 class StuckGuard : public QTimer
 {
 public:
     StuckGuard()
     {
-        callOnTimeout([] { qFatal("show() does not come back"); });
+        callOnTimeout([] { qFatal("show() does not return"); });
         start(10000);
     }
 };
@@ -111,13 +105,6 @@ template <typename Action> int showAndMeetBox(UTaskSelectDialog &dialog, Action 
             dialog.close();
     });
     return dialog.show();
-}
-
-inline bool isAnyWindowOnScreen()
-{
-    const QWindowList windows = QGuiApplication::allWindows();
-    return std::any_of(windows.begin(), windows.end(),
-                       [](const QWindow *window) { return window->isVisible(); });
 }
 
 #endif

@@ -3,37 +3,77 @@
 
 #include "dialogsupport.h"
 
-#include "support/directorytest.h"
-
 #include <QButtonGroup>
 #include <QFormLayout>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QRegularExpression>
+#include <QScopedValueRollback>
 #include <QScreen>
 #include <QTranslator>
 
 #include <memory>
 
+using Keys = QVector<Qt::Key>;
+
 namespace {
 
-QString text(const QObject *object)
+bool hasScreen = true;
+
+QStringList englishTexts()
 {
-    for (const char *property : { "text", "windowTitle" }) {
-        if (object->property(property).isValid())
-            return object->property(property).toString();
+    return { "Dialog",
+             "Accept",
+             "Cancel",
+             "Default",
+             "Open as the selected task type.",
+             "Cancel the opening operation.",
+             "Open as the default project mode.",
+             "You should confirm the task type:" };
+}
+
+QStringList chineseTexts()
+{
+    return { "对话框",
+             "确定",
+             "取消",
+             "默认",
+             "按所选任务类型打开。",
+             "取消打开操作。",
+             "按默认项目模式打开。",
+             "请确认任务类型：" };
+}
+
+QStringList texts(const UTaskSelectDialog &dialog)
+{
+    QStringList texts(dialog.windowTitle());
+    for (const char *name : { "pushButton_accept", "pushButton_cancel", "pushButton_Default",
+                              "label_2", "label_3", "label_4", "label" })
+        texts.append(dialog.findChild<QWidget *>(name)->property("text").toString());
+    return texts;
+}
+
+/// Appends a line for each member below @p layout.
+void describe(QLayout *layout, QStringList *lines)
+{
+    for (int i = 0; i < layout->count(); ++i) {
+        QLayoutItem *item = layout->itemAt(i);
+        const QObject *member = item->widget();
+        if (item->layout())
+            member = item->layout();
+        QString place = QString::number(i);
+        if (const auto *form = qobject_cast<QFormLayout *>(layout)) {
+            int row = -1;
+            QFormLayout::ItemRole role = QFormLayout::SpanningRole;
+            form->getItemPosition(i, &row, &role);
+            place = QString("%1, %2").arg(row).arg(role == QFormLayout::LabelRole ? "label"
+                                                                                  : "field");
+        }
+        lines->append(layout->objectName() + " " + place + ": " + member->metaObject()->className()
+                      + " " + member->objectName());
+        if (item->layout())
+            describe(item->layout(), lines);
     }
-    return QString();
-}
-
-QObject *named(UTaskSelectDialog &dialog, const QString &name)
-{
-    return name == dialog.objectName() ? &dialog : dialog.findChild<QObject *>(name);
-}
-
-QLocale simplifiedChinese()
-{
-    return QLocale(QLocale::Chinese, QLocale::China);
 }
 
 /// The translation that the library brings along, installed for the life of this object.
@@ -41,15 +81,26 @@ class Chinese
 {
 public:
     Chinese()
-        : m_loaded(m_translator.load(simplifiedChinese(), "kelto", "_", ":/kelto/translations"))
     {
+        const QLocale locale(QLocale::Chinese, QLocale::China);
+        failUnless(m_translator.load(locale, "kelto", "_", ":/kelto/translations"),
+                   "the translation is not there");
         QCoreApplication::installTranslator(&m_translator);
     }
-    bool isLoaded() const { return m_loaded; }
 
 private:
     QTranslator m_translator;
-    bool m_loaded;
+};
+
+/// A language in which every text is long.
+class Wordy : public QTranslator
+{
+public:
+    QString translate(const char *, const char *text, const char *, int) const override
+    {
+        return QString("This is what an English program says: ") + text;
+    }
+    bool isEmpty() const override { return false; }
 };
 
 /// Two entries, the first of which takes @p width to show.
@@ -69,332 +120,294 @@ bool showsAllOfTheName(const UTaskSelectDialog &dialog)
     return comboBox(dialog)->width() >= unbounded.sizeHint().width();
 }
 
+bool clipsText(const UTaskSelectDialog &dialog)
+{
+    const QRegularExpression ofOneLine("^(label|pushButton|comboBox)");
+    const QList<QWidget *> widgets = dialog.findChildren<QWidget *>(ofOneLine);
+    return std::any_of(widgets.begin(), widgets.end(), [](const QWidget *widget) {
+        return widget->sizeHint().boundedTo(widget->size()) != widget->sizeHint();
+    });
+}
+
+QString focusName(const UTaskSelectDialog &dialog)
+{
+    return dialog.focusWidget() ? dialog.focusWidget()->objectName() : QString();
+}
+
 } // namespace
+
+// Replaces Qt's own for the library: no platform of Qt can be without a screen in a test.
+QScreen *QWidget::screen() const
+{
+    return hasScreen ? QGuiApplication::primaryScreen() : nullptr;
+}
 
 class TestTaskSelectDialogForm : public DirectoryTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void dialogItself();
-    void members_data();
-    void members();
-    void hasNothingElse();
-    void formPlaces_data();
-    void formPlaces();
-    void order();
-    void buttons_data();
-    void buttons();
-    void buttonGroup();
-    void textFieldStaysEmpty();
-    void labelNamesTheComboBox();
-    void chinese_data();
-    void chinese();
-    void chineseBox();
-    void clipsNoText_data();
-    void clipsNoText();
-    void makesRoomForNames_data();
-    void makesRoomForNames();
-    void makesRoomForLaterNames();
-    void makesRoomInAnotherFont();
-    void opensInTheMiddle_data();
-    void opensInTheMiddle();
-};
+    void init() override
+    {
+        DirectoryTest::init();
+        m_registry = twoGroups();
+        m_dialog = std::make_unique<UTaskSelectDialog>();
+        m_dialog->set(&m_registry);
+    }
+    void cleanup() override
+    {
+        m_dialog.reset();
+        DirectoryTest::cleanup();
+    }
 
-void TestTaskSelectDialogForm::dialogItself()
-{
-    const UTaskSelectDialog dialog;
-    QCOMPARE(dialog.objectName(), QString("UTaskSelectDialog"));
-    QCOMPARE(dialog.windowTitle(), QString("Dialog"));
-    QCOMPARE(dialog.windowModality(), Qt::ApplicationModal);
-    QCOMPARE(dialog.size(), QSize(400, 300));
-    QCOMPARE(dialog.parent(), nullptr);
-    QCOMPARE(dialog.windowFlags(), QDialog().windowFlags());
-    QVERIFY(!dialog.isVisible());
-}
+    void isAWindowOfItsOwn()
+    {
+        QCOMPARE(m_dialog->objectName(), QString("UTaskSelectDialog"));
+        QCOMPARE(m_dialog->windowModality(), Qt::ApplicationModal);
+        QCOMPARE(m_dialog->size(), QSize(400, 300));
+        QCOMPARE(m_dialog->parent(), nullptr);
+        QCOMPARE(m_dialog->windowFlags(), QDialog().windowFlags());
+        QVERIFY(!m_dialog->isVisible());
+    }
 
-void TestTaskSelectDialogForm::members_data()
-{
-    QTest::addColumn<QByteArray>("type");
-    QTest::addColumn<QString>("expectedText");
+    void hasTheDescribedMembers()
+    {
+        QStringList lines(m_dialog->layout()->objectName());
+        describe(m_dialog->layout(), &lines);
+        lines.sort();
+        QCOMPARE(lines,
+                 QStringList({ "formLayout 0, field: QLabel label_2",
+                               "formLayout 0, label: QPushButton pushButton_accept",
+                               "formLayout 1, field: QLabel label_3",
+                               "formLayout 1, label: QPushButton pushButton_cancel",
+                               "formLayout 2, field: QLabel label_4",
+                               "formLayout 2, label: QPushButton pushButton_Default",
+                               "verticalLayout 0: QFormLayout formLayout",
+                               "verticalLayout 1: QLabel label",
+                               "verticalLayout 2: QComboBox comboBox",
+                               "verticalLayout 3: QPlainTextEdit plainTextEdit", "verticalLayout_2",
+                               "verticalLayout_2 0: QVBoxLayout verticalLayout" }));
+        // Nothing but these nine widgets and the layout, which is a QVBoxLayout, too.
+        QCOMPARE(m_dialog->children().size(), 10);
+        QVERIFY(qobject_cast<QVBoxLayout *>(m_dialog->layout()));
+        QCOMPARE(m_dialog->findChild<QLabel *>("label")->buddy(), comboBox(*m_dialog));
+    }
 
-    const auto row = [](const char *name, const char *type, const char *text) {
-        QTest::newRow(name) << QByteArray(type) << QString(text);
-    };
-    row("verticalLayout_2", "QVBoxLayout", "");
-    row("verticalLayout", "QVBoxLayout", "");
-    row("formLayout", "QFormLayout", "");
-    row("pushButton_accept", "QPushButton", "Accept");
-    row("pushButton_cancel", "QPushButton", "Cancel");
-    row("pushButton_Default", "QPushButton", "Default");
-    row("label_2", "QLabel", "Open as the selected task type.");
-    row("label_3", "QLabel", "Cancel the opening operation.");
-    row("label_4", "QLabel", "Open as the default project mode.");
-    row("label", "QLabel", "You should confirm the task type:");
-    row("comboBox", "QComboBox", "");
-    row("plainTextEdit", "QPlainTextEdit", "");
-}
+    void groupsTheButtons()
+    {
+        const auto *accept = m_dialog->findChild<QPushButton *>("pushButton_accept");
+        const QButtonGroup *group = accept->group();
+        QCOMPARE(group->button(0), accept);
+        QCOMPARE(group->button(1)->objectName(), QString("pushButton_cancel"));
+        QCOMPARE(group->button(2)->objectName(), QString("pushButton_Default"));
+        QCOMPARE(group->buttons().size(), 3);
+        QCOMPARE(group->parent(), nullptr);
+        QVERIFY(accept->isDefault());
+    }
 
-void TestTaskSelectDialogForm::members()
-{
-    UTaskSelectDialog dialog;
-    const QObject *member = named(dialog, QTest::currentDataTag());
-    QVERIFY(member);
-    QTEST(QByteArray(member->metaObject()->className()), "type");
-    QTEST(text(member), "expectedText");
-}
-
-void TestTaskSelectDialogForm::hasNothingElse()
-{
-    const UTaskSelectDialog dialog;
-    QStringList names;
-    for (const QObject *child : dialog.children())
-        names.append(child->objectName());
-    names.sort();
-    QCOMPARE(names,
-             QStringList({ "comboBox", "label", "label_2", "label_3", "label_4", "plainTextEdit",
-                           "pushButton_Default", "pushButton_accept", "pushButton_cancel",
-                           "verticalLayout_2" }));
-}
-
-void TestTaskSelectDialogForm::formPlaces_data()
-{
-    QTest::addColumn<int>("row");
-    QTest::addColumn<int>("role");
-
-    QTest::newRow("pushButton_accept") << 0 << int(QFormLayout::LabelRole);
-    QTest::newRow("pushButton_cancel") << 1 << int(QFormLayout::LabelRole);
-    QTest::newRow("pushButton_Default") << 2 << int(QFormLayout::LabelRole);
-    QTest::newRow("label_2") << 0 << int(QFormLayout::FieldRole);
-    QTest::newRow("label_3") << 1 << int(QFormLayout::FieldRole);
-    QTest::newRow("label_4") << 2 << int(QFormLayout::FieldRole);
-}
-
-void TestTaskSelectDialogForm::formPlaces()
-{
-    UTaskSelectDialog dialog;
-    const auto *form = dialog.findChild<QFormLayout *>("formLayout");
-    int row = -1;
-    QFormLayout::ItemRole role = QFormLayout::SpanningRole;
-    form->getWidgetPosition(dialog.findChild<QWidget *>(QTest::currentDataTag()), &row, &role);
-    QTEST(row, "row");
-    QTEST(int(role), "role");
-    QCOMPARE(form->rowCount(), 3);
-}
-
-void TestTaskSelectDialogForm::order()
-{
-    UTaskSelectDialog dialog;
-    QCOMPARE(dialog.layout()->objectName(), QString("verticalLayout_2"));
-    QCOMPARE(dialog.layout()->count(), 1);
-    const QLayout *column = dialog.layout()->itemAt(0)->layout();
-    QCOMPARE(column->objectName(), QString("verticalLayout"));
-    QStringList names { column->itemAt(0)->layout()->objectName() };
-    for (int i = 1; i < column->count(); ++i)
-        names.append(column->itemAt(i)->widget()->objectName());
-    QCOMPARE(names, QStringList({ "formLayout", "label", "comboBox", "plainTextEdit" }));
-}
-
-void TestTaskSelectDialogForm::buttons_data()
-{
-    QTest::addColumn<int>("id");
-    QTest::addColumn<bool>("isDefault");
-
-    QTest::newRow("pushButton_accept") << 0 << true;
-    QTest::newRow("pushButton_cancel") << 1 << false;
-    QTest::newRow("pushButton_Default") << 2 << false;
-}
-
-void TestTaskSelectDialogForm::buttons()
-{
-    const UTaskSelectDialog dialog;
-    auto *button = dialog.findChild<QPushButton *>(QTest::currentDataTag());
-    QTEST(button->group()->id(button), "id");
-    QTEST(button->isDefault(), "isDefault");
-}
-
-void TestTaskSelectDialogForm::buttonGroup()
-{
-    const UTaskSelectDialog dialog;
-    const QButtonGroup *group = dialog.findChild<QPushButton *>("pushButton_accept")->group();
-    QCOMPARE(group->parent(), nullptr);
-    QCOMPARE(group->buttons().size(), 3);
-}
-
-void TestTaskSelectDialogForm::textFieldStaysEmpty()
-{
-    AUTH_SET registry = twoGroups();
-    UTaskSelectDialog dialog;
-    dialog.set(&registry);
-    const auto *field = dialog.findChild<QPlainTextEdit *>("plainTextEdit");
-    QString duringShow = "unseen";
-    showAnd(dialog, [&] {
-        duringShow = field->toPlainText();
-        click(dialog, "pushButton_Default");
-    });
-    QCOMPARE(duringShow, QString());
-    QCOMPARE(field->toPlainText(), QString());
-}
-
-void TestTaskSelectDialogForm::labelNamesTheComboBox()
-{
-    const UTaskSelectDialog dialog;
-    QCOMPARE(dialog.findChild<QLabel *>("label")->buddy(), comboBox(dialog));
-}
-
-void TestTaskSelectDialogForm::chinese_data()
-{
-    QTest::addColumn<QString>("expectedText");
-
-    QTest::newRow("UTaskSelectDialog") << "对话框";
-    QTest::newRow("pushButton_accept") << "确定";
-    QTest::newRow("pushButton_cancel") << "取消";
-    QTest::newRow("pushButton_Default") << "默认";
-    QTest::newRow("label_2") << "按所选任务类型打开。";
-    QTest::newRow("label_3") << "取消打开操作。";
-    QTest::newRow("label_4") << "按默认项目模式打开。";
-    QTest::newRow("label") << "请确认任务类型：";
-}
-
-void TestTaskSelectDialogForm::chinese()
-{
-    const Chinese chinese;
-    QVERIFY(chinese.isLoaded());
-    UTaskSelectDialog dialog;
-    QTEST(text(named(dialog, QTest::currentDataTag())), "expectedText");
-}
-
-void TestTaskSelectDialogForm::chineseBox()
-{
-    const Chinese chinese;
-    QVERIFY(chinese.isLoaded());
-    UTaskSelectDialog dialog;
-    QStringList texts;
-    showAndMeetBox(dialog, [&](QMessageBox *box) {
-        texts = QStringList { box->windowTitle(), box->text() };
-        dialog.close();
-    });
-    QCOMPARE(texts, QStringList({ "设置错误", "请先连接 Kelto。" }));
-}
-
-void TestTaskSelectDialogForm::clipsNoText_data()
-{
-    QTest::addColumn<bool>("inChinese");
-
-    QTest::newRow("English") << false;
-    QTest::newRow("Chinese") << true;
-}
-
-void TestTaskSelectDialogForm::clipsNoText()
-{
-    QFETCH(bool, inChinese);
-    const auto chinese = inChinese ? std::make_unique<Chinese>() : nullptr;
-    AUTH_SET registry = twoGroups();
-    UTaskSelectDialog dialog;
-    dialog.set(&registry);
-    QStringList clipped;
-    showAnd(dialog, [&] {
-        const QRegularExpression ofOneLine("^(label|pushButton|comboBox)");
-        const QList<QWidget *> widgets = dialog.findChildren<QWidget *>(ofOneLine);
-        for (const QWidget *widget : widgets) {
-            const QSize missing = widget->sizeHint() - widget->size();
-            if (missing.width() > 0 || missing.height() > 0)
-                clipped.append(widget->objectName());
+    void followsTheLanguage()
+    {
+        QCOMPARE(texts(*m_dialog), englishTexts());
+        comboBox(*m_dialog)->setCurrentIndex(2);
+        m_dialog->setWindowTitle("Title of the host");
+        m_dialog->setFont(QFont("Serif"));
+        QCOMPARE(m_dialog->windowTitle(), QString("Title of the host"));
+        {
+            const Chinese chinese;
+            QCOMPARE(texts(UTaskSelectDialog()), chineseTexts());
+            QCoreApplication::sendPostedEvents();
+            QCOMPARE(texts(*m_dialog), chineseTexts());
         }
-        dialog.close();
-    });
-    QCOMPARE(clipped, QStringList());
-    QCOMPARE(dialog.size(), QSize(400, 300));
-}
+        QCoreApplication::sendPostedEvents();
+        QCOMPARE(texts(*m_dialog), englishTexts());
+        QCOMPARE(m_dialog->currentItemIndex(), 2);
+        QCOMPARE(shownTexts(*m_dialog), m_dialog->getSecondItems(allModes()));
+    }
 
-void TestTaskSelectDialogForm::makesRoomForNames_data()
-{
-    QTest::addColumn<int>("width");
-    QTest::addColumn<bool>("showsAll");
+    void boxFollowsTheLanguage()
+    {
+        m_dialog->set(nullptr);
+        QStringList boxTexts;
+        showAndMeetBox(*m_dialog, [&](QMessageBox *box) {
+            {
+                const Chinese chinese;
+                QCoreApplication::sendPostedEvents();
+                boxTexts << box->windowTitle() << box->text();
+            }
+            QCoreApplication::sendPostedEvents();
+            boxTexts << box->windowTitle() << box->text();
+            m_dialog->close();
+        });
+        QCOMPARE(boxTexts,
+                 QStringList({ "设置错误", "请先连接 Kelto。", "Wrong Sets",
+                               "Please connect Kelto first." }));
+    }
 
-    QTest::newRow("short name") << 50 << true;
-    QTest::newRow("name wider than the window at first") << 500 << true;
-    QTest::newRow("name wider than the screen") << 5000 << false;
-}
+    void clipsNoText()
+    {
+        bool clips = true;
+        bool clipsChinese = true;
+        bool clipsLongTexts = true;
+        QSize size;
+        showAnd(*m_dialog, [&] {
+            clips = clipsText(*m_dialog);
+            const Chinese chinese;
+            clipsChinese = !QTest::qWaitFor([&] { return texts(*m_dialog) == chineseTexts(); })
+                || clipsText(*m_dialog);
+            size = m_dialog->size();
+            Wordy wordy;
+            QCoreApplication::installTranslator(&wordy);
+            clipsLongTexts = !QTest::qWaitFor(
+                [&] { return m_dialog->width() > 400 && !clipsText(*m_dialog); });
+            m_dialog->close();
+        });
+        QVERIFY(!clips);
+        QVERIFY(!clipsChinese);
+        QCOMPARE(size, QSize(400, 300));
+        QVERIFY(!clipsLongTexts);
+    }
 
-void TestTaskSelectDialogForm::makesRoomForNames()
-{
-    QFETCH(int, width);
-    AUTH_SET registry = twoGroups();
-    UTaskSelectDialog dialog;
-    dialog.set(&registry);
-    dialog.setItems(itemsOfWidth(dialog, width));
-    bool showsAll = false;
-    QRect place;
-    showAnd(dialog, [&] {
-        showsAll = showsAllOfTheName(dialog);
-        place = dialog.frameGeometry();
-        dialog.close();
-    });
-    QTEST(showsAll, "showsAll");
-    QVERIFY(dialog.screen()->availableGeometry().contains(place));
-}
+    void makesRoomForNames_data()
+    {
+        QTest::addColumn<int>("width");
+        QTest::addColumn<bool>("showsAll");
 
-void TestTaskSelectDialogForm::makesRoomForLaterNames()
-{
-    AUTH_SET registry = twoGroups();
-    UTaskSelectDialog dialog;
-    dialog.set(&registry);
-    showAnd(dialog, [&] { dialog.close(); });
-    dialog.setItems(itemsOfWidth(dialog, 450));
-    bool atNextShowing = false;
-    bool whileShown = false;
-    showAnd(dialog, [&] {
-        atNextShowing = showsAllOfTheName(dialog);
-        dialog.setItems(itemsOfWidth(dialog, 520));
-        whileShown = QTest::qWaitFor([&] { return showsAllOfTheName(dialog); });
-        dialog.close();
-    });
-    QVERIFY(atNextShowing);
-    QVERIFY(whileShown);
-}
+        QTest::newRow("short name") << 50 << true;
+        QTest::newRow("name wider than the window at first") << 500 << true;
+        QTest::newRow("name wider than the screen") << 5000 << false;
+    }
+    void makesRoomForNames()
+    {
+        QFETCH(int, width);
+        m_dialog->setItems(itemsOfWidth(*m_dialog, width));
+        bool showsAll = false;
+        QRect place;
+        QPoint offset;
+        const QRect screen = m_dialog->screen()->availableGeometry();
+        showAnd(*m_dialog, [&] {
+            showsAll = showsAllOfTheName(*m_dialog);
+            place = m_dialog->frameGeometry();
+            offset = m_dialog->geometry().center() - screen.center();
+            m_dialog->close();
+        });
+        QTEST(showsAll, "showsAll");
+        QVERIFY(screen.contains(place));
+        // In the middle. Qt leaves room for a frame of which it knows nothing yet.
+        QVERIFY2(qAbs(offset.x()) <= 20 && qAbs(offset.y()) <= 50,
+                 qPrintable(QString("%1, %2").arg(offset.x()).arg(offset.y())));
+    }
 
-void TestTaskSelectDialogForm::makesRoomInAnotherFont()
-{
-    AUTH_SET registry = twoGroups();
-    UTaskSelectDialog dialog;
-    dialog.set(&registry);
-    dialog.setItems(itemsOfWidth(dialog, 350));
-    QFont font = dialog.font();
-    font.setPointSizeF(font.pointSizeF() * 1.4);
-    dialog.setFont(font);
-    bool showsAll = false;
-    showAnd(dialog, [&] {
-        showsAll = showsAllOfTheName(dialog);
-        dialog.close();
-    });
-    QVERIFY(showsAll);
-}
+    void makesRoomForAnotherFontAndLaterNames()
+    {
+        m_dialog->setItems(itemsOfWidth(*m_dialog, 350));
+        showAnd(*m_dialog, [&] { m_dialog->close(); });
+        QFont font = m_dialog->font();
+        font.setPointSizeF(font.pointSizeF() * 1.4);
+        m_dialog->setFont(font);
+        bool inAnotherFont = false;
+        bool whileShown = false;
+        showAnd(*m_dialog, [&] {
+            inAnotherFont = showsAllOfTheName(*m_dialog);
+            m_dialog->setItems(itemsOfWidth(*m_dialog, 520));
+            whileShown = QTest::qWaitFor([&] { return showsAllOfTheName(*m_dialog); });
+            m_dialog->close();
+        });
+        QVERIFY(inAnotherFont);
+        QVERIFY(whileShown);
+    }
 
-void TestTaskSelectDialogForm::opensInTheMiddle_data()
-{
-    QTest::addColumn<int>("width");
+    void survivesWithoutAScreen()
+    {
+        const QScopedValueRollback<bool> noScreen(hasScreen, false);
+        m_dialog->setItems(itemsOfWidth(*m_dialog, 500));
+        QCOMPARE(showAnd(*m_dialog, [&] { click(*m_dialog, "pushButton_Default"); }), 0);
+        QCOMPARE(m_registry.current_mode, QString("a"));
+    }
 
-    QTest::newRow("short name") << 50;
-    QTest::newRow("name wider than the window at first") << 500;
-}
+    void movesTheFocus_data()
+    {
+        QTest::addColumn<Qt::Key>("key");
+        QTest::addColumn<QStringList>("way");
 
-void TestTaskSelectDialogForm::opensInTheMiddle()
-{
-    QFETCH(int, width);
-    AUTH_SET registry = twoGroups();
-    UTaskSelectDialog dialog;
-    dialog.set(&registry);
-    dialog.setItems(itemsOfWidth(dialog, width));
-    QPoint offset;
-    showAnd(dialog, [&] {
-        offset = dialog.geometry().center() - dialog.screen()->availableGeometry().center();
-        dialog.close();
-    });
-    // Qt leaves room for a frame of which it knows nothing yet.
-    QVERIFY2(qAbs(offset.x()) <= 20 && qAbs(offset.y()) <= 50,
-             qPrintable(QString("%1, %2").arg(offset.x()).arg(offset.y())));
-}
+        const QStringList way { "comboBox",           "pushButton_accept", "pushButton_cancel",
+                                "pushButton_Default", "plainTextEdit",     "comboBox" };
+        QTest::newRow("forwards with Tab") << Qt::Key_Tab << way;
+        QTest::newRow("backwards with Shift and Tab")
+            << Qt::Key_Backtab << QStringList(way.rbegin(), way.rend());
+    }
+    /// Each showing starts at the combo box, wherever the focus was when the last one ended.
+    void movesTheFocus()
+    {
+        QFETCH(Qt::Key, key);
+        QFETCH(QStringList, way);
+        for (int steps = 1; steps <= way.size(); ++steps) {
+            QStringList walked;
+            showAnd(*m_dialog, [&] {
+                walked.append(focusName(*m_dialog));
+                while (walked.size() < steps) {
+                    press(*m_dialog, key);
+                    walked.append(focusName(*m_dialog));
+                }
+                m_dialog->close();
+            });
+            QCOMPARE(walked, way.mid(0, steps));
+        }
+    }
+
+    void closesByKeys_data()
+    {
+        QTest::addColumn<Keys>("keys");
+        QTest::addColumn<int>("operateIndex");
+        QTest::addColumn<QString>("acceptedMode");
+
+        const auto row = [](const char *name, int tabs, const Keys &keys, int operateIndex,
+                            const char *mode) {
+            QTest::newRow(name) << Keys(tabs, Qt::Key_Tab) + keys << operateIndex << QString(mode);
+        };
+        row("Return on the combo box accepts", 0, { Qt::Key_Return }, 0, "b");
+        row("Enter of the keypad on the combo box accepts", 0, { Qt::Key_Enter }, 0, "b");
+        row("another entry", 0, { Qt::Key_Down, Qt::Key_Return }, 0, "c");
+        row("Return on Accept", 1, { Qt::Key_Return }, 0, "b");
+        row("Space on Accept", 1, { Qt::Key_Space }, 0, "b");
+        row("Return on Cancel", 2, { Qt::Key_Return }, 1, "");
+        row("Space on Cancel", 2, { Qt::Key_Space }, 1, "");
+        row("Return on Default", 3, { Qt::Key_Return }, 0, "a");
+        row("Space on Default", 3, { Qt::Key_Space }, 0, "a");
+        row("Escape on the combo box", 0, { Qt::Key_Escape }, -1, "");
+        row("Escape on a button", 3, { Qt::Key_Escape }, -1, "");
+        row("Escape in the text field", 4, { Qt::Key_Escape }, -1, "");
+    }
+    void closesByKeys()
+    {
+        QFETCH(Keys, keys);
+        showAnd(*m_dialog, [&] {
+            comboBox(*m_dialog)->setCurrentIndex(1);
+            for (const Qt::Key key : keys)
+                press(*m_dialog, key);
+        });
+        QTEST(m_dialog->operateIndex, "operateIndex");
+        QTEST(m_registry.current_mode, "acceptedMode");
+    }
+
+    void textFieldBelongsToTheUser()
+    {
+        const auto *field = m_dialog->findChild<QPlainTextEdit *>("plainTextEdit");
+        bool staysOpen = false;
+        showAnd(*m_dialog, [&] {
+            failUnless(field->toPlainText().isEmpty(), "the text field is not empty");
+            for (const Qt::Key key : Keys(4, Qt::Key_Tab) + Keys { Qt::Key_A, Qt::Key_Return })
+                press(*m_dialog, key);
+            staysOpen = m_dialog->isVisible();
+            click(*m_dialog, "pushButton_Default");
+        });
+        QVERIFY(staysOpen);
+        QCOMPARE(field->toPlainText(), QString("a\n"));
+    }
+
+private:
+    AUTH_SET m_registry;
+    std::unique_ptr<UTaskSelectDialog> m_dialog;
+};
 
 QTEST_MAIN(TestTaskSelectDialogForm)
 #include "tst_utaskselectdialog_form.moc"
