@@ -97,9 +97,10 @@ public Q_SLOTS:
     /// Offers all modes of the registry again.
     void resetToProjectMode();
 
-    /// Replaces the entries: the combo box is cleared and then filled with the second members, and
-    /// sends the signals of both steps. In the first, no entry is current. When a listener to
-    /// them calls setItems() itself, its entries stay.
+    /// Replaces the entries: the combo box is cleared, then filled with the second members, and
+    /// sends its signals for both steps. During those of the first there are no entries. When a
+    /// listener calls setItems() itself, its entries stay. It may delete the dialog as well, but
+    /// not the combo box alone.
     void setItems(VStringPairList list);
 
     /// Shows the window, waits until it is closed or hidden in whatever way, or the program is told

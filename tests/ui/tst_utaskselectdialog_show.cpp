@@ -412,6 +412,7 @@ private Q_SLOTS:
     void boxComesWithAnyShowEvent()
     {
         UTaskSelectDialog dialog;
+        showAndMeetBox(dialog, [&](QMessageBox *) { dialog.close(); });
         bool hadBox = false;
         QTimer::singleShot(0, &dialog, [&] {
             auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
