@@ -257,7 +257,6 @@ private Q_SLOTS:
     {
         addClosings({
             { "operate(0)", [](auto *dialog) { dialog->operate(0); } },
-            { "operate(1)", [](auto *dialog) { dialog->operate(1); } },
             { "operate(2)", [](auto *dialog) { dialog->operate(2); } },
             { "operate(99)", [](auto *dialog) { dialog->operate(99); } },
             { "accept()", [](auto *dialog) { dialog->accept(); } },
