@@ -66,10 +66,11 @@ Outcome<Vessel::Result> Vessel::thickWall(double innerDiameter, double thickness
     const double ring = thickness * (a + b); // b^2 - a^2 without cancellation
     const double mean = (internalPressure * a * a - externalPressure * b * b) / ring;
     const double swing = (internalPressure - externalPressure) * a * a * b * b / ring;
-    const auto at = [&](double sign, double r) { return mean + sign * swing / (r * r); };
+    const auto hoop = [&](double r) { return mean + swing / (r * r); };
     const double middle = (a + b) / 2;
-    const Result result { { at(1, a), at(1, middle), at(1, b) },
-                          { at(-1, a), at(-1, middle), at(-1, b) },
-                          mean };
+    // At the surfaces it is the pressure itself, without the rounding error that would show at
+    // zero.
+    const Profile radial { -internalPressure, mean - swing / (middle * middle), -externalPressure };
+    const Result result { { hoop(a), hoop(middle), hoop(b) }, radial, mean };
     return { result, resultProblem(result) };
 }
