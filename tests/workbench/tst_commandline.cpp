@@ -1,12 +1,11 @@
 // SPDX-FileCopyrightText: The Kelto developers
 // SPDX-License-Identifier: MIT
 
-#include <QDir>
 #include <QProcess>
-#include <QTemporaryDir>
+#include <QSettings>
 #include <QtTest>
 
-#include "support/temporarycurrentdirectory.h"
+#include "support/directorytest.h"
 #include "support/testfiles.h"
 
 #ifdef Q_OS_UNIX
@@ -15,45 +14,18 @@
 
 namespace {
 
-struct Ending
+QString advice()
 {
-    int exitCode = -1;
-    QString output;
-    QString complaint;
-};
-
-/// Runs a program, the workbench where none is named, to its end in the directory @p path.
-Ending run(const QString &path, const QStringList &arguments,
-           const QString &program = QStringLiteral(WORKBENCH_EXECUTABLE))
-{
-    QProcess process;
-    process.setWorkingDirectory(path);
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), path); // or Qt complains
-    process.setProcessEnvironment(environment);
-    process.start(program, arguments);
-    if (!process.waitForFinished()) {
-        process.kill();
-        process.waitForFinished();
-        return {};
-    }
-    return { process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
-             QString::fromUtf8(process.readAllStandardOutput()),
-             QString::fromUtf8(process.readAllStandardError()) };
+    return "\nName a directory with module files (--modules), or start with the "
+           "modules that were compiled in (--compiled).\n";
 }
 
-QString modulesAdvice()
-{
-    return "\nName a directory with module files (--modules), or start with the modules that were "
-           "compiled in (--compiled).\n";
-}
-
-/// The user who owns the directory @p path and whom permissions bind: another one for the
+/// The user who owns the current directory and whom permissions bind: another one for the
 /// superuser.
-QString boundOwner(const QString &path)
+QString boundOwner()
 {
 #ifdef Q_OS_UNIX
-    if (geteuid() == 0 && chown(qPrintable(path), 65534, 65534) == 0)
+    if (geteuid() == 0 && chown(".", 65534, 65534) == 0)
         return "65534";
 #endif
     return {};
@@ -61,226 +33,172 @@ QString boundOwner(const QString &path)
 
 } // namespace
 
-class tst_CommandLine : public QObject
+/// The workbench as a process, each in a directory of its own.
+class tst_CommandLine : public DirectoryTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void help();
-    void version();
-    void complaints_data();
-    void complaints();
-    void fileWithoutModule();
-    void modulesThatMayNotBeRead_data();
-    void modulesThatMayNotBeRead();
-    void modulesOfAnotherDirectory();
-    void unknownTaskListsTheKnownOnes_data();
-    void unknownTaskListsTheKnownOnes();
-    void chosenTaskOpensTheWindowAtOnce_data();
-    void chosenTaskOpensTheWindowAtOnce();
-};
+    void init() override
+    {
+        DirectoryTest::init();
+        if (QTest::currentTestFailed())
+            return;
+        qputenv("XDG_RUNTIME_DIR", QFile::encodeName(QDir::currentPath())); // or Qt complains
+    }
 
-void tst_CommandLine::help()
-{
-    const QTemporaryDir directory;
-    for (const char *option : { "--help", "-h" }) {
-        const Ending ending = run(directory.path(), { QLatin1String(option) });
-        QCOMPARE(ending.exitCode, 0);
-        QCOMPARE(ending.complaint, QString());
+    void help()
+    {
+        run({ "--help" });
+        QCOMPARE(m_process.exitCode(), 0);
         for (const char *text :
              { "--language", "--task", "--modules", "--compiled", "Exit codes: 0 for done" })
-            QVERIFY2(ending.output.contains(QLatin1String(text)), qPrintable(ending.output));
+            QVERIFY2(m_output.contains(text), qPrintable(m_output));
+        run({ "--version" });
+        QCOMPARE(m_process.exitCode(), 0);
+        QCOMPARE(m_output, QString("Workbench " WORKBENCH_VERSION "\n"));
+        QVERIFY(QDir().isEmpty());
     }
-    QVERIFY(QDir(directory.path()).isEmpty());
-}
 
-void tst_CommandLine::version()
-{
-    const QTemporaryDir directory;
-    const Ending ending = run(directory.path(), { QStringLiteral("--version") });
-    QCOMPARE(ending.exitCode, 0);
-    QCOMPARE(ending.output, QStringLiteral("Workbench " WORKBENCH_VERSION "\n"));
-    QCOMPARE(ending.complaint, QString());
-}
+    void complaints_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<int>("exitCode");
+        QTest::addColumn<QString>("complaint");
+        using Arguments = QStringList;
+        QTest::newRow("unknown option")
+            << Arguments("--colour") << 2 << "Unknown option 'colour'.\n";
+        QTest::newRow("empty task")
+            << Arguments("--task=") << 2 << "--task needs a standard mode name.\n";
+        QTest::newRow("unknown language")
+            << Arguments { "--language", "fr" } << 2 << "Unknown language: fr\n";
+        QTest::newRow("empty language") << Arguments("--language=") << 2 << "Unknown language: \n";
+        QTest::newRow("argument without option")
+            << Arguments("Cantilever") << 2 << "Unexpected argument: Cantilever\n";
+        QTest::newRow("empty directory name")
+            << Arguments("--modules=") << 2 << "--modules needs a directory.\n";
+        QTest::newRow("both kinds of modules") << Arguments { "--compiled", "--modules", "." } << 2
+                                               << "--modules and --compiled exclude each other.\n";
+        QTest::newRow("missing directory") << Arguments { "--modules", "missing" } << 1
+                                           << "There is no directory \"missing\"." + advice();
+        const QString known = "Unknown task: none\n"
+                              "Known tasks:\n"
+                              "%1  Workbench:Heat:Steady\n  Workbench:Heat:With convection\n";
+        const QString others
+            = "  Workbench:Statics:Cantilever\n  Workbench:Statics:Simply supported\n"
+              "  Workbench:Statics:Fixed at both ends\n  Workbench:Statics:Compression\n"
+              "  Workbench:Statics:Extension\n  Workbench:Statics:Torsion\n"
+              "  Workbench:Vessels:Thin wall\n  Workbench:Vessels:Thick wall\n";
+        QTest::newRow("unknown task") << Arguments { "--task", "none" } << 1 << known.arg(others);
+        QTest::newRow("modules of another directory")
+            << Arguments { "--modules", "mine", "--task", "none" } << 1 << known.arg("");
+    }
+    void complaints()
+    {
+        QFETCH(QStringList, arguments);
+        if (arguments.contains("mine"))
+            QVERIFY(QDir().mkdir("mine")
+                    && QFile::copy(WORKBENCH_MODULES "/40-plane-wall.ini", "mine/wall.ini"));
+        run(arguments);
+        QTEST(m_process.exitCode(), "exitCode");
+        QTEST(m_complaint, "complaint");
+        QCOMPARE(m_output, QString());
+        // Nothing is written before the modules are known.
+        QVERIFY(m_complaint.startsWith("Unknown task") || QDir().isEmpty());
+    }
 
-void tst_CommandLine::complaints_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<int>("exitCode");
-    QTest::addColumn<QString>("complaint");
+    void compiledModulesNeedNoFiles()
+    {
+        QVERIFY(QFile::copy(WORKBENCH_EXECUTABLE, "workbench"));
+        run({ "--task", "none" }, "./workbench");
+        QVERIFY2(m_complaint.startsWith("There is no directory"), qPrintable(m_complaint));
+        run({ "--task", "none", "--compiled" }, "./workbench");
+        QVERIFY2(m_complaint.contains("Workbench:Statics:Cantilever"), qPrintable(m_complaint));
+    }
 
-    const auto list
-        = [](const char *text) { return QString::fromLatin1(text).split(QLatin1Char('|')); };
-    QTest::newRow("unknown option") << list("--colour") << 2 << "Unknown option 'colour'.\n";
-    QTest::newRow("option without value")
-        << list("--task") << 2 << "Missing value after '--task'.\n";
-    QTest::newRow("empty task") << list("--task=") << 2 << "--task needs a standard mode name.\n";
-    QTest::newRow("unknown language") << list("--language|fr") << 2 << "Unknown language: fr\n";
-    QTest::newRow("empty language") << list("--language=") << 2 << "Unknown language: \n";
-    QTest::newRow("argument without option")
-        << list("Cantilever") << 2 << "Unexpected argument: Cantilever\n";
-    QTest::newRow("empty directory name")
-        << list("--modules=") << 2 << "--modules needs a directory.\n";
-    QTest::newRow("both kinds of modules")
-        << list("--compiled|--modules|.") << 2 << "--modules and --compiled exclude each other.\n";
-    QTest::newRow("missing directory")
-        << list("--modules|missing") << 1 << "There is no directory \"missing\"." + modulesAdvice();
-    QTest::newRow("directory without modules")
-        << list("--modules|.") << 1
-        << "The directory \".\" holds no files *.ini." + modulesAdvice();
-}
-
-void tst_CommandLine::complaints()
-{
-    QFETCH(QStringList, arguments);
-    const QTemporaryDir directory;
-
-    const Ending ending = run(directory.path(), arguments);
-
-    QTEST(ending.exitCode, "exitCode");
-    QTEST(ending.complaint, "complaint");
-    QCOMPARE(ending.output, QString());
-    QVERIFY(QDir(directory.path()).isEmpty());
-}
-
-void tst_CommandLine::fileWithoutModule()
-{
-    const TemporaryCurrentDirectory directory;
-    QVERIFY(writeFile("notes.ini", "[Notes]\nname=none\n"));
-
-    const Ending ending = run(directory.path(), { "--modules", "." });
-
-    QCOMPARE(ending.exitCode, 1);
-    QVERIFY2(ending.complaint.startsWith("The file \"./notes.ini\" holds no module: "),
-             qPrintable(ending.complaint));
-    QCOMPARE(filesIn("."), QStringList("notes.ini"));
-}
-
-void tst_CommandLine::modulesThatMayNotBeRead_data()
-{
-    QTest::addColumn<int>("directoryRights");
-    QTest::addColumn<int>("fileRights");
-    QTest::addColumn<int>("exitCode");
-    QTest::addColumn<QString>("complaint");
-
-    const QString file = "The file \"mine/wall.ini\" cannot be read." + modulesAdvice();
-    const QString directory = "The directory \"mine\" cannot be read." + modulesAdvice();
-    QTest::newRow("everything may be read") << 5 << 4 << 0 << "";
-    QTest::newRow("file that may not be read") << 5 << 0 << 1 << file;
-    QTest::newRow("file that may only be written") << 7 << 2 << 1 << file;
-    QTest::newRow("directory that may not be read") << 1 << 4 << 1 << directory;
-    QTest::newRow("directory that may not be searched") << 4 << 4 << 1 << directory;
-    QTest::newRow("directory that may not be touched") << 0 << 4 << 1 << directory;
-}
-
-void tst_CommandLine::modulesThatMayNotBeRead()
-{
+    void modulesThatMayNotBeRead_data()
+    {
+        QTest::addColumn<int>("directoryRights");
+        QTest::addColumn<int>("fileRights");
+        QTest::addColumn<QString>("complaint");
+        const QString file = "The file \"mine/wall.ini\" cannot be read." + advice();
+        const QString directory = "The directory \"mine\" cannot be read." + advice();
+        QTest::newRow("everything may be read") << 5 << 4 << "";
+        QTest::newRow("file that may only be written") << 7 << 2 << file;
+        QTest::newRow("directory that may not be read") << 1 << 4 << directory;
+        QTest::newRow("directory that may not be searched") << 4 << 4 << directory;
+    }
+    void modulesThatMayNotBeRead()
+    {
 #ifndef Q_OS_UNIX
-    QSKIP("Permissions of this system say nothing about what a process may do.");
+        QSKIP("Permissions of this system say nothing about what a process may do.");
 #endif
-    QFETCH(int, directoryRights);
-    QFETCH(int, fileRights);
-    const TemporaryCurrentDirectory directory;
-    const QString user = boundOwner(directory.path());
-    QVERIFY(QDir().mkdir("mine"));
-    QVERIFY(QFile::copy(WORKBENCH_MODULES "/40-plane-wall.ini", "mine/wall.ini"));
-    setRights("mine/wall.ini", fileRights);
-    setRights("mine", directoryRights);
+        QFETCH(int, directoryRights);
+        QFETCH(int, fileRights);
+        QFETCH(QString, complaint);
+        const QString user = boundOwner();
+        QVERIFY(QDir().mkdir("mine"));
+        QVERIFY(QFile::copy(WORKBENCH_MODULES "/40-plane-wall.ini", "mine/wall.ini"));
+        setRights("mine/wall.ini", fileRights);
+        setRights("mine", directoryRights);
 
-    const Ending ending = run(directory.path(), { user, "--modules", "mine" }, WORKBENCH_AS_USER);
-    setRights("mine", 7);
+        run({ user, "--modules", "mine" }, WORKBENCH_AS_USER);
+        setRights("mine", 7);
 
-    QTEST(ending.complaint, "complaint");
-    QTEST(ending.exitCode, "exitCode");
-    QCOMPARE(ending.output, QString());
-}
+        QCOMPARE(m_complaint, complaint);
+        QCOMPARE(m_process.exitCode(), complaint.isEmpty() ? 0 : 1);
+        QCOMPARE(m_output, QString());
+    }
 
-/// With one module the list of tasks is that of its modes.
-void tst_CommandLine::modulesOfAnotherDirectory()
-{
-    const TemporaryCurrentDirectory directory;
-    QVERIFY(QDir().mkdir("mine"));
-    QVERIFY(QFile::copy(WORKBENCH_MODULES "/40-plane-wall.ini", "mine/wall.ini"));
+    void namedTaskOpensTheWindowAtOnce_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        using Arguments = QStringList;
+        QTest::newRow("plain name") << Arguments { "--task", "Workbench:Heat:Steady" };
+        QTest::newRow("translated name")
+            << Arguments { "--language", "zh_CN", "--task", "Workbench:传热:稳态" };
+        QTest::newRow("compiled modules, translated name")
+            << Arguments { "--compiled", "--language", "zh_CN", "--task", "Workbench:传热:稳态" };
+    }
+    void namedTaskOpensTheWindowAtOnce()
+    {
+        QFETCH(QStringList, arguments);
+        m_process.start(WORKBENCH_EXECUTABLE, arguments);
+        QVERIFY(m_process.waitForStarted());
+        // The window writes this line, so nothing asks for a task any more.
+        const auto isLogged = [] {
+            const QStringList files = filesIn("log");
+            return fileContent("log/" + files.value(0)).contains(" Task: Workbench:Heat:Steady\n");
+        };
+        QTRY_VERIFY_WITH_TIMEOUT(m_process.state() == QProcess::NotRunning || isLogged(), 30000);
+        QVERIFY2(isLogged(), m_process.readAllStandardError().constData());
+        QCOMPARE(m_process.state(), QProcess::Running);
 
-    const Ending ending = run(directory.path(), { "--modules", "mine", "--task", "none" });
+        m_process.kill();
+        QVERIFY(m_process.waitForFinished());
+        const QSettings update("Config/update.ini", QSettings::IniFormat);
+        QCOMPARE(update.value("Current/Name").toString(), QString("Workbench"));
+        QCOMPARE(update.value("Current/Version").toString(), QString(WORKBENCH_VERSION));
+    }
 
-    QCOMPARE(ending.exitCode, 1);
-    QCOMPARE(ending.complaint,
-             QStringLiteral("Unknown task: none\n"
-                            "Known tasks:\n  Workbench:Heat:Steady\n"
-                            "  Workbench:Heat:With convection\n"));
-}
+private:
+    /// Runs the program, the workbench where none is named, to its end.
+    void run(const QStringList &arguments, const char *program = WORKBENCH_EXECUTABLE)
+    {
+        m_process.start(program, arguments);
+        if (!m_process.waitForFinished()) {
+            m_process.kill();
+            m_process.waitForFinished();
+        }
+        QCOMPARE(m_process.exitStatus(), QProcess::NormalExit);
+        m_output = QString::fromUtf8(m_process.readAllStandardOutput());
+        m_complaint = QString::fromUtf8(m_process.readAllStandardError());
+    }
 
-void tst_CommandLine::unknownTaskListsTheKnownOnes_data()
-{
-    QTest::addColumn<QStringList>("options");
-    QTest::newRow("modules from files") << QStringList();
-    QTest::newRow("compiled modules") << QStringList { "--compiled" };
-}
-
-void tst_CommandLine::unknownTaskListsTheKnownOnes()
-{
-    QFETCH(QStringList, options);
-    const QTemporaryDir directory;
-
-    const Ending ending
-        = run(directory.path(), options + QStringList { "--task", "Workbench:Statics:Buckling" });
-
-    QCOMPARE(ending.exitCode, 1);
-    QCOMPARE(ending.output, QString());
-    const QStringList lines = ending.complaint.split(QLatin1Char('\n'));
-    QCOMPARE(lines.value(0), QStringLiteral("Unknown task: Workbench:Statics:Buckling"));
-    QCOMPARE(lines.value(1), QStringLiteral("Known tasks:"));
-    QCOMPARE(lines.value(2), QStringLiteral("  Workbench:Statics:Cantilever"));
-    QCOMPARE(lines.size(), 13); // ten tasks, and nothing after the last line end
-}
-
-void tst_CommandLine::chosenTaskOpensTheWindowAtOnce_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<QString>("task");
-
-    const QString task = QStringLiteral("--task");
-    QTest::newRow("plain name") << QStringList { task, QStringLiteral("Workbench:Heat:Steady") }
-                                << "Workbench:Heat:Steady";
-    QTest::newRow("translated name")
-        << QStringList { QStringLiteral("--language"), QStringLiteral("zh_CN"), task,
-                         QStringLiteral("Workbench:传热:稳态") }
-        << "Workbench:Heat:Steady";
-    QTest::newRow("compiled modules")
-        << QStringList { task, "Workbench:Heat:Steady", "--compiled" } << "Workbench:Heat:Steady";
-    QTest::newRow("compiled modules, translated name")
-        << QStringList { "--compiled", "--language", "zh_CN", task, "Workbench:传热:稳态" }
-        << "Workbench:Heat:Steady";
-}
-
-void tst_CommandLine::chosenTaskOpensTheWindowAtOnce()
-{
-    QFETCH(QStringList, arguments);
-    QFETCH(QString, task);
-    const TemporaryCurrentDirectory directory;
-    QVERIFY(directory.isUsable());
-
-    QProcess process;
-    process.start(QStringLiteral(WORKBENCH_EXECUTABLE), arguments);
-    QVERIFY(process.waitForStarted());
-    // The window writes this line, so nothing asks for a task any more.
-    const auto log = [] {
-        const QDir logs(QStringLiteral("log"));
-        const QStringList files = logs.entryList(QDir::Files);
-        return files.isEmpty() ? QByteArray() : fileContent(logs.filePath(files.first()));
-    };
-    const QString line = QStringLiteral(" Task: %1\n").arg(task);
-    QTRY_VERIFY_WITH_TIMEOUT(process.state() == QProcess::NotRunning
-                                 || log().contains(line.toUtf8()),
-                             30000);
-    QVERIFY2(log().contains(line.toUtf8()), process.readAllStandardError().constData());
-    QCOMPARE(process.state(), QProcess::Running);
-
-    process.kill();
-    QVERIFY(process.waitForFinished());
-    QVERIFY(QFile::exists(QStringLiteral("Config/update.ini")));
-}
+    QProcess m_process;
+    QString m_output;
+    QString m_complaint;
+};
 
 QTEST_GUILESS_MAIN(tst_CommandLine)
 #include "tst_commandline.moc"

@@ -10,24 +10,26 @@
 
 #include <Kelto/AUTH_INF>
 #include <Kelto/AUTH_SET>
+#include <Kelto/VIniSettings>
 
 #include <QLocale>
 #include <QtTest>
 
-#include "support/temporarycurrentdirectory.h"
+#include "support/directorytest.h"
+#include "support/testfiles.h"
+
+Q_DECLARE_METATYPE(AUTH_INF)
 
 namespace {
 
-/// Whether somebody who reads Chinese would take @p text for Chinese.
+using Modules = QVector<AUTH_INF>;
+/// A plain text, and what the user reads.
+using TextPairs = QVector<QPair<QString, QString>>;
+
 bool isChinese(const QString &text)
 {
     return std::any_of(text.cbegin(), text.cend(),
                        [](QChar c) { return c.script() == QChar::Script_Han; });
-}
-
-bool isPlain(const QString &text)
-{
-    return !text.isEmpty() && text == text.trimmed() && !isChinese(text);
 }
 
 QVector<QStringList> allEntries(const AUTH_INF &module)
@@ -38,299 +40,316 @@ QVector<QStringList> allEntries(const AUTH_INF &module)
     return entries;
 }
 
+/// Every text of a module that is shown; its descriptions beside those of its English twin.
+TextPairs textPairs(const AUTH_INF &module, const AUTH_INF &english)
+{
+    TextPairs pairs { { module.name, module.name_tr },
+                      { module.type, module.type_tr },
+                      { module.group, module.group_tr },
+                      { english.description, module.description } };
+    for (int mode = 0; mode < module.inner_mode_count; ++mode) {
+        pairs.append(
+            { module.inner_mode_nameList.value(mode), module.inner_mode_nameList_tr.value(mode) });
+        pairs.append({ english.inner_mode_description.value(mode),
+                       module.inner_mode_description.value(mode) });
+    }
+    const auto entries = allEntries(module);
+    for (const QStringList &entry : entries) {
+        pairs.append({ entry.value(Entry::Key), entry.value(Entry::TranslatedKey) });
+        pairs.append({ entry.value(Entry::Group), entry.value(Entry::TranslatedGroup) });
+    }
+    return pairs;
+}
+
+/// A value is a text from a file, and possibly a number from source text.
+QStringList extraTexts(const AUTH_INF &module)
+{
+    QStringList texts;
+    for (const VDataItem &extra : module.extraKey)
+        texts.append(extra.key + '=' + extra.value.toString());
+    return texts;
+}
+
+QStringList iniFilesIn(const QString &directory)
+{
+    return QDir(directory, "*.ini", QDir::Name, QDir::Files | QDir::CaseSensitive).entryList();
+}
+
 } // namespace
 
-class tst_Modules : public QObject
+/// The modules from the files and those that were compiled in, both in Chinese and in English, and
+/// files that are not as they should be.
+class tst_Modules : public DirectoryTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-
-    void offer();
-    void englishTextsStayAsTheyAre();
-
-    void listsHaveOneEntryPerMode_data();
-    void listsHaveOneEntryPerMode();
-    void entriesHaveNineStrings_data();
-    void entriesHaveNineStrings();
-    void plainAndChineseTextsDiffer_data();
-    void plainAndChineseTextsDiffer();
-    void keysCanBeStoredInFiles_data();
-    void keysCanBeStoredInFiles();
-    void oneKeyIsDescribedInOneWay_data();
-    void oneKeyIsDescribedInOneWay();
-    void unitsAreKnown_data();
-    void unitsAreKnown();
-    void everyModeComputes_data();
-    void everyModeComputes();
-    void everyResultBelongsToAMode_data();
-    void everyResultBelongsToAMode();
-
-    void registryOffersTheModes();
-    void entriesOfTheWrongLengthAreLeftAlone();
-
-private:
-    void addModules() const;
-
-    QVector<AUTH_INF> m_english;
-    QVector<AUTH_INF> m_chinese;
-};
-
-void tst_Modules::initTestCase()
-{
-    installTranslations(QLocale(QStringLiteral("en")));
-    m_english = compiledModules();
-    installTranslations(QLocale(QStringLiteral("zh_CN")));
-    m_chinese = compiledModules();
-    QCOMPARE(m_english.size(), m_chinese.size());
-}
-
-/// One row per module, in Chinese.
-void tst_Modules::addModules() const
-{
-    QTest::addColumn<int>("index");
-    for (int i = 0; i < m_chinese.size(); ++i)
-        QTest::newRow(qPrintable(m_chinese.at(i).name)) << i;
-}
-
-void tst_Modules::offer()
-{
-    QStringList modules;
-    for (const AUTH_INF &module : qAsConst(m_english)) {
-        modules.append(QStringLiteral("%1 (%2%3): %4")
-                           .arg(module.name, module.group,
-                                module.exclusive_group ? QStringLiteral(", exclusive") : QString(),
-                                module.inner_mode_nameList.join(QStringLiteral(", "))));
-        QCOMPARE(module.type, QStringLiteral("calculation"));
+    void initTestCase()
+    {
+        // The language that was installed last is in force.
+        for (const char *language : { "en", "zh_CN" }) {
+            installTranslations(QLocale(language));
+            const auto files = modulesFromFiles(WORKBENCH_MODULES);
+            QCOMPARE(files.problem, QString());
+            QCOMPARE(files.result.size(), 5);
+            QCOMPARE(compiledModules().size(), 5);
+            m_modules.append({ files.result, compiledModules() });
+        }
     }
-    const QStringList expected {
-        QStringLiteral(
-            "Beam (Statics, exclusive): Cantilever, Simply supported, Fixed at both ends"),
-        QStringLiteral("Helical spring (Statics, exclusive): Compression, Extension, Torsion"),
-        QStringLiteral("Pressure vessel (Vessels, exclusive): Thin wall, Thick wall"),
-        QStringLiteral("Plane wall (Heat, exclusive): Steady, With convection"),
-        QStringLiteral("Update (Tools): Update"),
-    };
-    QCOMPARE(modules, expected);
-}
 
-void tst_Modules::englishTextsStayAsTheyAre()
-{
-    for (const AUTH_INF &module : qAsConst(m_english)) {
-        QCOMPARE(module.name_tr, module.name);
-        QCOMPARE(module.type_tr, module.type);
-        QCOMPARE(module.group_tr, module.group);
-        QCOMPARE(module.inner_mode_nameList_tr, module.inner_mode_nameList);
+    void offer_data() { addSources(); }
+    void offer()
+    {
+        QFETCH(int, source);
+        const Modules modules = m_modules.at(English).at(source);
+        QStringList offer;
+        for (const AUTH_INF &module : modules)
+            offer.append(QString("%1, %2 (%3%4): %5")
+                             .arg(module.name, module.type, module.group,
+                                  module.exclusive_group ? ", exclusive" : "",
+                                  module.inner_mode_nameList.join(", ")));
+        const QStringList expected {
+            "Beam, calculation (Statics, exclusive): Cantilever, Simply supported, Fixed at both "
+            "ends",
+            "Helical spring, calculation (Statics, exclusive): Compression, Extension, Torsion",
+            "Pressure vessel, calculation (Vessels, exclusive): Thin wall, Thick wall",
+            "Plane wall, calculation (Heat, exclusive): Steady, With convection",
+            "Update, calculation (Tools): Update",
+        };
+        QCOMPARE(offer, expected);
+        // So that no field is empty on both sides where files and compiled modules are compared.
+        const AUTH_INF wall = modules.at(3);
+        QCOMPARE(wall.number, 40);
+        QCOMPARE(wall.icon, QString("plane-wall"));
+        QCOMPARE(wall.lib_name, (QStringList { "buildingmaterials", "insulation" }));
+        QCOMPARE(extraTexts(wall), (QStringList { "Edition=2017", "Standard=ISO 6946" }));
+    }
+
+    void filesAndCompiledModulesAreEqual()
+    {
+        for (const auto &sources : qAsConst(m_modules)) {
+            for (int i = 0; i < 5; ++i) {
+                const AUTH_INF &file = sources.at(Files).at(i);
+                const AUTH_INF &compiled = sources.at(Compiled).at(i);
+                // The source text of a module holds all of it but the translated names.
+                QCOMPARE(compiled.to_code(), file.to_code());
+                QCOMPARE(textPairs(compiled, compiled), textPairs(file, file));
+            }
+        }
+    }
+
+    void textsAreTranslated_data() { addSources(); }
+    void textsAreTranslated()
+    {
+        QFETCH(int, source);
+        for (int i = 0; i < 5; ++i) {
+            const AUTH_INF &english = m_modules.at(English).at(source).at(i);
+            const auto untranslated = textPairs(english, english);
+            for (const auto &pair : untranslated)
+                QCOMPARE(pair.second, pair.first);
+            const auto pairs = textPairs(m_modules.at(Chinese).at(source).at(i), english);
+            for (const auto &pair : pairs) {
+                QVERIFY2(!pair.first.isEmpty() && pair.first == pair.first.trimmed()
+                             && !isChinese(pair.first),
+                         qPrintable(pair.first));
+                QVERIFY2(isChinese(pair.second), qPrintable(pair.first));
+            }
+        }
+    }
+
+    void everyTranslationIsFinished()
+    {
+        const QByteArray translations = fileContent(WORKBENCH_TRANSLATIONS);
+        QVERIFY(translations.count("<translation>") > 100);
+        QCOMPARE(translations.count("<translation type="), 0);
+        QCOMPARE(translations.count("<translation></translation>"), 0);
+    }
+
+    void modesAreDescribed_data() { addModules(); }
+    void modesAreDescribed()
+    {
+        QFETCH(AUTH_INF, module);
+        QCOMPARE(module.inner_mode_nameList.size(), module.inner_mode_count);
+        QCOMPARE(module.inner_mode_nameList_tr.size(), module.inner_mode_count);
+        QCOMPARE(module.inner_mode_description.size(), module.inner_mode_count);
+        QCOMPARE(module.inner_mode_parameterList.size(), module.inner_mode_count);
+        // Standard mode names have colons between their parts.
+        const QStringList names = module.inner_mode_nameList + module.inner_mode_nameList_tr
+            + QStringList { module.group, module.group_tr };
+        QVERIFY(!names.join(' ').contains(':'));
+    }
+
+    void entriesAreWhole_data() { addModules(); }
+    void entriesAreWhole()
+    {
+        QFETCH(AUTH_INF, module);
+        QMap<QString, QStringList> byKey;
         const auto entries = allEntries(module);
         for (const QStringList &entry : entries) {
-            QCOMPARE(entry.at(Entry::TranslatedKey), entry.at(Entry::Key));
-            QCOMPARE(entry.at(Entry::TranslatedGroup), entry.at(Entry::Group));
+            QCOMPARE(entry.size(), 9);
+            const QString text = entry.join('|');
+            QVERIFY2(!entry.contains(QString()), qPrintable(text));
+            QVERIFY2((QStringList { "true", "false" }).contains(entry.at(Entry::Multi)),
+                     qPrintable(text));
+            QVERIFY2(siFactor(entry.at(Entry::Unit)) > 0, qPrintable(text));
+            QVERIFY2(siFactor(entry.at(Entry::SiUnit)) == 1, qPrintable(text));
+            // In INI files a slash separates the section from the key.
+            const QString key = entry.at(Entry::Key);
+            QVERIFY2(!key.contains('/'), qPrintable(text));
+            // A file describes a key once for all modes, parameters and results.
+            QCOMPARE(entry, byKey.value(key, entry));
+            byKey.insert(key, entry);
+        }
+        QCOMPARE(byKey.isEmpty(), module.name == "Update");
+    }
+
+    void everyResultBelongsToAMode_data() { addModules(); }
+    void everyResultBelongsToAMode()
+    {
+        QFETCH(AUTH_INF, module);
+        QStringList computed;
+        for (const QString &mode : qAsConst(module.inner_mode_nameList)) {
+            const QStringList keys = Calculator::resultKeys(module, mode);
+            QCOMPARE(keys.isEmpty(), module.name == "Update");
+            computed += keys;
+        }
+        for (const QStringList &entry : qAsConst(module.output_results))
+            QVERIFY2(computed.contains(entry.at(Entry::Key)), qPrintable(entry.at(Entry::Key)));
+        QCOMPARE(module.output_results.isEmpty(), module.name == "Update");
+    }
+
+    void registryOffersTheModes()
+    {
+        const AUTH_SET registry("Workbench", "1", m_modules.at(Chinese).at(Files));
+        const auto modes = registry.currentModeList();
+        QCOMPARE(modes.size(), 10);
+        QCOMPARE(modes.first().first, QString("Workbench:Statics:Cantilever"));
+        QCOMPARE(modes.last().second, QString("Workbench:传热:带对流"));
+        // Modes of one name would share an entry in the dialog.
+        const QStringList groups = registry.exclusive_group_namelist();
+        for (const QString &group : groups)
+            QCOMPARE(registry.exclusive_group_inner_mode_namelist_at(group).size(),
+                     registry.exclusive_group_mode_count(group));
+        QVERIFY(QFile::exists(registry.filepath_update_inf()));
+    }
+
+    void entriesOfTheWrongLengthAreLeftAlone()
+    {
+        AUTH_INF module = m_modules.at(English).at(Files).first();
+        const QStringList stub { "Geometry", "Length" };
+        module.output_results = { stub };
+        module.inner_mode_parameterList = { { stub, QStringList() } };
+
+        translateTexts(module);
+
+        QCOMPARE(module.output_results.first(), stub);
+        QCOMPARE(module.inner_mode_parameterList.first().first(), stub);
+        QCOMPARE(module.name_tr, QString("梁"));
+    }
+
+    /// Under the names and with the content of today's files, also after one was renamed or
+    /// removed.
+    void copiesBesideTheProgramAreEqual()
+    {
+        const QStringList names = iniFilesIn(WORKBENCH_MODULES);
+        QCOMPARE(iniFilesIn(WORKBENCH_MODULE_COPIES), names);
+        for (const QString &name : names)
+            QCOMPARE(fileContent(WORKBENCH_MODULE_COPIES "/" + name),
+                     fileContent(WORKBENCH_MODULES "/" + name));
+    }
+
+    /// Only as many results are read as "output_results" lists, so it must not be shorter.
+    void everyResultOfAFileIsRead()
+    {
+        const QStringList names = iniFilesIn(WORKBENCH_MODULES);
+        for (int i = 0; i < names.size(); ++i) {
+            const VIniSettings file(WORKBENCH_MODULES "/" + names.at(i));
+            QStringList listed = file.value("KeltoItem/output_results").toStringList();
+            QStringList described = file.allKeys("Result");
+            described.replaceInStrings("Result/", QString());
+            QStringList read;
+            for (const QStringList &entry : m_modules.at(English).at(Files).at(i).output_results)
+                read.append(entry.at(Entry::Key));
+            QCOMPARE(read, described);
+            listed.sort();
+            described.sort();
+            QCOMPARE(listed, described);
         }
     }
-}
 
-void tst_Modules::listsHaveOneEntryPerMode_data()
-{
-    addModules();
-}
+    void orderIsThatOfTheFileNames()
+    {
+        QVERIFY(writeFile("2.ini", "[KeltoItem]\nname=second\n"));
+        QVERIFY(writeFile("10.ini", "[KeltoItem]\nname=first\n"));
+        for (const char *name : { "1.txt", "4.INI", "5.Ini", ".6.ini", "7.ini.bak" })
+            QVERIFY(writeFile(name, "[KeltoItem]\nname=no module\n"));
+        QVERIFY(QDir().mkdir("3.ini"));
 
-void tst_Modules::listsHaveOneEntryPerMode()
-{
-    QFETCH(int, index);
-    const AUTH_INF &module = m_chinese.at(index);
-    QCOMPARE(module.inner_mode_nameList.size(), module.inner_mode_count);
-    QCOMPARE(module.inner_mode_nameList_tr.size(), module.inner_mode_count);
-    QCOMPARE(module.inner_mode_description.size(), module.inner_mode_count);
-    QCOMPARE(module.inner_mode_parameterList.size(), module.inner_mode_count);
-}
+        const auto modules = modulesFromFiles(".");
 
-void tst_Modules::entriesHaveNineStrings_data()
-{
-    addModules();
-}
-
-void tst_Modules::entriesHaveNineStrings()
-{
-    QFETCH(int, index);
-    const auto entries = allEntries(m_chinese.at(index));
-    const QStringList truths { QStringLiteral("true"), QStringLiteral("false") };
-    for (const QStringList &entry : entries) {
-        QCOMPARE(entry.size(), 9);
-        QVERIFY2(!entry.contains(QString()), qPrintable(entry.join(QLatin1Char('|'))));
-        QVERIFY2(truths.contains(entry.at(Entry::Multi)), qPrintable(entry.at(Entry::Multi)));
+        QCOMPARE(modules.problem, QString());
+        QCOMPARE(modules.result.size(), 2);
+        QCOMPARE(modules.result.at(0).name, QString("first"));
+        QCOMPARE(modules.result.at(1).name, QString("second"));
     }
-}
 
-void tst_Modules::plainAndChineseTextsDiffer_data()
-{
-    addModules();
-}
-
-void tst_Modules::plainAndChineseTextsDiffer()
-{
-    QFETCH(int, index);
-    const AUTH_INF &module = m_chinese.at(index);
-    QVector<QPair<QString, QString>> pairs {
-        { module.name, module.name_tr },
-        { module.type, module.type_tr },
-        { module.group, module.group_tr },
-        { m_english.at(index).description, module.description },
-    };
-    for (int mode = 0; mode < module.inner_mode_count; ++mode) {
-        pairs.append(
-            { module.inner_mode_nameList.at(mode), module.inner_mode_nameList_tr.at(mode) });
-        pairs.append({ m_english.at(index).inner_mode_description.at(mode),
-                       module.inner_mode_description.at(mode) });
+    void problems_data()
+    {
+        QTest::addColumn<QString>("directory");
+        QTest::addColumn<QString>("problem");
+        const QString noDirectory = "There is no directory \"%1\".";
+        const QString noFiles = "The directory \"%1\" holds no files *.ini.";
+        const QString noModule = "The file \"%1/2.ini\" holds no module: the section \"KeltoItem\" "
+                                 "with a \"name\" is missing.";
+        QTest::newRow("missing directory") << "missing" << noDirectory;
+        QTest::newRow("file instead of a directory") << "blank/1.ini" << noDirectory;
+        QTest::newRow("directory without files") << "empty" << noFiles;
+        QTest::newRow("file with an ending in upper case") << "shouted" << noFiles;
+        QTest::newRow("file that is no INI file") << "rubbish" << noModule;
+        QTest::newRow("first empty file of several") << "blank" << noModule;
+        QTest::newRow("module without a name") << "nameless" << noModule;
     }
-    const auto entries = allEntries(module);
-    for (const QStringList &entry : entries) {
-        pairs.append({ entry.at(Entry::Key), entry.at(Entry::TranslatedKey) });
-        pairs.append({ entry.at(Entry::Group), entry.at(Entry::TranslatedGroup) });
+    void problems()
+    {
+        QFETCH(QString, directory);
+        QFETCH(QString, problem);
+        QVERIFY(QDir().mkdir("empty"));
+        QVERIFY(writeFile("shouted/A.INI", "[KeltoItem]\nname=no module\n"));
+        QVERIFY(writeFile("rubbish/2.ini", "\1\2[no section\nno key"));
+        QVERIFY(writeFile("blank/1.ini", "[KeltoItem]\nname=good\n"));
+        QVERIFY(writeFile("blank/2.ini", ""));
+        QVERIFY(writeFile("blank/3.ini", ""));
+        QVERIFY(writeFile("nameless/2.ini", "[KeltoItem]\nname=\ntype=calculation\n"));
+
+        const auto modules = modulesFromFiles(directory);
+
+        QCOMPARE(modules.problem, problem.arg(directory));
+        QVERIFY(modules.result.isEmpty());
+        QVERIFY(!QFile::exists("missing"));
     }
-    for (const auto &pair : qAsConst(pairs)) {
-        QVERIFY2(isPlain(pair.first), qPrintable(pair.first));
-        QVERIFY2(isChinese(pair.second), qPrintable(pair.first));
+
+private:
+    enum Language { English, Chinese };
+    enum Source { Files, Compiled };
+
+    static void addSources()
+    {
+        QTest::addColumn<int>("source");
+        QTest::newRow("modules from files") << int(Files);
+        QTest::newRow("compiled modules") << int(Compiled);
     }
-}
 
-void tst_Modules::keysCanBeStoredInFiles_data()
-{
-    addModules();
-}
-
-/// "/" separates sections from keys in INI files, and ":" the parts of standard mode names.
-void tst_Modules::keysCanBeStoredInFiles()
-{
-    QFETCH(int, index);
-    const AUTH_INF &module = m_chinese.at(index);
-    const auto entries = allEntries(module);
-    for (const QStringList &entry : entries)
-        QVERIFY2(!entry.at(Entry::Key).contains(QLatin1Char('/')),
-                 qPrintable(entry.at(Entry::Key)));
-    const QStringList names = module.inner_mode_nameList + module.inner_mode_nameList_tr
-        + QStringList { module.group, module.group_tr };
-    for (const QString &name : names)
-        QVERIFY2(!name.contains(QLatin1Char(':')), qPrintable(name));
-}
-
-void tst_Modules::oneKeyIsDescribedInOneWay_data()
-{
-    addModules();
-}
-
-/// A file describes each key of a module once, for all modes and for parameters and results alike.
-void tst_Modules::oneKeyIsDescribedInOneWay()
-{
-    QFETCH(int, index);
-    QMap<QString, QStringList> byKey;
-    const auto entries = allEntries(m_chinese.at(index));
-    for (const QStringList &entry : entries) {
-        const QString key = entry.at(Entry::Key);
-        if (byKey.contains(key))
-            QCOMPARE(entry, byKey.value(key));
-        byKey.insert(key, entry);
+    /// One row per module.
+    void addModules() const
+    {
+        QTest::addColumn<AUTH_INF>("module");
+        for (const AUTH_INF &module : m_modules.at(Chinese).at(Files))
+            QTest::newRow(qPrintable(module.name)) << module;
     }
-    QCOMPARE(byKey.isEmpty(), m_chinese.at(index).name == QLatin1String("Update"));
-}
 
-void tst_Modules::unitsAreKnown_data()
-{
-    addModules();
-}
-
-void tst_Modules::unitsAreKnown()
-{
-    QFETCH(int, index);
-    const auto entries = allEntries(m_chinese.at(index));
-    for (const QStringList &entry : entries) {
-        QVERIFY2(siFactor(entry.at(Entry::Unit)) > 0, qPrintable(entry.at(Entry::Unit)));
-        QVERIFY2(siFactor(entry.at(Entry::SiUnit)) == 1, qPrintable(entry.at(Entry::SiUnit)));
-    }
-}
-
-void tst_Modules::everyModeComputes_data()
-{
-    addModules();
-}
-
-void tst_Modules::everyModeComputes()
-{
-    QFETCH(int, index);
-    const AUTH_INF &module = m_chinese.at(index);
-    for (const QString &mode : module.inner_mode_nameList) {
-        NumbersByKey values;
-        for (const QStringList &entry :
-             module.inner_mode_parameterList.at(module.inner_mode_nameList.indexOf(mode))) {
-            const bool several = entry.at(Entry::Multi) == QLatin1String("true");
-            const auto value
-                = valueFromText(Calculator::defaultText(entry.at(Entry::Key)), several);
-            QVERIFY2(value.isValid(), qPrintable(entry.at(Entry::Key) + value.problem));
-            values.insert(entry.at(Entry::Key), numbersFromValue(value.result, several));
-        }
-        const auto outcome = Calculator::calculate(module, mode, values);
-        const bool isCalculation = module.name != QLatin1String("Update");
-        QVERIFY2(outcome.isValid() == isCalculation, qPrintable(outcome.problem));
-
-        QStringList keys = Calculator::resultKeys(module, mode);
-        keys.sort();
-        QCOMPARE(QStringList(outcome.result.keys()), keys);
-        QCOMPARE(keys.isEmpty(), !isCalculation);
-    }
-}
-
-void tst_Modules::everyResultBelongsToAMode_data()
-{
-    addModules();
-}
-
-void tst_Modules::everyResultBelongsToAMode()
-{
-    QFETCH(int, index);
-    const AUTH_INF &module = m_chinese.at(index);
-    QStringList computed;
-    for (const QString &mode : module.inner_mode_nameList)
-        computed += Calculator::resultKeys(module, mode);
-    for (const QStringList &entry : module.output_results)
-        QVERIFY2(computed.contains(entry.at(Entry::Key)), qPrintable(entry.at(Entry::Key)));
-    QCOMPARE(computed.isEmpty(), module.output_results.isEmpty());
-}
-
-void tst_Modules::registryOffersTheModes()
-{
-    const TemporaryCurrentDirectory directory;
-    QVERIFY(directory.isUsable());
-    const AUTH_SET registry(QStringLiteral("Workbench"), QStringLiteral("1"), m_chinese);
-
-    const auto modes = registry.currentModeList();
-
-    QCOMPARE(modes.size(), 10);
-    QCOMPARE(modes.first().first, QStringLiteral("Workbench:Statics:Cantilever"));
-    QCOMPARE(modes.first().second, QStringLiteral("Workbench:静力学:悬臂"));
-    QCOMPARE(modes.last().first, QStringLiteral("Workbench:Heat:With convection"));
-    QCOMPARE(modes.last().second, QStringLiteral("Workbench:传热:带对流"));
-    // Distinct names, or two modes would share an entry in the dialog.
-    const QStringList groups = registry.exclusive_group_namelist();
-    for (const QString &group : groups) {
-        QCOMPARE(registry.exclusive_group_inner_mode_namelist_at(group).size(),
-                 registry.exclusive_group_mode_count(group));
-    }
-    QVERIFY(QFile::exists(registry.filepath_update_inf()));
-}
-
-void tst_Modules::entriesOfTheWrongLengthAreLeftAlone()
-{
-    AUTH_INF module = m_english.first();
-    const QStringList stub { QStringLiteral("Geometry"), QStringLiteral("Length") };
-    module.output_results = { stub };
-    module.inner_mode_parameterList = { { stub, QStringList() } };
-
-    translateTexts(module);
-
-    QCOMPARE(module.output_results.first(), stub);
-    QCOMPARE(module.inner_mode_parameterList.first().first(), stub);
-    QCOMPARE(module.name_tr, QStringLiteral("梁"));
-}
+    /// By language and source.
+    QVector<QVector<Modules>> m_modules;
+};
 
 QTEST_GUILESS_MAIN(tst_Modules)
 #include "tst_modules.moc"
