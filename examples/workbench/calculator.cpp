@@ -21,7 +21,7 @@ struct Texts
     Q_DECLARE_TR_FUNCTIONS(Calculator)
 };
 
-/// Values in SI units on the way into a formula.
+/// The input of a formula, in SI units.
 class Input
 {
 public:
@@ -37,7 +37,7 @@ private:
     NumbersByKey m_values;
 };
 
-/// Results in SI units on the way back.
+/// The results of a formula, in SI units.
 class Output
 {
 public:
@@ -288,7 +288,7 @@ QStringList Calculator::resultKeys(const AUTH_INF &module, const QString &mode)
     if (!calculation)
         return {};
 
-    // A calculation names its results even when it refuses the input, here none at all.
+    // A calculation names its results even when it refuses its input, here an empty one.
     const NumbersByKey computed = calculation(Input({})).result;
     QStringList keys;
     for (const QStringList &entry : module.output_results) {

@@ -17,15 +17,15 @@ class AUTH_INF;
 using NumbersByKey = QMap<QString, QVector<double>>;
 
 /// Joins the module descriptions to the formulas: which mode is computed by which calculation, and
-/// which key stands for which quantity. Only plain names are used, so that it works alike in every
-/// language.
+/// which key stands for which quantity. It uses plain names only and so works the same
+/// in every language.
 namespace Calculator {
 
 /// The value that a parameter starts with, as the user would type it in the unit of its entry.
 QString defaultText(const QString &key);
 
 /// Computes one inner mode of a module. Values go in and out in the units of the module's entries;
-/// every value that the mode declares has to be there.
+/// every value that the mode declares must be present.
 Outcome<NumbersByKey> calculate(const AUTH_INF &module, const QString &mode,
                                 const NumbersByKey &values);
 

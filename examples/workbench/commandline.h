@@ -13,7 +13,7 @@ struct Options
 {
     QString language;
     QString task;
-    /// The directory of the module files; of no consequence with compiled modules.
+    /// The directory of the module files; ignored with compiled modules.
     QString modules;
     bool compiled = false;
 };

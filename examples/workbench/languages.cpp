@@ -24,7 +24,7 @@ void installTranslations(const QLocale &locale)
 {
     // The resources of a static library have to be named once, or the linker leaves them out.
     Q_INIT_RESOURCE(workbench_translations);
-    // Kelto brings the texts of its dialog along.
+    // Kelto contains the translations of its dialog.
     install(locale, QStringLiteral("kelto"), QStringLiteral(":/kelto/translations"));
     install(locale, QStringLiteral("workbench"), QStringLiteral(":/workbench/translations"));
 }

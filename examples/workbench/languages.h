@@ -6,8 +6,8 @@
 
 class QLocale;
 
-/// Lets the program speak the language of @p locale, as far as there is a translation; whatever has
-/// none stays English. To be called once, after the QApplication was made and before anything else.
+/// Installs the translations for the language of @p locale; texts without one stay English. To be
+/// called once, after the QApplication was made and before any text is looked up.
 void installTranslations(const QLocale &locale);
 
 #endif

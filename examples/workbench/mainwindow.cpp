@@ -26,7 +26,7 @@ namespace {
 
 enum Column { NameColumn, SymbolColumn, ValueColumn, UnitColumn, GroupColumn };
 
-/// Makes a table that is as high as its rows and gives the values the room that is left.
+/// A table as high as its rows, in which the column of the values takes the remaining width.
 QTableWidget *newTable(const QString &objectName, const QStringList &header)
 {
     auto *table = new QTableWidget(0, header.size());
@@ -45,14 +45,14 @@ QTableWidget *newTable(const QString &objectName, const QStringList &header)
     return table;
 }
 
-/// Gives equal columns of both tables one width, in which the texts of either fit.
+/// Gives each column but that of the values the same width in both tables.
 void alignColumns(QTableWidget *first, QTableWidget *second)
 {
     const int gap = first->fontMetrics().horizontalAdvance(QLatin1Char('m'));
     for (const int column : { NameColumn, SymbolColumn, UnitColumn, GroupColumn }) {
         int width = 0;
         for (const QTableWidget *table : { first, second }) {
-            const QAbstractItemView *view = table; // where the size hint is public
+            const QAbstractItemView *view = table; // declares the size hint public
             width = std::max({ width, table->horizontalHeader()->sectionSizeHint(column),
                                view->sizeHintForColumn(column) });
         }
@@ -124,7 +124,7 @@ MainWindow::MainWindow(AUTH_SET *registry)
     connect(m_chooseTask, &QPushButton::clicked, this, &MainWindow::chooseTask);
     connect(m_parameters, &QTableWidget::cellChanged, this, &MainWindow::takeValue);
     showTask();
-    // Room for the longest task in its defaults, whatever the font.
+    // The longest task fits with its default values, whatever the font.
     const QFontMetrics metrics = fontMetrics();
     setMinimumWidth(100 * metrics.averageCharWidth());
     resize(120 * metrics.averageCharWidth(), 36 * metrics.height());

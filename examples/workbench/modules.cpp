@@ -14,7 +14,7 @@ namespace {
 
 Outcome<AUTH_INF> moduleFromFile(const QFileInfo &file)
 {
-    // Kelto reads a file that it cannot read as an empty one.
+    // Kelto treats a file that it cannot read as an empty one.
     if (!file.isReadable())
         return { {}, QStringLiteral("The file \"%1\" cannot be read.").arg(file.filePath()) };
     AUTH_INF module;
@@ -40,10 +40,10 @@ Outcome<QVector<AUTH_INF>> modulesFromFiles(const QString &directory)
     const QFileInfo info(directory);
     if (!info.isDir())
         return { {}, QStringLiteral("There is no directory \"%1\".").arg(directory) };
-    // What may be listed but not searched gives names without files.
+    // Without the right to search it, Qt still lists the names, but not the files behind them.
     if (!info.isReadable() || !info.isExecutable())
         return { {}, QStringLiteral("The directory \"%1\" cannot be read.").arg(directory) };
-    // The build reads files with the same names.
+    // The build takes the same files.
     const auto files = QDir(directory).entryInfoList({ QStringLiteral("*.ini") },
                                                      QDir::Files | QDir::CaseSensitive, QDir::Name);
     if (files.isEmpty())

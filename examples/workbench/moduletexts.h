@@ -16,7 +16,7 @@ class ModuleTexts
 };
 
 /// Fills in everything of a module that is shown to the user in the language of the program: the
-/// descriptions and the "_tr" twin of every name, unit aside. The texts are looked up in the
+/// descriptions and the "_tr" form of every name, but no units. The texts are looked up in the
 /// translation context AUTH_INF::trObjectName; one without a translation stays as it is.
 void translateTexts(AUTH_INF &module);
 

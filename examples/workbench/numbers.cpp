@@ -66,6 +66,6 @@ QVector<double> numbersFromValue(const QVariant &value, bool several)
 QString textFromNumbers(QVector<double> numbers)
 {
     for (double &number : numbers)
-        number += 0.0; // which takes the sign off a negative zero
+        number += 0.0; // turns a negative zero into a positive one
     return KeltoItemParameterTransform::from_array(numbers).join(QStringLiteral("; "));
 }

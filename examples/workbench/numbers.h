@@ -10,7 +10,7 @@
 #include <QVariant>
 #include <QVector>
 
-/// One unit of @p unit in SI units, 0.001 for "mm"; 0 for a unit that the workbench does not know.
+/// The factor from @p unit to SI units, such as 0.001 for "mm"; 0 for an unknown unit.
 /// Temperatures stay in degrees Celsius.
 double siFactor(const QString &unit);
 

@@ -21,7 +21,7 @@ struct Task
     AUTH_INF module;
     QPair<QString, QString> mode;
     QString description;
-    /// Sorted by plain name, as Kelto hands them out.
+    /// Sorted by plain name, as Kelto returns them.
     QVector<VParameter> parameters;
     QVector<VParameter> results;
 

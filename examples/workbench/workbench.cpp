@@ -28,7 +28,7 @@ QVector<AUTH_INF> modulesFor(const Options &options)
     return modules.result;
 }
 
-/// The modules hold texts in the language of the program, so that comes first.
+/// Installs the translations first: the texts of the modules are looked up when these are read.
 AUTH_SET registryFor(const Options &options)
 {
     installTranslations(options.language.isEmpty() ? QLocale() : QLocale(options.language));

@@ -8,7 +8,7 @@
 #include <QString>
 #include <QVector>
 
-/// Collects the first thing that is wrong with the input of a calculation. Quantities are named by
+/// Keeps the first problem found in the input of a calculation. Quantities are named by
 /// the key of their parameter, so that the message uses the same (translated) name as the screen.
 class InputCheck
 {
@@ -23,7 +23,7 @@ public:
     /// For results: input that is valid value by value may still leave the range of numbers.
     InputCheck &finite(const QVector<double> &results);
 
-    /// Empty as long as everything is right.
+    /// Empty as long as no check has failed.
     QString problem() const { return m_problem; }
     bool isPassed() const { return m_problem.isEmpty(); }
 
