@@ -1,96 +1,166 @@
 // SPDX-FileCopyrightText: The Kelto developers
 // SPDX-License-Identifier: MIT
 
-// Loading and saving settings. QSettings keeps what it has read until the file changes, so that
-// every run gets a file that has changed.
+// QSettings keeps what it has read until the file changes, so that every run gets a file that has
+// changed.
 
-#include "filebenchmarks.h"
-
-#include "benchmarkfile.h"
+#include "input.h"
 #include "models/plainfile.h"
-#include "settingsinput.h"
-#include "sides.h"
+#include "models/plainitems.h"
+#include "suite.h"
 
 #include <Kelto/AUTH_SET>
 #include <Kelto/VIniSettings>
 
-#include <QHash>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
 
-#ifdef KELTO_BENCHMARKS_KCONFIG
+#ifdef KELTO_BENCHMARK_KCONFIG
 #include <KConfig>
 #include <KConfigGroup>
 #endif
 
 namespace {
 
-struct Saved
+// --- Files -----------------------------------------------------------------------------
+
+/// What is saved, and a file of its own for it.
+template <typename Content> struct Saved
 {
-    BenchmarkFile file;
-    Entries entries;
+    Content content;
+    std::shared_ptr<QTemporaryDir> directory = std::make_shared<QTemporaryDir>();
+    qint64 seconds = 1000000000;
+
+    QString path() const { return directory->filePath(QStringLiteral("benchmark.ini")); }
 };
 
-Entries loadWithLibrary(const QString &path)
-{
-    VIniSettings store;
-    store.setPath(path);
-    return store.data();
-}
+constexpr auto removeFile = [](auto &saved) { QFile::remove(saved.path()); };
 
-Entries loadWithRegistry(const QString &path)
-{
-    static const AUTH_SET registry;
-    Entries entries;
-    registry.load(path, &entries);
-    return entries;
-}
+/// Gives the file a time that it never had, so that it counts as changed.
+constexpr auto touchFile = [](auto &saved) {
+    QFile file(saved.path());
+    file.open(QIODevice::ReadWrite);
+    file.setFileTime(QDateTime::fromSecsSinceEpoch(++saved.seconds), QFile::FileModificationTime);
+};
 
-void saveWithRegistry(const QString &path, const Entries &entries)
-{
-    static const AUTH_SET registry;
-    registry.save(path, &entries);
-}
+// --- Who reads and writes settings -------------------------------------------------------
 
-void saveWithLibrary(const QString &path, const Entries &entries)
-{
-    VIniSettings(entries).saveLocal(path);
-}
+/// The key that is changed in a file, and its new value.
+const QString changedKey = QStringLiteral("group 0/key 0");
+const QString changedText = QStringLiteral("changed");
 
-#ifdef KELTO_BENCHMARKS_KCONFIG
-Entries loadWithKConfig(const QString &path)
+struct Store
 {
-    const KConfig config(path, KConfig::SimpleConfig);
-    Entries entries;
-    const QStringList groups = config.groupList();
-    for (const QString &group : groups) {
-        const KConfigGroup section = config.group(group);
-        const QStringList keys = section.keyList();
+    static Entries load(const QString &path) { return VIniSettings(path).data(); }
+    static void save(const QString &path, const Entries &entries)
+    {
+        VIniSettings(entries).saveLocal(path);
+    }
+    static void change(const QString &path)
+    {
+        VIniSettings store(path);
+        const QStringList keys = store.allKeys();
         for (const QString &key : keys)
-            entries.append({ key, section.readEntry(key, QString()) });
+            benchmark::DoNotOptimize(store.value(key));
+        store.setValue(changedKey, changedText);
+        store.saveLocal();
     }
-    return entries;
-}
+};
 
-void saveWithKConfig(const QString &path, const Entries &entries)
+struct Registry
 {
-    KConfig config(path, KConfig::SimpleConfig);
-    for (const auto &entry : entries) {
-        const int slash = entry.first.indexOf(QLatin1Char('/'));
-        config.group(entry.first.left(slash)).writeEntry(entry.first.mid(slash + 1), entry.second);
+    static const AUTH_SET &registry()
+    {
+        static const AUTH_SET registry;
+        return registry;
     }
-    config.sync();
-}
+    static Entries load(const QString &path)
+    {
+        Entries entries;
+        registry().load(path, &entries);
+        return entries;
+    }
+    static void save(const QString &path, const Entries &entries)
+    {
+        registry().save(path, &entries);
+    }
+};
+
+struct Plain
+{
+    static Entries load(const QString &path) { return loadWithQSettings(path); }
+    static void save(const QString &path, const Entries &entries)
+    {
+        saveWithQSettings(path, entries);
+    }
+    static void change(const QString &path)
+    {
+        QSettings settings(path, QSettings::IniFormat);
+        settings.setIniCodec("utf-8");
+        const QStringList keys = settings.allKeys();
+        for (const QString &key : keys)
+            benchmark::DoNotOptimize(settings.value(key));
+        settings.setValue(changedKey, changedText);
+        settings.sync();
+    }
+};
+
+#ifdef KELTO_BENCHMARK_KCONFIG
+struct KdeConfig
+{
+    static Entries read(const KConfig &config)
+    {
+        Entries entries;
+        const QStringList groups = config.groupList();
+        for (const QString &group : groups) {
+            const KConfigGroup section = config.group(group);
+            const QStringList keys = section.keyList();
+            for (const QString &key : keys)
+                entries.append({ group + QLatin1Char('/') + key, section.readEntry(key) });
+        }
+        return entries;
+    }
+    static void write(KConfig *config, const QString &key, const QVariant &value)
+    {
+        const int slash = key.indexOf(QLatin1Char('/'));
+        config->group(key.left(slash)).writeEntry(key.mid(slash + 1), value);
+    }
+    static Entries load(const QString &path) { return read(KConfig(path, KConfig::SimpleConfig)); }
+    static void save(const QString &path, const Entries &entries)
+    {
+        KConfig config(path, KConfig::SimpleConfig);
+        for (const auto &entry : entries)
+            write(&config, entry.first, entry.second);
+        config.sync();
+    }
+    static void change(const QString &path)
+    {
+        KConfig config(path, KConfig::SimpleConfig);
+        benchmark::DoNotOptimize(read(config));
+        write(&config, changedKey, changedText);
+        config.sync();
+    }
+};
 #endif
 
-constexpr auto makeSaved = [](int size) {
-    Saved saved { BenchmarkFile(), settingsEntries(size) };
-    saveWithQSettings(saved.file.path(), saved.entries);
+// --- Loading and saving settings ---------------------------------------------------------
+
+template <typename Files> Saved<Entries> makeSaved(int size)
+{
+    Saved<Entries> saved { settingsEntries(size) };
+    Files::save(saved.path(), saved.content);
     return saved;
+}
+
+/// What a file holds, for the one who wrote it.
+template <typename Files> struct Written
+{
+    QString path;
+    operator Entries() const { return Files::load(path); }
 };
 
-constexpr auto touch = [](Saved &saved) { saved.file.touch(); };
-constexpr auto remove = [](Saved &saved) { saved.file.remove(); };
-
-/// The texts by key, whatever the order.
+/// The texts by key, whatever the order and the types.
 QHash<QString, QString> textsByKey(const Entries &entries)
 {
     QHash<QString, QString> texts;
@@ -99,70 +169,148 @@ QHash<QString, QString> textsByKey(const Entries &entries)
     return texts;
 }
 
-QHash<QString, QString> expectedTexts(int size)
+Row fileRow(const char *operation, const std::vector<int> &sizes = { 10, 1000, 10000, 100000 })
 {
-    return textsByKey(settingsEntries(size));
+    return { operation, sizes, true };
 }
 
-/// The side that loads with @p load from a file that has changed.
-auto loading(Entries (*load)(const QString &))
+/// Measures what @p run does with the files of @p Library and the others.
+template <typename Library, typename Run, typename Reset>
+void compareFiles(const char *operation, Run run, Reset reset)
 {
-    return Side { makeSaved, [load](const Saved &saved) { return load(saved.file.path()); },
-                  touch };
-}
-
-void addLoading(Suite &suite)
-{
-    compare(suite, { "loading", "QSettings", 100000, fileLimit }, loading(loadWithLibrary),
-            loading(loadWithQSettings), textsByKey, expectedTexts);
-    compare(suite, { "AUTH_SET::load", "QSettings", 100000, fileLimit }, loading(loadWithRegistry),
-            loading(loadWithQSettings), textsByKey, expectedTexts);
-#ifdef KELTO_BENCHMARKS_KCONFIG
-    const auto size = [](const Entries &entries) { return entries.size(); };
-    compare(suite, { "loading", "KConfig", 100000, noLimit }, loading(loadWithLibrary),
-            loading(loadWithKConfig), size, [](int n) { return n; });
+    const auto with
+        = [run](auto files) { return [=](const auto &saved) { return run(files, saved); }; };
+    compare(fileRow(operation), textsByKey, library(makeSaved<Library>, with(Library()), reset),
+#ifdef KELTO_BENCHMARK_KCONFIG
+            baseline("KConfig", 100000, makeSaved<KdeConfig>, with(KdeConfig()), reset),
 #endif
+            baseline("QSettings", 100000, makeSaved<Plain>, with(Plain()), reset));
 }
 
-/// The side that saves with @p save, into a file that @p reset makes ready.
-template <typename Reset> auto saving(void (*save)(const QString &, const Entries &), Reset reset)
+void addSettings()
 {
-    const auto run = [save](const Saved &saved) {
-        save(saved.file.path(), saved.entries);
-        return saved.file.path();
+    const auto load = [](auto files, const auto &saved) { return files.load(saved.path()); };
+    const auto save = [](auto files, const auto &saved) {
+        files.save(saved.path(), saved.content);
+        return Written<decltype(files)> { saved.path() };
     };
-    return Side { makeSaved, run, reset };
+    const auto change = [](auto files, const auto &saved) {
+        files.change(saved.path());
+        return Written<decltype(files)> { saved.path() };
+    };
+    compareFiles<Store>("load", load, touchFile);
+    compareFiles<Registry>("AUTH_SET::load", load, touchFile);
+    compareFiles<Store>("save into a new file", save, removeFile);
+    compareFiles<Registry>("AUTH_SET::save into a new file", save, removeFile);
+    compareFiles<Store>("load, read all, change one, save", change, touchFile);
 }
 
-/// What the file at @p path holds now.
-QHash<QString, QString> savedTexts(const QString &path)
+// --- Module items ------------------------------------------------------------------------
+
+Saved<AUTH_INF> makeSavedItem(int size)
 {
-    return textsByKey(loadWithQSettings(path));
+    Saved<AUTH_INF> saved { itemOfTenModes(size) };
+    saved.content.save_ini(saved.path());
+    return saved;
 }
 
-void addSaving(Suite &suite)
+AUTH_INF loadItem(const QString &path)
 {
-    const char *name = "saving into a new file";
-    compare(suite, { name, "QSettings", 100000, fileLimit }, saving(saveWithLibrary, remove),
-            saving(saveWithQSettings, remove), savedTexts, expectedTexts);
-    const char *again = "saving into the same file";
-    compare(suite, { again, "QSettings", 100000, fileLimit }, saving(saveWithLibrary, touch),
-            saving(saveWithQSettings, touch), savedTexts, expectedTexts);
-    compare(suite, { "AUTH_SET::save into the same file", "QSettings", 100000, fileLimit },
-            saving(saveWithRegistry, touch), saving(saveWithQSettings, touch), savedTexts,
-            expectedTexts);
-#ifdef KELTO_BENCHMARKS_KCONFIG
-    // What KConfig writes is not what QSettings reads: only the time is compared.
-    const auto path = [](const QString &saved) { return saved.isEmpty(); };
-    compare(suite, { name, "KConfig", 100000, noLimit }, saving(saveWithLibrary, remove),
-            saving(saveWithKConfig, remove), path, [](int) { return false; });
-#endif
+    AUTH_INF item;
+    item.load_ini(path);
+    return item;
+}
+
+/// The parameters of each mode, in an order of their own, and the texts of the other fields.
+QStringList contents(const AUTH_INF &item)
+{
+    QStringList lines { item.name, item.group, item.type, QString::number(item.extraKey.size()),
+                        item.inner_mode_nameList.join(QLatin1Char(',')) };
+    for (const QVector<QStringList> &entries : item.inner_mode_parameterList) {
+        QStringList mode;
+        for (const QStringList &entry : entries)
+            mode.append(entry.join(QLatin1Char('|')));
+        mode.sort();
+        lines += mode;
+    }
+    return lines;
+}
+
+void addItems()
+{
+    const auto with = [](auto load) {
+        return [load](const Saved<AUTH_INF> &saved) { return load(saved.path()); };
+    };
+    compare(fileRow("load_ini of n parameters", { 10, 100, 1000, 10000 }), contents,
+            library(makeSavedItem, with(loadItem), touchFile),
+            baseline("plain scans", 1000, makeSavedItem, with(PlainItems::load), touchFile));
+
+    const auto loadSaved = [](const QString &path) { return contents(loadItem(path)); };
+    compare(fileRow("save_ini of n parameters", { 10, 100, 1000, 10000 }), loadSaved,
+            library(
+                makeSavedItem,
+                [](const Saved<AUTH_INF> &saved) {
+                    saved.content.save_ini(saved.path());
+                    return saved.path();
+                },
+                removeFile),
+            baseline(
+                "plain scans", 1000, makeSavedItem,
+                [](const Saved<AUTH_INF> &saved) {
+                    PlainItems::save(saved.content, saved.path());
+                    return saved.path();
+                },
+                removeFile));
+}
+
+// --- Log lines ---------------------------------------------------------------------------
+
+const QString logText = QStringLiteral("The calculation has begun");
+
+void logPlainly(const QString &path)
+{
+    QFile file(path);
+    file.open(QIODevice::WriteOnly | QIODevice::Append);
+    file.write(QString(logText + QLatin1Char('\n')).toUtf8());
+}
+
+int lineCount(const QString &path)
+{
+    QFile file(path);
+    file.open(QIODevice::ReadOnly);
+    return file.readAll().count('\n');
+}
+
+/// The number of lines to write, and where.
+using Log = Saved<int>;
+
+void addLog()
+{
+    const auto make = [](int size) { return Log { size }; };
+    const auto log = [](const Log &lines) {
+        static const AUTH_SET registry;
+        const QString before = QDir::currentPath();
+        QDir::setCurrent(lines.directory->path());
+        for (int i = 0; i < lines.content; ++i)
+            registry.log(logText);
+        const QString path = registry.filepath_log();
+        QDir::setCurrent(before);
+        return path;
+    };
+    const auto logToFile = [](const Log &lines) {
+        for (int i = 0; i < lines.content; ++i)
+            logPlainly(lines.path());
+        return lines.path();
+    };
+    compare(fileRow("log of n lines", { 10, 100, 1000 }), lineCount, library(make, log),
+            baseline("open, write and close a file (at most 2)", 1000, make, logToFile));
 }
 
 } // namespace
 
-void addFileBenchmarks(Suite &suite)
+void addFileRows()
 {
-    addLoading(suite);
-    addSaving(suite);
+    addSettings();
+    addItems();
+    addLog();
 }

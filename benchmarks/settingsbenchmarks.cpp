@@ -1,45 +1,38 @@
 // SPDX-FileCopyrightText: The Kelto developers
 // SPDX-License-Identifier: MIT
 
-// Settings stores in memory: filling, asking for every key, merging, removing a group, the style
-// sheet.
-
-#include "settingsbenchmarks.h"
-
+#include "input.h"
 #include "models/plainsettings.h"
-#include "settingsinput.h"
-#include "sides.h"
+#include "models/plainvalues.h"
+#include "suite.h"
 
+#include <Kelto/AUTH_SET>
 #include <Kelto/VIniSettings>
 
 #include <QHash>
-
-#include <type_traits>
 
 namespace {
 
 using Hash = QHash<QString, QVariant>;
 
-constexpr auto makeEntries = [](int size) { return settingsEntries(size); };
+const std::vector<int> sizes { 10, 1000, 10000, 100000 };
 
-/// Runs that only ask go on with the store, as hosts do that keep one. What an index costs is part
-/// of the rows that begin with a new store: filling, merging, temporary values, the check of
-/// values.
+/// Runs that only ask work on the same store each time, as hosts do that keep one. What an index
+/// costs is part of the rows that begin with a new store.
 template <typename Store> struct Asked
 {
     Store store;
     Entries entries;
-    /// As many as the store holds; every second key is there already.
+    /// Half of their keys are in the store.
     Entries others;
 };
 
-template <typename Store>
-constexpr auto makeAsked = [](int size) {
-    const Entries entries = settingsEntries(size);
-    return Asked<Store> { Store(entries), entries, settingsEntries(size, size / 2) };
-};
+template <typename Store> Asked<Store> makeAsked(int size)
+{
+    return { Store(settingsEntries(size)), settingsEntries(size), settingsEntries(size, size / 2) };
+}
 
-Asked<Hash> makeAskedHash(int size)
+template <> Asked<Hash> makeAsked<Hash>(int size)
 {
     Asked<Hash> asked { {}, settingsEntries(size), {} };
     for (const auto &entry : qAsConst(asked.entries))
@@ -47,150 +40,140 @@ Asked<Hash> makeAskedHash(int size)
     return asked;
 }
 
-void addFilling(Suite &suite)
+/// Measures @p run on a store that holds many keys.
+template <typename Run> void compareStores(const char *operation, int largestPlain, Run run)
 {
-    const auto fill = [](auto store, const Entries &entries) {
-        for (const auto &entry : entries)
-            store.setValue(entry.first, entry.second);
-        return store.data();
-    };
-    const Side library { makeEntries,
-                         [fill](const Entries &e) { return fill(VIniSettings(), e); } };
-    const Side plain { makeEntries,
-                       [fill](const Entries &e) { return fill(PlainSettings(Entries()), e); } };
-    const Side hash { makeEntries, [](const Entries &entries) {
-                         Hash filled;
-                         for (const auto &entry : entries)
-                             filled.insert(entry.first, entry.second);
-                         return filled;
-                     } };
-    compare(suite, { "setValue of n keys", "plain scans", 10000 }, library, plain, asItIs,
-            makeEntries);
-    const auto size = [](const auto &filled) { return filled.size(); };
-    compare(suite, { "setValue of n keys", "QHash", 100000, noLimit }, library, hash, size,
-            [](int n) { return n; });
+    compare({ operation, sizes }, asItIs, library(makeAsked<VIniSettings>, run),
+            baseline("plain scans", largestPlain, makeAsked<PlainSettings>, run));
 }
 
-/// Measures what @p ask does with a store that holds many keys.
-template <typename Ask, typename Expected>
-void compareAsking(Suite &suite, const char *name, Ask ask, Expected expected)
+template <typename Run> void compareStoresAndHash(const char *operation, Run run)
 {
-    const Side library { makeAsked<VIniSettings>, ask };
-    compare(suite, { name, "plain scans", 10000 }, library, Side { makeAsked<PlainSettings>, ask },
-            asItIs, expected);
-    compare(suite, { name, "QHash", 100000, noLimit }, library, Side { makeAskedHash, ask }, asItIs,
-            expected);
+    compare({ operation, sizes }, asItIs, library(makeAsked<VIniSettings>, run),
+            baseline("plain scans", 1000, makeAsked<PlainSettings>, run),
+            baseline("QHash", 100000, makeAsked<Hash>, run));
 }
 
-void addValues(Suite &suite)
+/// What @p ask gives for the key of every entry, in order.
+template <typename Ask> QVector<QVariant> valuesOf(const Entries &entries, Ask ask)
 {
-    const auto ask = [](const auto &asked) {
+    QVector<QVariant> values;
+    for (const auto &entry : entries)
+        values.append(ask(entry.first));
+    return values;
+}
+
+void addAsking()
+{
+    compareStoresAndHash("value of every key", [](const auto &asked) {
         return valuesOf(asked.entries,
                         [&asked](const QString &key) { return asked.store.value(key); });
-    };
-    compareAsking(suite, "value of every key", ask, settingsValues);
-}
-
-void addContains(Suite &suite)
-{
-    const auto ask = [](const auto &asked) {
+    });
+    const auto countContained = [](const auto &asked) {
         int count = 0;
         for (const auto &entry : asked.entries)
             count += asked.store.contains(entry.first) ? 1 : 0;
         return count;
     };
-    const auto expected = [](int size) { return size; };
-    compareAsking(suite, "contains of every key", ask, expected);
-
-    const auto askNew = [ask](const auto &asked) {
-        const std::decay_t<decltype(asked)> copy = asked;
-        return ask(copy);
-    };
-    compare(suite, { "contains of every key", "plain scans, new store", 10000 },
-            Side { makeAsked<VIniSettings>, askNew }, Side { makeAsked<PlainSettings>, askNew },
-            asItIs, expected);
+    compareStoresAndHash("contains of every key", countContained);
+    compareStores("contains of every key, new store", 1000, [countContained](const auto &asked) {
+        return countContained(std::decay_t<decltype(asked)>(asked));
+    });
 }
 
-void addMerging(Suite &suite)
-{
-    const auto merge = [](const auto &asked) {
-        auto store = asked.store;
-        store.setValue(asked.others, false);
-        return store.data();
-    };
-    const auto expected = [](int size) { return settingsEntries(size + size / 2); };
-    compare(suite, { "merging two stores", "plain scans", 10000 },
-            Side { makeAsked<VIniSettings>, merge }, Side { makeAsked<PlainSettings>, merge },
-            asItIs, expected);
-}
-
-/// Every second key is in the group "removed".
-Entries twoGroups(int size)
+/// The two groups have keys by turns.
+template <typename Store> Store makeTwoGroups(int size)
 {
     Entries entries;
     for (int i = 0; i < size; ++i) {
-        const QString group
-            = i % 2 == 0 ? QStringLiteral("kept/key ") : QStringLiteral("removed/key ");
+        const QLatin1String group(i % 2 == 0 ? "kept/" : "removed/");
         entries.append({ group + QString::number(i), i });
     }
-    return entries;
+    return Store(entries);
 }
 
-template <typename Store>
-constexpr auto makeTwoGroups = [](int size) { return Store(twoGroups(size)); };
-
-void addRemoving(Suite &suite)
+void addChanging()
 {
+    compareStores("setValue of n new keys", 1000, [](const auto &asked) {
+        std::decay_t<decltype(asked.store)> store { Entries() };
+        for (const auto &entry : asked.entries)
+            store.setValue(entry.first, entry.second);
+        return store.data();
+    });
+    compareStores("setValue of n keys at once", 1000, [](const auto &asked) {
+        auto store = asked.store;
+        store.setValue(asked.others, false);
+        return store.data();
+    });
     const auto removeGroup = [](const auto &filled) {
         auto store = filled;
         store.removeGroup(QStringLiteral("removed"));
         return store.data();
     };
-    const auto expected = [](int size) {
-        Entries kept;
-        const Entries all = twoGroups(size);
-        for (int i = 0; i < size; i += 2)
-            kept.append(all.at(i));
-        return kept;
-    };
-    compare(suite, { "removeGroup", "plain scans", 10000 },
-            Side { makeTwoGroups<VIniSettings>, removeGroup },
-            Side { makeTwoGroups<PlainSettings>, removeGroup }, asItIs, expected);
-}
-
-void addStyleSheet(Suite &suite)
-{
-    const auto format = [](const auto &asked) {
+    compare({ "removeGroup of each second key", sizes }, asItIs,
+            library(makeTwoGroups<VIniSettings>, removeGroup),
+            baseline("plain scans", 1000, makeTwoGroups<PlainSettings>, removeGroup));
+    compareStores("styleSheetFormat", 1000, [](const auto &asked) {
         const auto store = asked.store;
         return store.styleSheetFormat();
+    });
+}
+
+// --- Values of a registry ------------------------------------------------------------
+
+template <typename Registry> struct Stored
+{
+    Registry registry;
+    Entries entries;
+};
+
+template <typename Registry> Stored<Registry> makeTemporary(int size)
+{
+    return { Registry(), settingsEntries(size) };
+}
+
+/// The values of @p size parameters, then their units.
+template <typename Registry> Stored<Registry> makeCalculation(int size)
+{
+    Stored<Registry> stored;
+    for (const char *group : { "Attribute/", "Unit/" }) {
+        for (int i = 0; i < size; ++i)
+            stored.entries.append({ QLatin1String(group) + QString::number(i), i });
+    }
+    return stored;
+}
+
+void addRegistryValues()
+{
+    const auto setDeleteAsk = [](const auto &stored) {
+        auto registry = stored.registry;
+        for (const auto &entry : stored.entries)
+            registry.set_temp(entry.first, entry.second);
+        for (int i = stored.entries.size() - 1; i > 0; i -= 2)
+            registry.delete_temp(stored.entries.at(i).first);
+        return valuesOf(stored.entries,
+                        [&registry](const QString &key) { return registry.value_temp(key); });
     };
-    const auto expected = [](int size) {
-        QString sheet;
-        const Entries entries = settingsEntries(size);
-        for (int i = 0; i < size; ++i) {
-            const QString key = entries.at(i).first;
-            if (i % 10 == 0)
-                sheet += QLatin1Char(':') + key.left(key.indexOf(QLatin1Char('/')))
-                    + QLatin1Char('{');
-            sheet += key + QLatin1Char('=') + entries.at(i).second.toString() + QLatin1Char(';');
-            if (i % 10 == 9)
-                sheet += QLatin1String("};");
-        }
-        return sheet;
+    compare({ "set_temp, delete_temp and value_temp of every key", sizes }, asItIs,
+            library(makeTemporary<AUTH_SET>, setDeleteAsk),
+            baseline("plain scans", 1000, makeTemporary<PlainValues>, setDeleteAsk));
+
+    const auto takeAndAsk = [](const auto &stored) {
+        auto registry = stored.registry;
+        registry.getCalculationLData(stored.entries);
+        return valuesOf(stored.entries,
+                        [&registry](const QString &key) { return registry.value_cal(key); });
     };
-    compare(suite, { "styleSheetFormat", "plain scans", 1000 },
-            Side { makeAsked<VIniSettings>, format }, Side { makeAsked<PlainSettings>, format },
-            asItIs, expected);
+    compare({ "getCalculationLData, value_cal of every key", sizes }, asItIs,
+            library(makeCalculation<AUTH_SET>, takeAndAsk),
+            baseline("plain scans", 1000, makeCalculation<PlainValues>, takeAndAsk));
 }
 
 } // namespace
 
-void addSettingsBenchmarks(Suite &suite)
+void addSettingsRows()
 {
-    addFilling(suite);
-    addValues(suite);
-    addContains(suite);
-    addMerging(suite);
-    addRemoving(suite);
-    addStyleSheet(suite);
+    addAsking();
+    addChanging();
+    addRegistryValues();
 }

@@ -3,176 +3,221 @@
 
 #include "suite.h"
 
-#include <benchmark/benchmark.h>
-
 #include <algorithm>
+#include <array>
+#include <iomanip>
 #include <iostream>
 #include <map>
-#include <memory>
-#include <string_view>
+#include <sstream>
 
 namespace {
 
-/// In a quick run slow baselines and large inputs are left out: they would be most of it.
-constexpr int largestQuickBaseline = 100;
-constexpr int largestQuickSize = 10000;
-
-/// The sides of a comparison take turns, so that a while in which the machine is slow meets both.
-constexpr int turns = 5;
-constexpr double secondsPerTurn = 0.03;
-
-/// A step stays ready while it is measured repeatedly, so that its input is made only once.
-struct ReadyStep
+struct KnownRow
 {
-    int size = 0;
-    CheckedStep checked;
+    Row row;
+    std::vector<std::string> sides;
 };
 
-void measure(benchmark::State &state, const Step &step)
+std::vector<KnownRow> &knownRows()
 {
-    for (auto _ : state) {
-        if (step.reset) {
-            state.PauseTiming();
-            step.reset();
-            state.ResumeTiming();
-        }
-        step.run();
-    }
+    static std::vector<KnownRow> rows;
+    return rows;
 }
 
-template <typename Prepare>
-void registerStep(const std::string &name, int size, bool quick, Prepare prepare,
-                  std::shared_ptr<ReadyStep> ready)
+std::string familyName(const Row &row, const std::string &side)
 {
-    const auto prepareAndMeasure = [=](benchmark::State &state) {
-        if (ready->size != size)
-            *ready = { size, prepare(size) };
-        if (!ready->checked.fault.empty()) {
-            state.SkipWithError(ready->checked.fault.c_str());
-            return;
-        }
-        measure(state, ready->checked.step);
+    return row.operation + '/' + side;
+}
+
+/// What was measured of one side.
+struct Times
+{
+    /// The shortest by size: what else the machine does can only lengthen one.
+    std::map<int, double> nanoseconds;
+    std::string growth;
+};
+
+std::string growthText(benchmark::BigO complexity)
+{
+    static const std::map<benchmark::BigO, std::string> texts {
+        { benchmark::o1, "1" },          { benchmark::oLogN, "log n" },
+        { benchmark::oN, "n" },          { benchmark::oNLogN, "n log n" },
+        { benchmark::oNSquared, "n^2" }, { benchmark::oNCubed, "n^3" },
     };
-    auto *registered = benchmark::RegisterBenchmark(name.c_str(), prepareAndMeasure)->Arg(size);
-    if (quick)
-        registered->Iterations(1);
-    else
-        registered->MinTime(secondsPerTurn);
+    return texts.at(complexity);
 }
 
-std::string stepName(const Comparison &comparison, Runner runner)
-{
-    return comparison.operation + '/' + comparison.shape + '/'
-        + (runner == Runner::Library ? "Kelto" : "baseline");
-}
-
-/// Gathers the times into table rows; reports progress and faults on the error output.
+/// Gathers the times, and reports wrong answers on the error output.
 class Collector : public benchmark::BenchmarkReporter
 {
 public:
-    explicit Collector(const std::vector<Comparison> &comparisons)
-    {
-        for (const Comparison &comparison : comparisons) {
-            for (Runner runner : { Runner::Library, Runner::Baseline })
-                m_places[stepName(comparison, runner)] = { m_rows.size(), runner };
-            m_rows.emplace_back(comparison.operation, comparison.shape, comparison.sizes,
-                                comparison.limit);
-        }
-    }
-
-    bool ReportContext(const Context &) override { return true; }
+    bool ReportContext(const Context & /*context*/) override { return true; }
 
     void ReportRuns(const std::vector<Run> &runs) override
     {
         for (const Run &run : runs) {
-            if (run.run_type == Run::RT_Iteration)
-                report(run);
+            if (run.error_occurred)
+                reportFault(run);
+            else if (run.report_big_o)
+                m_times[run.run_name.function_name].growth = growthText(run.complexity);
+            else if (run.run_type == Run::RT_Iteration)
+                takeTime(run);
         }
     }
 
-    const std::vector<TableRow> &rows() const { return m_rows; }
+    const Times &times(const Row &row, const std::string &side)
+    {
+        return m_times[familyName(row, side)];
+    }
     int faults() const { return m_faults; }
 
 private:
-    struct Place
+    void reportFault(const Run &run)
     {
-        std::size_t row;
-        Runner runner;
-    };
-
-    void report(const Run &run)
-    {
-        const int size = std::stoi(run.run_name.args);
-        if (run.error_occurred) {
-            ++m_faults;
-            std::cerr << "WRONG ANSWER: " << run.run_name.function_name << ", n=" << size << ": "
-                      << run.error_message << '\n';
-            return;
-        }
-        const Place place = m_places.at(run.run_name.function_name);
-        m_rows[place.row].addTime(place.runner, size, run.GetAdjustedCPUTime());
-        std::cerr << run.run_name.function_name << ", n=" << size << ": "
-                  << timeText(run.GetAdjustedCPUTime()) << '\n';
+        ++m_faults;
+        std::cerr << run.benchmark_name() << ": " << run.error_message << '\n';
     }
 
-    std::map<std::string, Place> m_places;
-    std::vector<TableRow> m_rows;
+    void takeTime(const Run &run)
+    {
+        const bool isRealTime = run.run_name.time_type == "real_time";
+        const double time = isRealTime ? run.GetAdjustedRealTime() : run.GetAdjustedCPUTime();
+        auto &times = m_times[run.run_name.function_name].nanoseconds;
+        const auto known = times.try_emplace(std::stoi(run.run_name.args), time).first;
+        known->second = std::min(known->second, time);
+    }
+
+    std::map<std::string, Times> m_times;
     int m_faults = 0;
 };
 
-void registerComparison(const Comparison &comparison, bool quick)
+/// @p number with three digits.
+std::string numberText(double number)
 {
-    const int largestBaseline = quick ? std::min(comparison.largestBaseline, largestQuickBaseline)
-                                      : comparison.largestBaseline;
-    const auto library = [prepare = comparison.library, largestBaseline](int size) {
-        return prepare(size, size <= largestBaseline);
-    };
-    const auto baseline = [prepare = comparison.baseline](int size) {
-        return CheckedStep { prepare(size), {} };
-    };
-    const auto libraryStep = std::make_shared<ReadyStep>();
-    const auto baselineStep = std::make_shared<ReadyStep>();
-    for (int size : comparison.sizes) {
-        if (quick && size > largestQuickSize)
-            continue;
-        for (int turn = 0; turn < (quick ? 1 : turns); ++turn) {
-            registerStep(stepName(comparison, Runner::Library), size, quick, library, libraryStep);
-            if (size <= largestBaseline) {
-                registerStep(stepName(comparison, Runner::Baseline), size, quick, baseline,
-                             baselineStep);
-            }
-        }
+    std::ostringstream text;
+    text << std::fixed << std::setprecision(number < 10 ? 2 : number < 100 ? 1 : 0) << number;
+    return text.str();
+}
+
+std::string timeText(double nanoseconds)
+{
+    static constexpr std::array<const char *, 4> units { "ns", "us", "ms", "s" };
+    std::size_t unit = 0;
+    for (; nanoseconds >= 1000 && unit + 1 < units.size(); ++unit)
+        nanoseconds /= 1000;
+    return numberText(nanoseconds) + ' ' + units.at(unit);
+}
+
+void printLine(const std::string &title, const std::vector<std::string> &cells)
+{
+    std::cout << std::left << std::setw(58) << title << std::right;
+    for (const std::string &cell : cells)
+        std::cout << std::setw(10) << cell;
+    std::cout << '\n';
+}
+
+/// One cell for each size of @p row, made of what @p times holds for it.
+template <typename Text>
+std::vector<std::string> cellsOf(const Row &row, const Times &times, Text text)
+{
+    std::vector<std::string> cells;
+    for (int size : row.sizes) {
+        const auto time = times.nanoseconds.find(size);
+        cells.push_back(time == times.nanoseconds.end() ? "-" : text(size, time->second));
+    }
+    return cells;
+}
+
+void printSizes(const Row &row)
+{
+    std::vector<std::string> cells;
+    for (int size : row.sizes)
+        cells.push_back("n=" + std::to_string(size));
+    cells.push_back("growth");
+    std::cout << '\n';
+    printLine("", cells);
+}
+
+void printRow(const KnownRow &known, Collector &collector)
+{
+    const Times &library = collector.times(known.row, known.sides.front());
+    std::vector<std::string> cells
+        = cellsOf(known.row, library, [](int, double time) { return timeText(time); });
+    cells.push_back(library.growth);
+    printLine(known.row.operation, cells);
+    for (auto side = known.sides.cbegin() + 1; side != known.sides.cend(); ++side) {
+        const auto ratio = [&library](int size, double time) {
+            return numberText(library.nanoseconds.at(size) / time);
+        };
+        printLine("    / " + *side, cellsOf(known.row, collector.times(known.row, *side), ratio));
     }
 }
 
-/// Removes @p flag from the arguments; whether it was there.
-bool takeFlag(int &argc, char **argv, std::string_view flag)
+void printTable(Collector &collector)
 {
-    char **const end = std::remove(argv + 1, argv + argc, flag);
-    const bool found = end != argv + argc;
-    argc = static_cast<int>(end - argv);
-    argv[argc] = nullptr;
-    return found;
+    std::cout
+        << "Shortest time of one run, and how it grows with n. Below it that time divided by\n"
+           "the time of something else that gives the same answers: above 1 is slower.\n";
+    std::vector<int> sizes;
+    for (const KnownRow &known : knownRows()) {
+        if (collector.times(known.row, known.sides.front()).nanoseconds.empty())
+            continue;
+        if (known.row.sizes != sizes)
+            printSizes(known.row);
+        sizes = known.row.sizes;
+        printRow(known, collector);
+    }
+}
+
+/// Google Benchmark asks for one size several times in a row, to find out how often to run it. Its
+/// input is kept until something else is measured: all together would take gigabytes.
+void measure(const AnySide &side, benchmark::State &state)
+{
+    static std::shared_ptr<void> input;
+    static std::pair<const AnySide *, int> kept;
+    const int size = static_cast<int>(state.range(0));
+    state.SetComplexityN(size);
+    if (kept != std::make_pair(&side, size)) {
+        if (!side.isRight(size)) {
+            state.SkipWithError("the answer differs from Kelto's");
+            return;
+        }
+        input = side.make(size);
+        kept = { &side, size };
+    }
+    side.measure(input.get(), state);
 }
 
 } // namespace
 
-int Suite::run(int argc, char **argv)
+void addRow(const Row &row, const std::vector<AnySide> &sides)
 {
-    const bool quick = takeFlag(argc, argv, "--quick");
+    KnownRow known { row, {} };
+    for (const AnySide &side : sides) {
+        known.sides.push_back(side.name);
+        const auto run = [side = std::make_shared<AnySide>(side)](benchmark::State &state) {
+            measure(*side, state);
+        };
+        auto *family = benchmark::RegisterBenchmark(familyName(row, side.name).c_str(), run);
+        family->Complexity();
+        if (row.isRealTime)
+            family->UseRealTime();
+        for (int size : row.sizes) {
+            if (size <= side.largestSize)
+                family->Arg(size);
+        }
+    }
+    knownRows().push_back(known);
+}
+
+int runRows(int argc, char **argv)
+{
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
         return 2;
-
-    for (const Comparison &comparison : m_comparisons)
-        registerComparison(comparison, quick);
-    Collector collector(m_comparisons);
+    Collector collector;
     const std::size_t count = benchmark::RunSpecifiedBenchmarks(&collector);
-    printTables(std::cout, collector.rows());
-    if (quick)
-        std::cout << "\nEach step ran once: the answers count here, the times do not.\n";
-    else
-        printFindings(std::cout, collector.rows());
-    std::cout << '\n' << count << " steps run, " << collector.faults() << " wrong answers\n";
+    printTable(collector);
+    std::cout << '\n' << count << " steps, " << collector.faults() << " wrong answers\n";
     return count == 0 || collector.faults() > 0 ? 1 : 0;
 }

@@ -4,64 +4,137 @@
 #ifndef SUITE_H
 #define SUITE_H
 
-#include "table.h"
+#include <benchmark/benchmark.h>
 
+#include <climits>
 #include <functional>
+#include <map>
+#include <memory>
 #include <string>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
-/// What is measured, on an input that was made before.
-struct Step
-{
-    std::function<void()> run;
-    /// What has to be done before every run and is not measured, if anything.
-    std::function<void()> reset = nullptr;
-};
-
-/// The library's step, made ready and checked.
-struct CheckedStep
-{
-    Step step;
-    /// What is wrong with the library's answer; empty when it is right.
-    std::string fault;
-};
-
-/// One row of the table: an operation on one shape of input, done by the library and by a baseline
-/// that gives the same answers.
-struct Comparison
+/// One operation: what it is called, and what it is measured with.
+struct Row
 {
     std::string operation;
-    std::string shape;
-    /// Above this size one run of the baseline takes more than about two seconds; 0 without one.
-    int largestBaseline;
-    /// Makes ready the library's step for an input of @p size and checks its answer, also against
-    /// the baseline's where that is asked for.
-    std::function<CheckedStep(int size, bool compareWithBaseline)> library;
-    /// Makes ready the baseline's step for an input of @p size.
-    std::function<Step(int size)> baseline;
     std::vector<int> sizes = { 10, 100, 1000, 10000 };
-    Limit limit = {};
+    /// What waits for the disk is measured by the clock, all else by the processor's time.
+    bool isRealTime = false;
 };
 
-/// All comparisons, run and printed as one table.
-class Suite
+constexpr auto noReset = [](auto & /*input*/) {};
+
+/// One of those that are compared: makes an input of a given size and works on it. What a run
+/// changes in the input is undone by the reset, which is not measured.
+template <typename Make, typename Run, typename Reset> struct Side
 {
-public:
-    void add(Comparison comparison) { m_comparisons.push_back(std::move(comparison)); }
+    using Input = std::decay_t<std::invoke_result_t<Make, int>>;
 
-    /**
-     * Measures and prints.
-     *
-     * Takes the flags of Google Benchmark and `--quick`, which runs each step once and leaves out
-     * slow baselines and large inputs: what then counts are the answers and not the times.
-     *
-     * @return the exit code: 1 when an answer was wrong or nothing was run, 2 for an unknown flag.
-     */
-    int run(int argc, char **argv);
+    std::string name;
+    int largestSize;
+    Make make;
+    Run run;
+    Reset reset;
 
-private:
-    std::vector<Comparison> m_comparisons;
+    template <typename View> auto answer(int size, View view) const
+    {
+        Input input = make(size);
+        reset(input);
+        return view(run(input));
+    }
+
+    void measure(Input &input, benchmark::State &state) const
+    {
+        for (auto _ : state) {
+            if constexpr (!std::is_same_v<Reset, std::decay_t<decltype(noReset)>>) {
+                state.PauseTiming();
+                reset(input);
+                state.ResumeTiming();
+            }
+            auto result = run(input);
+            benchmark::DoNotOptimize(result);
+        }
+    }
 };
+
+/// What the library's time is divided by, at sizes up to one that takes it about a second.
+template <typename Make, typename Run, typename Reset = std::decay_t<decltype(noReset)>>
+Side<Make, Run, Reset> baseline(std::string name, int largestSize, Make make, Run run,
+                                Reset reset = noReset)
+{
+    return { std::move(name), largestSize, make, run, reset };
+}
+
+template <typename Make, typename Run, typename Reset = std::decay_t<decltype(noReset)>>
+Side<Make, Run, Reset> library(Make make, Run run, Reset reset = noReset)
+{
+    return { "Kelto", INT_MAX, make, run, reset };
+}
+
+/// A side whose types no longer matter.
+struct AnySide
+{
+    std::string name;
+    int largestSize;
+    std::function<std::shared_ptr<void>(int size)> make;
+    std::function<void(void *input, benchmark::State &)> measure;
+    std::function<bool(int size)> isRight;
+};
+
+template <typename TypedSide>
+AnySide anySide(const TypedSide &side, std::function<bool(int)> isRight)
+{
+    using Input = typename TypedSide::Input;
+    return { side.name, side.largestSize,
+             [side](int size) { return std::make_shared<Input>(side.make(size)); },
+             [side](void *input, benchmark::State &state) {
+                 side.measure(*static_cast<Input *>(input), state);
+             },
+             std::move(isRight) };
+}
+
+/// Registers a row with Google Benchmark: the library's side, then the baselines.
+void addRow(const Row &row, const std::vector<AnySide> &sides);
+
+/// Measures @p library against @p baselines, which have to give the same answers, seen through
+/// @p view. Answers that hold nothing prove nothing and count as wrong.
+template <typename View, typename Library, typename... Baselines>
+void compare(const Row &row, View view, const Library &library, const Baselines &...baselines)
+{
+    const auto agreesWith = [&](const auto &baseline) {
+        return [=, known = std::make_shared<std::map<int, bool>>()](int size) {
+            const auto [isRight, isNew] = known->try_emplace(size);
+            if (isNew) {
+                const auto answer = library.answer(size, view);
+                isRight->second = answer == baseline.answer(size, view)
+                    && answer != std::decay_t<decltype(answer)>();
+            }
+            return isRight->second;
+        };
+    };
+    addRow(row,
+           { anySide(library, [](int /*size*/) { return true; }),
+             anySide(baselines, agreesWith(baselines))... });
+}
+
+/// The view of answers that are compared as they are.
+constexpr auto asItIs = [](const auto &answer) { return answer; };
+
+/// Modules, exclusive groups, their modes and the standard names of these.
+void addRegistryRows();
+/// The lists of parameters and results that a registry puts together.
+void addListRows();
+/// Values in memory, of a settings store and of a registry.
+void addSettingsRows();
+/// Settings, module items and log lines in files.
+void addFileRows();
+/// Module items as source text, and the check of entered values.
+void addItemRows();
+
+/// Runs the rows and prints them as a table.
+/// @return the exit code: 1 when an answer was wrong or nothing was run, 2 for an unknown flag.
+int runRows(int argc, char **argv);
 
 #endif
