@@ -68,25 +68,6 @@ struct Store
     }
 };
 
-struct Registry
-{
-    static const AUTH_SET &registry()
-    {
-        static const AUTH_SET registry;
-        return registry;
-    }
-    static Entries load(const QString &path)
-    {
-        Entries entries;
-        registry().load(path, &entries);
-        return entries;
-    }
-    static void save(const QString &path, const Entries &entries)
-    {
-        registry().save(path, &entries);
-    }
-};
-
 struct Plain
 {
     static Entries load(const QString &path) { return loadWithQSettings(path); }
@@ -174,13 +155,13 @@ Row fileRow(const char *operation, const std::vector<int> &sizes = { 10, 1000, 1
     return { operation, sizes, true };
 }
 
-/// Measures what @p run does with the files of @p Library and the others.
-template <typename Library, typename Run, typename Reset>
+/// Measures what @p run does with the files of the library and the others.
+template <typename Run, typename Reset>
 void compareFiles(const char *operation, Run run, Reset reset)
 {
     const auto with
         = [run](auto files) { return [=](const auto &saved) { return run(files, saved); }; };
-    compare(fileRow(operation), textsByKey, library(makeSaved<Library>, with(Library()), reset),
+    compare(fileRow(operation), textsByKey, library(makeSaved<Store>, with(Store()), reset),
 #ifdef KELTO_BENCHMARK_KCONFIG
             baseline("KConfig", 100000, makeSaved<KdeConfig>, with(KdeConfig()), reset),
 #endif
@@ -198,19 +179,29 @@ void addSettings()
         files.change(saved.path());
         return Written<decltype(files)> { saved.path() };
     };
-    compareFiles<Store>("load", load, touchFile);
-    compareFiles<Registry>("AUTH_SET::load", load, touchFile);
-    compareFiles<Store>("save into a new file", save, removeFile);
-    compareFiles<Registry>("AUTH_SET::save into a new file", save, removeFile);
-    compareFiles<Store>("load, read all, change one, save", change, touchFile);
+    compareFiles("load", load, touchFile);
+    compareFiles("save into a new file", save, removeFile);
+    compareFiles("load, read all, change one, save", change, touchFile);
 }
 
 // --- Module items ------------------------------------------------------------------------
 
+QString saveItem(const Saved<AUTH_INF> &saved)
+{
+    saved.content.save_ini(saved.path());
+    return saved.path();
+}
+
+QString savePlainItem(const Saved<AUTH_INF> &saved)
+{
+    PlainItems::save(saved.content, saved.path());
+    return saved.path();
+}
+
 Saved<AUTH_INF> makeSavedItem(int size)
 {
-    Saved<AUTH_INF> saved { itemOfTenModes(size) };
-    saved.content.save_ini(saved.path());
+    const Saved<AUTH_INF> saved { itemOfTenModes(size) };
+    saveItem(saved);
     return saved;
 }
 
@@ -247,32 +238,13 @@ void addItems()
 
     const auto loadSaved = [](const QString &path) { return contents(loadItem(path)); };
     compare(fileRow("save_ini of n parameters", { 10, 100, 1000, 10000 }), loadSaved,
-            library(
-                makeSavedItem,
-                [](const Saved<AUTH_INF> &saved) {
-                    saved.content.save_ini(saved.path());
-                    return saved.path();
-                },
-                removeFile),
-            baseline(
-                "plain scans", 1000, makeSavedItem,
-                [](const Saved<AUTH_INF> &saved) {
-                    PlainItems::save(saved.content, saved.path());
-                    return saved.path();
-                },
-                removeFile));
+            library(makeSavedItem, saveItem, removeFile),
+            baseline("plain scans", 1000, makeSavedItem, savePlainItem, removeFile));
 }
 
 // --- Log lines ---------------------------------------------------------------------------
 
 const QString logText = QStringLiteral("The calculation has begun");
-
-void logPlainly(const QString &path)
-{
-    QFile file(path);
-    file.open(QIODevice::WriteOnly | QIODevice::Append);
-    file.write(QString(logText + QLatin1Char('\n')).toUtf8());
-}
 
 int lineCount(const QString &path)
 {
@@ -298,8 +270,11 @@ void addLog()
         return path;
     };
     const auto logToFile = [](const Log &lines) {
-        for (int i = 0; i < lines.content; ++i)
-            logPlainly(lines.path());
+        for (int i = 0; i < lines.content; ++i) {
+            QFile file(lines.path());
+            file.open(QIODevice::WriteOnly | QIODevice::Append);
+            file.write(QString(logText + QLatin1Char('\n')).toUtf8());
+        }
         return lines.path();
     };
     compare(fileRow("log of n lines", { 10, 100, 1000 }), lineCount, library(make, log),

@@ -8,8 +8,6 @@
 
 #include <Kelto/AUTH_SET>
 
-#include <algorithm>
-
 namespace {
 
 using Parameters = QVector<VParameter>;
@@ -30,42 +28,61 @@ PlainLists<PlainRegistry> listsOf(const PlainRegistry &registry)
 
 // --- Inputs --------------------------------------------------------------------------
 
-template <typename Registry> Registry registryOf(const QVector<AUTH_INF> &items)
-{
-    return Registry(QStringLiteral("Application"), QStringLiteral("1.0"), items);
-}
-
 /// Modules with a mode of ten parameters and ten results each, @p size of either in all, with
 /// @p perGroup modules in each group. Half of the parameters are those of earlier modes again.
-template <typename Registry> Registry modulesOfTen(int size, int perGroup)
+QVector<AUTH_INF> modulesOfTen(int size, int perGroup)
 {
     QVector<AUTH_INF> items;
     for (int module = 0; module < size / 10; ++module) {
         AUTH_INF item = moduleItem(module, module / perGroup);
-        const int first = module * 10 % qMax(10, size / 2);
-        addMode(&item, module, parameterEntries(10, first));
-        item.output_results = parameterEntries(10, first);
+        item.output_results = parameterEntries(10, module * 10 % qMax(10, size / 2));
+        addMode(&item, module, item.output_results);
         items.append(item);
     }
-    return registryOf<Registry>(items);
+    return items;
 }
 
-template <typename Registry> Registry oneMode(int size)
+QVector<AUTH_INF> oneMode(int size)
 {
     AUTH_INF item = moduleItem(0, 0);
     addMode(&item, 0, parameterEntries(size));
-    return registryOf<Registry>({ item });
+    return { item };
 }
 
-template <typename Registry> Registry oneGroup(int size)
+QVector<AUTH_INF> oneGroup(int size)
 {
-    return modulesOfTen<Registry>(size, size);
+    return modulesOfTen(size, size);
 }
 
-template <typename Registry> Registry groupsOfFive(int size)
+QVector<AUTH_INF> groupsOfFive(int size)
 {
-    return modulesOfTen<Registry>(size, 5);
+    return modulesOfTen(size, 5);
 }
+
+/// One mode with 51 parameters in each sub-group.
+QVector<AUTH_INF> form(int size)
+{
+    AUTH_INF item = moduleItem(0, 0);
+    addMode(&item, 0, parameterEntries(size, 0, 51));
+    return { item };
+}
+
+template <typename Registry> struct Asked
+{
+    QVector<AUTH_INF> items;
+    Registry registry;
+};
+
+template <typename Registry, typename Items> auto asked(Items items)
+{
+    return [items](int size) {
+        return Asked<Registry> { items(size), Registry({}, {}, items(size)) };
+    };
+}
+
+/// What a registry keeps of earlier answers is not to be measured.
+constexpr auto forget
+    = [](auto &asked) { asked.registry = AUTH_SET(QString(), QString(), asked.items); };
 
 // --- Lists of a mode, a group, and everything ------------------------------------------
 
@@ -84,80 +101,50 @@ constexpr auto shown = [](const auto &answer) {
         return answer;
 };
 
-/// Measures what @p ask gets from the lists of a registry.
-template <typename Make, typename MakePlain, typename Ask>
-void compareLists(const char *operation, int largestPlain, Make make, MakePlain makePlain, Ask ask)
+/// Measures what @p ask gets from the lists of a registry with the modules @p items.
+template <typename Items, typename Ask>
+void compareLists(const char *operation, Items items, Ask ask)
 {
-    const auto run = [ask](const auto &registry) { return ask(listsOf(registry)); };
-    compare({ operation }, shown, library(make, run),
-            baseline("plain scans", largestPlain, makePlain, run));
+    const auto run = [ask](const auto &asked) { return ask(listsOf(asked.registry)); };
+    compare({ operation }, shown, library(asked<AUTH_SET>(items), run, forget),
+            baseline("plain scans", 1000, asked<PlainRegistry>(items), run));
 }
 
-void addListsOfMode()
+void addLists()
 {
-    const auto add = [](const char *operation, auto ask) {
-        compareLists(operation, 1000, oneMode<AUTH_SET>, oneMode<PlainRegistry>, ask);
-    };
-    add("defaultParameterList of a mode",
-        [](const auto &lists) { return lists.defaultParameterList(firstGroup, firstMode); });
-    add("defaultParameterSubGroupList of a mode", [](const auto &lists) {
+    compareLists("defaultParameterList of a mode", oneMode, [](const auto &lists) {
+        return lists.defaultParameterList(firstGroup, firstMode);
+    });
+    compareLists("defaultParameterList of a group", oneGroup,
+                 [](const auto &lists) { return lists.defaultParameterList(firstGroup); });
+    compareLists("defaultParameterList of everything", groupsOfFive,
+                 [](const auto &lists) { return lists.defaultParameterList(); });
+    compareLists("defaultResultList of a group", oneGroup,
+                 [](const auto &lists) { return lists.defaultResultList(firstGroup); });
+    compareLists("defaultResultList of everything", groupsOfFive,
+                 [](const auto &lists) { return lists.defaultResultList(); });
+}
+
+void addSubGroups()
+{
+    compareLists("defaultParameterSubGroupList of a mode", oneMode, [](const auto &lists) {
         return lists.defaultParameterSubGroupList(firstGroup, firstMode);
     });
-}
-
-void addListsOfGroup()
-{
-    const auto add = [](const char *operation, auto ask) {
-        compareLists(operation, 1000, oneGroup<AUTH_SET>, oneGroup<PlainRegistry>, ask);
-    };
-    add("defaultParameterList of a group",
-        [](const auto &lists) { return lists.defaultParameterList(firstGroup); });
-    add("defaultResultList of a group",
-        [](const auto &lists) { return lists.defaultResultList(firstGroup); });
-    add("defaultParameterSubGroupList of a group",
-        [](const auto &lists) { return lists.defaultParameterSubGroupList(firstGroup); });
-    add("defaultParameterListInSubGroup, one", [](const auto &lists) {
+    compareLists("defaultParameterSubGroupList of a group", oneGroup,
+                 [](const auto &lists) { return lists.defaultParameterSubGroupList(firstGroup); });
+    compareLists("defaultParameterSubGroupList of everything", groupsOfFive,
+                 [](const auto &lists) { return lists.defaultParameterSubGroupList(); });
+    compareLists("defaultParameterListInSubGroup, one", oneGroup, [](const auto &lists) {
         return lists.defaultParameterListInSubGroup(firstGroup, firstSubGroup);
     });
-}
-
-void addListsOfEverything()
-{
-    const auto add = [](const char *operation, auto ask) {
-        compareLists(operation, 1000, groupsOfFive<AUTH_SET>, groupsOfFive<PlainRegistry>, ask);
-    };
-    add("defaultParameterList of everything",
-        [](const auto &lists) { return lists.defaultParameterList(); });
-    add("defaultResultList of everything",
-        [](const auto &lists) { return lists.defaultResultList(); });
-    add("defaultParameterSubGroupList of everything",
-        [](const auto &lists) { return lists.defaultParameterSubGroupList(); });
-    add("defaultParameterListBySubGroup, one",
-        [](const auto &lists) { return lists.defaultParameterListBySubGroup(firstSubGroup); });
+    compareLists("defaultParameterListBySubGroup, one", groupsOfFive, [](const auto &lists) {
+        return lists.defaultParameterListBySubGroup(firstSubGroup);
+    });
 }
 
 // --- A form that asks for every sub-group ----------------------------------------------
 
-/// 51 parameters in each sub-group. What the registry keeps of earlier answers is not to be
-/// measured: each run begins with one that was not asked yet.
-struct Form
-{
-    AUTH_INF item;
-    AUTH_SET registry;
-    QVector<QPair<QString, QString>> subGroups;
-};
-
-Form makeForm(int size)
-{
-    Form form { moduleItem(0, 0), AUTH_SET(), {} };
-    addMode(&form.item, 0, parameterEntries(size, 0, 51));
-    form.subGroups = registryOf<AUTH_SET>({ form.item }).defaultParameterSubGroupList();
-    return form;
-}
-
-constexpr auto forget = [](Form &form) { form.registry = registryOf<AUTH_SET>({ form.item }); };
-
-/// The answers in an order that does not depend on sub-groups.
+/// The parameters in an order that does not depend on sub-groups.
 QStringList sorted(const Parameters &parameters)
 {
     QStringList texts = shownParameters(parameters);
@@ -165,20 +152,22 @@ QStringList sorted(const Parameters &parameters)
     return texts;
 }
 
-/// Measures @p askOne for each sub-group against @p askOnce for all of them.
+/// Measures @p askOne for each sub-group, one after the other, against @p askOnce for everything.
 template <typename AskOne, typename AskOnce>
 void compareWithOneCall(const char *operation, AskOne askOne, AskOnce askOnce)
 {
-    const auto askEach = [askOne](const Form &form) {
+    const auto askEach = [askOne](const auto &asked) {
         Parameters all;
-        for (const auto &subGroup : form.subGroups)
-            all += askOne(form.registry, subGroup.first);
+        const int size = asked.items.constFirst().inner_mode_parameterList.constFirst().size();
+        for (int i = 0; i < size; i += 51)
+            all += askOne(asked.registry, QStringLiteral("sub-group %1").arg(i / 51));
         return all;
     };
-    compare({ operation, { 102, 510, 2550, 6477 } }, sorted, library(makeForm, askEach, forget),
+    compare({ operation, { 102, 510, 2550, 6477 } }, sorted,
+            library(asked<AUTH_SET>(form), askEach, forget),
             baseline(
-                "defaultParameterList once (at most 3)", 6477, makeForm,
-                [askOnce](const Form &form) { return askOnce(form.registry); }, forget));
+                "defaultParameterList once (at most 3)", 6477, asked<AUTH_SET>(form),
+                [askOnce](const auto &asked) { return askOnce(asked.registry); }, forget));
 }
 
 void addEverySubGroup()
@@ -236,9 +225,8 @@ void addTwoLists()
 
 void addListRows()
 {
-    addListsOfMode();
-    addListsOfGroup();
-    addListsOfEverything();
+    addLists();
+    addSubGroups();
     addEverySubGroup();
     addTwoLists();
 }

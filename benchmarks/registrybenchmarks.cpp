@@ -86,7 +86,7 @@ void compareShapes(const std::string &operation, int largestBaseline, Run run, V
 
 template <typename Registry> Registry appended(const QVector<AUTH_INF> &items)
 {
-    Registry growing;
+    auto growing = registryOf<Registry>({});
     for (const AUTH_INF &item : items)
         growing.append(item);
     return growing;
@@ -132,7 +132,7 @@ void addBuilding()
         },
         summary);
     compareShapes("append and ask by turns", 100, [](const auto &built) {
-        std::decay_t<decltype(built.registry)> growing;
+        auto growing = registryOf<std::decay_t<decltype(built.registry)>>({});
         std::vector<std::tuple<int, bool, int>> answers;
         for (const AUTH_INF &item : built.items) {
             growing.append(item);
