@@ -115,7 +115,7 @@ constexpr auto askOnce = [](auto &registry, const AUTH_INF &item) {
 void addBuilding()
 {
     compareShapes(
-        "build", 10000,
+        "build", 1000,
         [](const auto &built) {
             return registryOf<std::decay_t<decltype(built.registry)>>(built.items);
         },
@@ -180,7 +180,7 @@ void addModes()
             return built.registry.stdModeNameForm(group, mode);
         });
     });
-    compareShapes("set and select every mode", 100, [](auto &built) {
+    compareShapes("set and select every mode", 10, [](auto &built) {
         return answersForModes(built, [&built](const QString &group, const QString &mode) {
             built.registry.exclusive_group_set_mode(group, mode);
             return built.registry.exclusive_group_select(group);
