@@ -4,15 +4,9 @@
 #ifndef INPUT_H
 #define INPUT_H
 
+#include "support/settingsjson.h"
+
 #include <Kelto/AUTH_INF>
-
-#include <QPair>
-#include <QString>
-#include <QStringList>
-#include <QVariant>
-#include <QVector>
-
-using Entries = QVector<QPair<QString, QVariant>>;
 
 /// Texts, numbers and flags, as settings have them.
 inline QVariant settingsValue(int i)

@@ -16,7 +16,7 @@ const QString firstGroup = QStringLiteral("Group 0");
 const QString firstMode = QStringLiteral("mode 0");
 const QString firstSubGroup = QStringLiteral("sub-group 0");
 
-/// Whom to ask for lists: the library's registry itself, or the plain rules beside the plain one.
+/// What gives the lists: the library's registry itself, or the plain rules beside the plain one.
 const AUTH_SET &listsOf(const AUTH_SET &registry)
 {
     return registry;

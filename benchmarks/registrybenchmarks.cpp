@@ -131,7 +131,7 @@ void addBuilding()
             return appended<std::decay_t<decltype(built.registry)>>(built.items);
         },
         summary);
-    compareShapes("append and ask by turns", 100, [](const auto &built) {
+    compareShapes("append and ask alternately", 100, [](const auto &built) {
         auto growing = registryOf<std::decay_t<decltype(built.registry)>>({});
         std::vector<std::tuple<int, bool, int>> answers;
         for (const AUTH_INF &item : built.items) {

@@ -81,7 +81,7 @@ void addAsking()
     });
 }
 
-/// The two groups have keys by turns.
+/// Keys of the two groups alternate.
 template <typename Store> Store makeTwoGroups(int size)
 {
     Entries entries;

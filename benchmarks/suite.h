@@ -25,7 +25,7 @@ struct Row
 
 constexpr auto noReset = [](auto & /*input*/) {};
 
-/// One of those that are compared: makes an input of a given size and works on it. What a run
+/// One side of a comparison: makes an input of a given size and works on it. What a run
 /// changes in the input is undone by the reset, which is not measured.
 template <typename Make, typename Run, typename Reset> struct Side
 {
@@ -58,7 +58,7 @@ template <typename Make, typename Run, typename Reset> struct Side
     }
 };
 
-/// What the library's time is divided by, at sizes up to one that takes it about a second.
+/// The side by whose time the library's is divided. Sizes that take it about a second are left out.
 template <typename Make, typename Run, typename Reset = std::decay_t<decltype(noReset)>>
 Side<Make, Run, Reset> baseline(std::string name, int largestSize, Make make, Run run,
                                 Reset reset = noReset)

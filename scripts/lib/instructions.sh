@@ -3,7 +3,7 @@
 # shellcheck shell=bash
 
 # Counts the instructions of loading and saving, by the library and by QSettings
-# alone. Other than times, they are nearly the same in every run.
+# alone. Unlike times, they are nearly the same in every run.
 
 # count PROGRAM STEP FILE KEYS: the instructions of one step.
 count() {

@@ -8,7 +8,7 @@
 
 #include <QSettings>
 
-// What there is to loading and saving a file when QSettings does it all.
+// Loading and saving settings with QSettings alone.
 
 inline Entries loadWithQSettings(const QString &path)
 {

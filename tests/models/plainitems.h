@@ -9,8 +9,8 @@
 
 #include <Kelto/AUTH_INF>
 
-// Module items in files and the check of entered values, in their plainest form: each key is looked
-// up in a list that is walked along, and lists are asked for every name.
+// Module items in files, and the check of entered values, in their plainest form: every key is
+// searched for from the front of a list.
 
 namespace PlainItems {
 

@@ -357,7 +357,7 @@ void PlainRegistry::collectGroupNames()
 void PlainRegistry::collectModes()
 {
     for (int m = 0; m < m_modules.size(); ++m) {
-        // Not the flag of the module but the name of its group decides.
+        // The name of its group decides, not the flag of the module.
         const QString group = m_modules.at(m).group;
         if (!m_groupNames.contains(group))
             continue;

@@ -15,7 +15,7 @@
 
 /**
  * The rules of the module registry in their plainest form: parallel lists, rebuilt on every change
- * and scanned from the front at every question.
+ * and searched from the front on every call.
  *
  * Tests compare AUTH_SET with it and benchmarks measure AUTH_SET against it, so it is to be obvious
  * and not fast. Operations have the names and the meaning that they have in AUTH_SET. It touches no

@@ -6,8 +6,8 @@
 
 #include "support/settingsjson.h"
 
-/// The rules of a settings store in memory, transcribed one by one, without a thought of speed. The
-/// library's store is compared with it, also in time, and so it takes arguments by value like that.
+/// The rules of a settings store in memory, transcribed one by one, with no regard to speed. It
+/// takes its arguments by value, as the library does, because times are compared, too.
 class PlainSettings
 {
 public:

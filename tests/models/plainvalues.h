@@ -4,17 +4,18 @@
 #ifndef PLAINVALUES_H
 #define PLAINVALUES_H
 
+#include "models/plainfile.h"
+
 #include <QDir>
 #include <QPair>
-#include <QSettings>
 #include <QString>
 #include <QStringList>
 #include <QVariant>
 #include <QVector>
 
 /**
- * The rules of the stored values in their plainest form: vectors that are walked along at every
- * question.
+ * The rules of the stored values in their plainest form: vectors that are searched from the front
+ * on every call.
  *
  * Tests compare AUTH_SET with it and benchmarks measure AUTH_SET against it, so it is to be obvious
  * and not fast. Operations have the names and the meaning that they have in AUTH_SET. What is
@@ -126,21 +127,15 @@ public:
 
     bool save(QString path, const Entries *values) const
     {
-        QSettings settings(path, QSettings::IniFormat);
-        settings.setIniCodec("utf-8");
-        for (const Entry &entry : *values)
-            settings.setValue(entry.first, entry.second);
-        settings.sync();
+        saveWithQSettings(path, *values);
         return true;
     }
 
     bool load(QString path, Entries *values) const
     {
-        QSettings settings(path, QSettings::IniFormat);
-        settings.setIniCodec("utf-8");
-        const QStringList keys = settings.allKeys();
-        for (const QString &key : keys)
-            setIn(*values, key, settings.value(key));
+        const Entries loaded = loadWithQSettings(path);
+        for (const Entry &entry : loaded)
+            setIn(*values, entry.first, entry.second);
         return true;
     }
 
