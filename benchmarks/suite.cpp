@@ -5,8 +5,10 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <iomanip>
 #include <iostream>
+#include <iterator>
 #include <map>
 #include <sstream>
 
@@ -29,23 +31,8 @@ std::string familyName(const Row &row, const std::string &side)
     return row.operation + '/' + side;
 }
 
-/// What was measured of one side.
-struct Times
-{
-    /// The shortest by size: what else the machine does can only lengthen one.
-    std::map<int, double> nanoseconds;
-    std::string growth;
-};
-
-std::string growthText(benchmark::BigO complexity)
-{
-    static const std::map<benchmark::BigO, std::string> texts {
-        { benchmark::o1, "1" },          { benchmark::oLogN, "log n" },
-        { benchmark::oN, "n" },          { benchmark::oNLogN, "n log n" },
-        { benchmark::oNSquared, "n^2" }, { benchmark::oNCubed, "n^3" },
-    };
-    return texts.at(complexity);
-}
+/// The shortest times by size, in nanoseconds: what else the machine does can only lengthen one.
+using Times = std::map<int, double>;
 
 /// Gathers the times.
 class Collector : public benchmark::BenchmarkReporter
@@ -56,9 +43,7 @@ public:
     void ReportRuns(const std::vector<Run> &runs) override
     {
         for (const Run &run : runs) {
-            if (run.report_big_o)
-                m_times[run.run_name.function_name].growth = growthText(run.complexity);
-            else if (run.run_type == Run::RT_Iteration)
+            if (run.run_type == Run::RT_Iteration)
                 takeTime(run);
         }
     }
@@ -73,7 +58,7 @@ private:
     {
         const bool isRealTime = run.run_name.time_type == "real_time";
         const double time = isRealTime ? run.GetAdjustedRealTime() : run.GetAdjustedCPUTime();
-        auto &times = m_times[run.run_name.function_name].nanoseconds;
+        Times &times = m_times[run.run_name.function_name];
         const auto known = times.try_emplace(std::stoi(run.run_name.args), time).first;
         known->second = std::min(known->second, time);
     }
@@ -98,6 +83,19 @@ std::string timeText(double nanoseconds)
     return numberText(nanoseconds) + ' ' + units.at(unit);
 }
 
+/// The exponent with which the time grows, from the second size on: what is done once, however
+/// large n is, hides it at the first.
+std::string growthText(const Times &times)
+{
+    if (times.size() < 3)
+        return "-";
+    const auto from = std::next(times.begin());
+    const auto to = std::prev(times.end());
+    return "n^"
+        + numberText(std::log(to->second / from->second)
+                     / std::log(double(to->first) / from->first));
+}
+
 void printLine(const std::string &title, const std::vector<std::string> &cells)
 {
     std::cout << std::left << std::setw(58) << title << std::right;
@@ -112,8 +110,8 @@ std::vector<std::string> cellsOf(const Row &row, const Times &times, Text text)
 {
     std::vector<std::string> cells;
     for (int size : row.sizes) {
-        const auto time = times.nanoseconds.find(size);
-        cells.push_back(time == times.nanoseconds.end() ? "-" : text(size, time->second));
+        const auto time = times.find(size);
+        cells.push_back(time == times.end() ? "-" : text(size, time->second));
     }
     return cells;
 }
@@ -133,12 +131,11 @@ void printRow(const KnownRow &known, Collector &collector)
     const Times &library = collector.times(known.row, known.sides.front());
     std::vector<std::string> cells
         = cellsOf(known.row, library, [](int, double time) { return timeText(time); });
-    cells.push_back(library.growth);
+    cells.push_back(growthText(library));
     printLine(known.row.operation, cells);
     for (auto side = known.sides.cbegin() + 1; side != known.sides.cend(); ++side) {
-        const auto ratio = [&library](int size, double time) {
-            return numberText(library.nanoseconds.at(size) / time);
-        };
+        const auto ratio
+            = [&library](int size, double time) { return numberText(library.at(size) / time); };
         printLine("    / " + *side, cellsOf(known.row, collector.times(known.row, *side), ratio));
     }
 }
@@ -146,11 +143,12 @@ void printRow(const KnownRow &known, Collector &collector)
 void printTable(Collector &collector)
 {
     std::cout
-        << "Shortest time of one run, and how it grows with n. Below it that time divided by\n"
-           "the time of something else that gives the same answers: above 1 is slower.\n";
+        << "Shortest time of one run, and how it grows: n^1 is linear, n^2 quadratic, and memory\n"
+           "outside of the caches adds to it. Below, that time divided by the time of something\n"
+           "else that gives the same answers: above 1 is slower.\n";
     std::vector<int> sizes;
     for (const KnownRow &known : knownRows()) {
-        if (collector.times(known.row, known.sides.front()).nanoseconds.empty())
+        if (collector.times(known.row, known.sides.front()).empty())
             continue;
         if (known.row.sizes != sizes)
             printSizes(known.row);
@@ -205,6 +203,7 @@ void addRow(const Row &row, const std::vector<AnySide> &sides)
             measure(*side, state);
         };
         auto *family = benchmark::RegisterBenchmark(name.c_str(), run);
+        // Its own fit of the growth goes into the JSON output.
         family->Complexity();
         if (row.isRealTime)
             family->UseRealTime();
