@@ -16,11 +16,15 @@ const QString application = QStringLiteral("Application");
 
 /// A registry reads its stored values when it is made. The plain one touches no file, so this is
 /// done for it.
-template <typename Registry> Registry registryOf(const QVector<AUTH_INF> &items)
+template <typename Registry, typename... Arguments>
+Registry registryOf(const Arguments &...arguments)
 {
     if constexpr (std::is_same_v<Registry, PlainRegistry>)
         loadWithQSettings(QDir::currentPath() + QStringLiteral("/Config/Application_config.ini"));
-    return Registry(application, QStringLiteral("1.0"), items);
+    if constexpr (sizeof...(arguments) == 0)
+        return Registry();
+    else
+        return Registry(application, QStringLiteral("1.0"), arguments...);
 }
 
 template <typename Registry> struct Built
@@ -86,7 +90,7 @@ void compareShapes(const std::string &operation, int largestBaseline, Run run, V
 
 template <typename Registry> Registry appended(const QVector<AUTH_INF> &items)
 {
-    auto growing = registryOf<Registry>({});
+    auto growing = registryOf<Registry>();
     for (const AUTH_INF &item : items)
         growing.append(item);
     return growing;
@@ -132,7 +136,7 @@ void addBuilding()
         },
         summary);
     compareShapes("append and ask alternately", 100, [](const auto &built) {
-        auto growing = registryOf<std::decay_t<decltype(built.registry)>>({});
+        auto growing = registryOf<std::decay_t<decltype(built.registry)>>();
         std::vector<std::tuple<int, bool, int>> answers;
         for (const AUTH_INF &item : built.items) {
             growing.append(item);
