@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: The Kelto developers
+// SPDX-License-Identifier: MIT
+
+// A settings store: what a file holds is read, looked up, changed and saved.
+
+#include "fuzzing.h"
+
+#include <VIniSettings>
+
+using Fuzzing::check;
+
+namespace {
+
+const QString addedKey = QStringLiteral("added");
+const QString addedValue = QStringLiteral("by the program");
+
+void lookUpEverything(const VIniSettings &store)
+{
+    const auto entries = store.data();
+    for (const auto &entry : entries) {
+        check(store.contains(entry.first), "every key that is listed is there");
+        store.value(entry.first).toString();
+    }
+    int keys = store.allKeys(QString()).size();
+    const QStringList groups = store.allGroups();
+    for (const QString &group : groups)
+        keys += store.allKeys(group).size();
+    check(keys >= store.allKeys().size(), "every key is in a group");
+    store.styleSheetFormat();
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    Fuzzing::InputFile file(data, size);
+    const QByteArray before = file.bytes();
+    VIniSettings store(file.path());
+    lookUpEverything(store);
+    store.setValue(addedKey, addedValue);
+    store.saveLocal();
+
+    const VIniSettings saved(file.freshCopy());
+    lookUpEverything(saved);
+    check(saved.value(addedKey) == addedValue || file.bytes() == before,
+          "a file is saved or left alone");
+    return 0;
+}
