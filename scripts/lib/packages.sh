@@ -19,6 +19,7 @@ test_packages=(
     make pkg-config xdotool # hosts built with qmake and pkg-config, and a key press for them
     libbenchmark-dev clang-format-14 clazy shellcheck codespell
 )
+fuzz_packages=(clang-14 libclang-rt-14-dev llvm-14)
 
 say() {
     printf '\n== %s\n' "$*"

@@ -36,8 +36,8 @@ void matchNames(const AUTH_SET &registry, const QStringList &lines)
     for (const auto &mode : modes)
         names.append(mode.first);
     check(registry.currentModeMatching(names).size() == names.size(), "every mode has its name");
-    check(registry.currentModeMatchingCount(lines)
-              == registry.currentModeMatching(lines).size(), "matches are counted");
+    check(registry.currentModeMatchingCount(lines) == registry.currentModeMatching(lines).size(),
+          "matches are counted");
 }
 
 /// Chooses modes in the dialog, which takes their names apart again.

@@ -4,8 +4,8 @@
 // Runs the inputs of the folders that it is given, without libFuzzer. An input that ends it is the
 // last that it has named.
 
-#include "deepinputs.h"
 #include "fuzzing.h"
+#include "largeinputs.h"
 
 #include <QDir>
 #include <QFile>
@@ -40,7 +40,7 @@ int main(int argc, char **argv)
     int inputs = 0;
     for (int i = 1; i < argc; ++i)
         inputs += runFolder(QFile::decodeName(argv[i]));
-    for (const DeepInput &input : deepInputs())
+    for (const LargeInput &input : largeInputs())
         run(QLatin1String(input.name), input.bytes);
     // A folder that has moved is not to look like success.
     return inputs > 0 ? 0 : 1;

