@@ -58,12 +58,12 @@ QStringList lines(const std::uint8_t *data, std::size_t size)
         .split(QLatin1Char('\n'));
 }
 
-InputFile::InputFile(const std::uint8_t *data, std::size_t size)
+InputFile::InputFile(const QByteArray &bytes)
     : m_path(nextPath())
 {
     QFile file(m_path);
     check(file.open(QIODevice::WriteOnly), "there is room for the input");
-    file.write(reinterpret_cast<const char *>(data), static_cast<qint64>(size));
+    file.write(bytes);
 }
 
 QByteArray InputFile::bytes() const

@@ -28,7 +28,7 @@ QStringList lines(const std::uint8_t *data, std::size_t size);
 class InputFile
 {
 public:
-    InputFile(const std::uint8_t *data, std::size_t size);
+    explicit InputFile(const QByteArray &bytes);
     Q_DISABLE_COPY(InputFile)
 
     QString path() const { return m_path; }

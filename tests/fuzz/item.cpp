@@ -35,7 +35,8 @@ QString codeOf(AUTH_INF item)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    Fuzzing::InputFile file(data, size);
+    Fuzzing::InputFile file(
+        QByteArray(reinterpret_cast<const char *>(data), static_cast<int>(size)));
     AUTH_INF item;
     item.load_ini(file.path());
     query(item);
