@@ -16,6 +16,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     for (std::size_t i = 1; i < size; ++i)
         value += "\\x" + QByteArray::number(data[i], 16);
     value += ')';
-    useStore(isElement ? "v=a, " + value + ", " + value : "v=" + value);
+    if (isElement)
+        value.prepend("a, ").append(", b");
+    useStore("v=" + value);
     return 0;
 }
