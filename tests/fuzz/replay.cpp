@@ -6,6 +6,7 @@
 
 #include "fuzzing.h"
 #include "largeinputs.h"
+#include "support/outofmemory.h"
 
 #include <QDir>
 #include <QFile>
