@@ -16,8 +16,9 @@ walk_packages=(
     fonts-dejavu-core fonts-wqy-microhei     # Latin and Chinese glyphs
 )
 test_packages=(
-    make pkg-config xdotool # hosts built with qmake and pkg-config, and a key press for them
-    libbenchmark-dev clang-format-14 clazy shellcheck codespell
+    make pkg-config          # hosts built with qmake and pkg-config
+    clazy libclang-rt-14-dev # Clang with the checks of Qt code, and its sanitizers
+    libbenchmark-dev clang-format-14 shellcheck codespell
 )
 fuzz_packages=(clang-14 libclang-rt-14-dev llvm-14)
 
@@ -61,14 +62,21 @@ need() {
         apt-get install -y --no-install-recommends "${missing[@]}"
 }
 
-# build PRESET [CMAKE-OPTION...]: configures and builds build/PRESET.
+# build PRESET [TARGET...]: configures build/PRESET and builds the targets, or all.
 build() {
-    local preset=$1
+    local preset=$1 targets=()
     shift
+    [ $# -eq 0 ] || targets=(--target "$@")
     say "Building build/$preset"
-    cmake --preset "$preset" "$@" >"build/$preset.log" || {
+    mkdir -p build
+    cmake --preset "$preset" >"build/$preset.log" || {
         cat "build/$preset.log"
         fail "cmake could not configure the preset '$preset'; its last lines above say why."
     }
-    cmake --build --preset "$preset"
+    cmake --build --preset "$preset" "${targets[@]}"
+}
+
+# run_tests PRESET: runs all tests of build/PRESET.
+run_tests() {
+    ctest --preset "$1" --parallel "$(nproc)"
 }

@@ -110,7 +110,7 @@ build_with_pkgconfig() {
 }
 
 build_with_qmake() {
-    need qmake make pkg-config
+    need qmake make pkg-config g++
     PKG_CONFIG_PATH=$(library_dir)/pkgconfig
     export PKG_CONFIG_PATH
     readme_block qmake >host.pro
