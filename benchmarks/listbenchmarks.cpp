@@ -199,7 +199,8 @@ template <typename Registry> struct TwoLists
 template <typename Registry> TwoLists<Registry> makeTwoLists(int size)
 {
     Parameters parameters;
-    for (const QStringList &entry : parameterEntries(size + size / 2))
+    const auto entries = parameterEntries(size + size / 2);
+    for (const QStringList &entry : entries)
         parameters.append(VParameter(entry));
     return { Registry(), parameters.mid(0, size), parameters.mid(size / 2) };
 }

@@ -15,7 +15,7 @@ namespace {
 
 using Hash = QHash<QString, QVariant>;
 
-const std::vector<int> sizes { 10, 1000, 10000, 100000 };
+const auto sizes = { 10, 1000, 10000, 100000 };
 
 /// Runs that only ask work on the same store each time, as hosts do that keep one. What an index
 /// costs is part of the rows that begin with a new store.
