@@ -70,15 +70,16 @@ public:
     /// nothing yet.
     void setQuickSaveMode(bool on);
 
-    /// The keys in the order of the list, doubles kept.
+    /// The keys in the order of the list, duplicates kept.
     QStringList allKeys() const;
     /// The whole keys that begin with @p group and "/", and a key that is @p group itself, in the
     /// order of the list. The empty group holds the keys without "/".
     QStringList allKeys(QString group) const;
-    /// The keys of @p data, in order, doubles kept.
+    /// The keys of @p data, in order, duplicates kept.
     QStringList allKeys(const QVector<QPair<QString, QVariant>> *data) const;
 
-    /// What stands before the first "/" of the keys, without doubles, in order of first appearance.
+    /// What stands before the first "/" of the keys, without duplicates, in order of first
+    /// appearance.
     QStringList allGroups() const;
 
     /// Whether the store has the key @p key.

@@ -1,361 +1,382 @@
 // SPDX-FileCopyrightText: The Kelto developers
 // SPDX-License-Identifier: MIT
 
-// A settings store in memory; no row here has a file.
+// A settings store in memory. Random changes, with every answer of the store and of the copies that
+// were left behind compared to that of the plain rules of PlainSettings; a failure names the seed
+// and all steps. The rules that hosts rely on stand as rows with their answers written out.
 
 #include <Kelto/VIniSettings>
 
 #include "models/plainsettings.h"
 #include "support/directorytest.h"
-#include "support/settingsjson.h"
+#include "support/randomentries.h"
+#include "support/testfiles.h"
+#include "support/twins.h"
 
 #include <QTest>
 
 #include <functional>
+#include <type_traits>
 #include <utility>
 
 namespace {
 
-using Change = std::function<void(VIniSettings &)>;
-using Query = std::function<QVariant(VIniSettings &)>;
-
-/// Groups that appear in the order b, a, with a key in none, and groups in groups.
-Entries grouped()
+/// What is set and asked for in the lives of one row, and how many entries come at once.
+struct Names
 {
-    return { { "b/1", 1 }, { "a/1", "one" }, { "b/2", 2 },
-             { "top", 3 }, { "a/x/y", 4 },   { "ab/1", 5 } };
+    QStringList keys;
+    QStringList groups;
+    int mostEntries = 6;
+};
+
+using StoreTwins = Twins<PlainSettings, VIniSettings>;
+
+/// Asks both and compares the answers with their types; a change without an answer gives the list.
+template <typename Question, typename... Arguments>
+void ask(StoreTwins &twins, const char *operation, Question question, const Arguments &...arguments)
+{
+    const auto describedAnswer = [&question](auto &store, const auto &...asked) {
+        if constexpr (std::is_void_v<decltype(question(store, asked...))>) {
+            question(store, asked...);
+            return described(store.data());
+        } else {
+            return described(question(store, asked...));
+        }
+    };
+    twins.ask(operation, describedAnswer, arguments...);
 }
 
-Entries withDoubles()
+void askEverything(StoreTwins &twins, const Names &names)
 {
-    return { { "a", 1 }, { "g/b", 2 }, { "a", 3 }, { "g/b", 4 }, { "c", 5 } };
+    ask(twins, OPERATION(data));
+    ask(twins, OPERATION(allKeys));
+    ask(twins, OPERATION(filepath));
+    ask(twins, OPERATION(allGroups));
+    ask(twins, OPERATION(styleSheetFormat));
+    for (const QString &key : names.keys) {
+        ask(twins, OPERATION(value), key);
+        ask(twins, OPERATION(contains), key);
+    }
+    for (const QString &group : names.groups)
+        ask(twins, OPERATION(allKeys), group);
 }
+
+/// A store without a file, made by any constructor; the first three take @p data over.
+VIniSettings constructed(int constructor, const Entries &data)
+{
+    const VIniSettings stores[] = {
+        VIniSettings(data),      VIniSettings(QString(), data), VIniSettings(QString(), true, data),
+        VIniSettings(QString()), VIniSettings(QString(), true), VIniSettings()
+    };
+    return stores[constructor];
+}
+
+const auto startAnew = [](auto &store, int constructor, const Entries &data) {
+    if constexpr (std::is_same_v<decltype(store), VIniSettings &>)
+        store = constructed(constructor, data);
+    else
+        store = PlainSettings(constructor < 3 ? data : Entries());
+};
+
+/// Without a file none of this does anything.
+const auto useFile = [](auto &store) {
+    if constexpr (std::is_same_v<decltype(store), VIniSettings &>) {
+        store.setPath(QString());
+        store.saveLocal();
+        store.setQuickSaveMode(true);
+    }
+};
+
+const auto assignToItself = [](auto &store) {
+    const auto &itself = store;
+    store = itself;
+    // What a moved-from store holds is open, but it must still be a store.
+    auto moved = std::move(store);
+    store = moved;
+};
+
+const auto setIn = [](auto &store, Entries target, const QString &key, const QVariant &value) {
+    store.setValue(key, value, &target);
+    return target;
+};
+
+/// The source must stay as it is, although the target may share its data.
+const auto setAllIn = [](auto &store, Entries target, const Entries &source) {
+    store.setValue(&target, &source);
+    store.setValue(&target, &target);
+    return target + source;
+};
+
+const auto lookIn = [](auto &store, const Entries &entries, const QString &key) {
+    return store.allKeys(&entries) << described(store.value(key, &entries));
+};
+
+/// The random life of one store and of the copies that it leaves behind.
+class Life : private TwinLife<PlainSettings, VIniSettings>
+{
+public:
+    Life(unsigned seed, const Names &names)
+        : TwinLife(seed)
+        , m_names(names)
+    {
+    }
+
+    /// What the store answers differently from the plain rules; empty when it does not.
+    QString difference()
+    {
+        change("start anew", startAnew, 0, entries(2 * m_names.keys.size()));
+        for (int step = 0; step < 60 && !m_twins.differ(); ++step) {
+            takeStep();
+            ask(m_twins, OPERATION(allKeys));
+            if (m_dice.chance(30))
+                askEverything(m_twins, m_names);
+        }
+        return differenceAtTheEnd([this](auto &twins) { askEverything(twins, m_names); });
+    }
+
+private:
+    void takeStep()
+    {
+        const QString key = m_dice.oneOf(m_names.keys);
+        const QStringList keys = m_dice.someOf(m_names.keys, m_dice.between(0, 4));
+        const Entries some = entries(m_names.mostEntries);
+        const Entries others = m_dice.chance(20) ? some : entries(3);
+        switch (m_dice.between(0, 19)) {
+        case 0:
+            return change(OPERATION(remove), key);
+        case 1:
+            return change(OPERATION(remove), keys);
+        case 2:
+            return change(OPERATION(removeGroup), m_dice.oneOf(m_names.groups));
+        case 3:
+            return change("setValue in", setIn, others, key, value());
+        case 4:
+            return change("setValue of all in", setAllIn, others, some);
+        case 5:
+            return change("look in", lookIn, some, key);
+        case 6:
+            return change(OPERATION(contains), keys);
+        case 7:
+        case 8:
+            return change(OPERATION(setValue), some, m_dice.chance(30));
+        case 9:
+            return change("start anew", startAnew, m_dice.between(0, 5), some);
+        case 10:
+            return change("use a file", useFile);
+        case 11:
+            return change("assign to itself", assignToItself);
+        case 12:
+            return copy();
+        case 13:
+            return m_dice.chance(50) ? goOnWithCopy() : goBackToCopy();
+        default:
+            change(OPERATION(setValue), key, value());
+        }
+    }
+
+    /// Does the same with both, which have to answer the same.
+    template <typename Step, typename... Arguments>
+    void change(const char *operation, Step step, const Arguments &...arguments)
+    {
+        m_twins.change(printed(operation, arguments...),
+                       [](const auto &) { /* Asking is what changes them. */ });
+        ask(m_twins, operation, step, arguments...);
+    }
+
+    Entries entries(int most)
+    {
+        return someEntries(&m_dice, m_names.keys, m_dice.between(0, most));
+    }
+
+    QVariant value()
+    {
+        const int number = m_dice.between(0, 999);
+        const QString text = QString::number(number);
+        const QVariantList values { number, number / 8.0,      number % 2 == 0,
+                                    text,   QStringList(text), {} };
+        return values.at(m_dice.between(0, 5));
+    }
+
+    Names m_names;
+};
+
+QStringList manyKeys()
+{
+    QStringList keys;
+    for (int i = 0; i < 60; ++i)
+        keys.append(labelled(i % 3 == 0 ? "top" : i % 3 == 1 ? "g/" : "h/", i));
+    return keys;
+}
+
+/// The list with its values as text, and the keys where they differ from those of the list.
+QStringList content(const VIniSettings &store)
+{
+    const Entries data = store.data();
+    QStringList lines;
+    for (const auto &entry : data)
+        lines.append(entry.first + '=' + entry.second.toString());
+    if (store.allKeys() != store.allKeys(&data))
+        lines << "keys" << store.allKeys();
+    return lines;
+}
+
+using Answer = std::function<QStringList(VIniSettings &)>;
 
 } // namespace
 
-Q_DECLARE_METATYPE(Change)
-Q_DECLARE_METATYPE(Query)
+Q_DECLARE_METATYPE(Names)
+Q_DECLARE_METATYPE(Answer)
 
 class TestVIniSettings : public SilentDirectoryTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void startsEmpty();
-    void takesDataAsItIs_data();
-    void takesDataAsItIs();
-    void answers_data();
-    void answers();
-    void changes_data();
-    void changes();
-    void removes_data();
-    void removes();
-    void copiesAreIndependent();
-    void copiesKeepKeysApart();
+    void agreesWithThePlainRules_data()
+    {
+        QTest::addColumn<Names>("names");
+
+        QTest::newRow("few keys") << Names { { "a", "a/b", "normal/x", "normal" },
+                                             { "", "a", "normal", "nowhere" } };
+        QTest::newRow("keys that hardly differ")
+            << Names { { "", "/", "a", "A", "a/", "a/b", "A/b", "a//b", "ab/c", "ab", "/a", "b/a" },
+                       { "", "a", "A", "a/", "ab", "/", "a/b", "b" } };
+        QTest::newRow("groups in groups")
+            << Names { { "a/b/c", "a/b/d", "a/b", "a/bc/d", "b/c", "a", "b" },
+                       { "a", "a/b", "b", "a/b/c", "c" } };
+        QTest::newRow("keys of style sheets")
+            << Names { { "ID/QtClassName", "ID/ClassName", "ID", "normal/a", "normal/b", "hover/a",
+                         "hover", "/slash", "", "top", "hover/a/b", "Normal/x", "悬停/颜色" },
+                       { "ID", "normal", "hover", "Normal", "悬停" } };
+        QTest::newRow("many keys") << Names { manyKeys(), { "", "g", "h", "top0", "nowhere" }, 40 };
+    }
+
+    void agreesWithThePlainRules()
+    {
+        QFETCH(Names, names);
+        for (unsigned seed = 1; seed <= 12; ++seed) {
+            const QString difference = Life(seed, names).difference();
+            QVERIFY2(difference.isEmpty(), qPrintable(printed("seed", seed) + difference));
+        }
+        QCOMPARE(filesIn("."), QStringList());
+    }
+
+    void keepsItsRules_data()
+    {
+        QTest::addColumn<Entries>("data");
+        QTest::addColumn<Answer>("answer");
+        QTest::addColumn<QStringList>("expected");
+        const auto row = [](const char *name, const Entries &data, const Answer &answer,
+                            const QStringList &expected) {
+            QTest::newRow(name) << data << answer << expected;
+        };
+        const Entries two { { "a", 1 }, { "b", 2 } };
+        const Answer setting = [](auto &s) {
+            s.setValue("a", 3);
+            s.setValue("B", 4);
+            return content(s);
+        };
+        row("a known key is set in place", two, setting, { "a=3", "b=2", "B=4" });
+        const Answer merging = [](auto &s) {
+            s.setValue({ { "c", 3 }, { "a", 4 }, { "c", 5 } }, false);
+            return content(s);
+        };
+        row("merging sets in place and appends", two, merging, { "a=4", "b=2", "c=5" });
+        const Answer replacing = [](auto &s) {
+            s.setValue({ { "c", 3 }, { "c", 4 } }, true);
+            return content(s);
+        };
+        row("replacing forgets what was there", two, replacing, { "c=3", "c=4" });
+
+        row("the empty group has the keys without a slash",
+            { { "g/a", 1 }, { "b", 2 }, { "/c", 3 }, { "d/", 4 } },
+            [](auto &s) { return s.allKeys(QString()); }, { "b" });
+        row("a group has the key of its name and none of a longer one",
+            { { "grpx/y", 1 }, { "grp", 2 }, { "x/grp", 3 }, { "grp/x", 4 } },
+            [](auto &s) { return s.allKeys("grp"); }, { "grp", "grp/x" });
+        row("groups in order of first appearance", { { "b/1", 1 }, { "a/1", 2 }, { "b/2", 3 } },
+            [](auto &s) { return s.allGroups(); }, { "b", "a" });
+
+        const auto removed = [](bool done, const VIniSettings &s) {
+            return QStringList(done ? "yes" : "no") + content(s);
+        };
+        row("removing stops at the first unknown key", two,
+            [=](auto &s) {
+                return removed(s.remove({ "a", "c", "b" }), s);
+            },
+            { "no", "b=2" });
+        row("a group without keys cannot be removed", two,
+            [=](auto &s) { return removed(s.removeGroup("g"), s); }, { "no", "a=1", "b=2" });
+
+        const Answer settingElsewhere = [](auto &s) {
+            Entries target;
+            s.setValue("x", 3, &target);
+            return content(s);
+        };
+        row("a key that is new in another list is also one of the store", two, settingElsewhere,
+            { "a=1", "b=2", "keys", "a", "b", "x" });
+    }
+
+    void keepsItsRules()
+    {
+        QFETCH(Entries, data);
+        QFETCH(Answer, answer);
+        VIniSettings store(data);
+        QTEST(answer(store), "expected");
+    }
+
+    void survivesNullPointers()
+    {
+        VIniSettings store(Entries { { "a", 1 } });
+        Entries *const nothing = nullptr;
+        Entries target { { "x", 1 } };
+        store.setValue("b", 2, nothing);
+        store.setValue(nothing, &target);
+        store.setValue(&target, nothing);
+        QCOMPARE(store.value("a", nothing).isValid(), false);
+        QCOMPARE(store.allKeys(nothing), QStringList());
+        QCOMPARE(content(store), QStringList("a=1"));
+        QCOMPARE(described(target), described(Entries { { "x", 1 } }));
+    }
+
+    void formatsStyleSheets_data()
+    {
+        QTest::addColumn<Entries>("data");
+        QTest::addColumn<QString>("expected");
+
+        const QPair<QString, QVariant> widget("ID/QtClassName", "QLabel");
+        QTest::newRow("plain state first, others in order of appearance")
+            << Entries { { "z/2", 1 }, { "normal/b", 2 }, { "b/1", "x" }, widget, { "z/1", 4 } }
+            << "QLabel{normal/b=2;};QLabel:z{z/2=1;z/1=4;};QLabel:b{b/1=x;};";
+        QTest::newRow("no class") << Entries { { "normal/a", 1 }, { "hover/b", 2 } }
+                                  << "{normal/a=1;};:hover{hover/b=2;};";
+        QTest::newRow("no plain state")
+            << Entries { widget, { "hover/b", 2 } } << "QLabel:hover{hover/b=2;};";
+        QTest::newRow("the class only") << Entries { widget, { "ID/ClassName", "Mine" } } << "";
+        QTest::newRow("top-level keys only where they are named like a group")
+            << Entries { widget, { "top", 1 }, { "hover/a", 2 }, { "hover", 3 } }
+            << "QLabel:hover{hover/a=2;hover=3;};";
+        QTest::newRow("a group without a name has the top-level keys")
+            << Entries { { "top", 1 }, { "/a", 2 }, { "", 3 } } << ":{top=1;=3;};";
+        QTest::newRow("nothing is escaped")
+            << Entries { { "ID/QtClassName", "A B" }, { "normal/a b", "x;y}={ \"z\"" } }
+            << "A B{normal/a b=x;y}={ \"z\";};";
+    }
+
+    void formatsStyleSheets()
+    {
+        QFETCH(Entries, data);
+        QTEST(VIniSettings(data).styleSheetFormat(), "expected");
+    }
+
+    void formatsWhatItHoldsAndNotItsFile()
+    {
+        QVERIFY(writeFile("style.ini", "[normal]\ncolor=red\n"));
+        const VIniSettings store(QString("style.ini"));
+        QVERIFY(writeFile("style.ini", "[normal]\ncolor=blue\n"));
+        QCOMPARE(store.styleSheetFormat(), QString("{normal/color=red;};"));
+    }
 };
-
-void TestVIniSettings::startsEmpty()
-{
-    const VIniSettings store;
-    QCOMPARE(store.filepath(), QString());
-    QCOMPARE(store.allKeys(), QStringList());
-    QCOMPARE(store.data(), Entries());
-    QCOMPARE(store.allGroups(), QStringList());
-    QCOMPARE(store.styleSheetFormat(), QString());
-}
-
-void TestVIniSettings::takesDataAsItIs_data()
-{
-    QTest::addColumn<Entries>("data");
-    QTest::addColumn<QStringList>("keys");
-
-    QTest::newRow("nothing") << Entries() << QStringList();
-    QTest::newRow("order is kept")
-        << grouped() << QStringList { "b/1", "a/1", "b/2", "top", "a/x/y", "ab/1" };
-    QTest::newRow("doubles are kept")
-        << withDoubles() << QStringList { "a", "g/b", "a", "g/b", "c" };
-    QTest::newRow("empty keys and invalid values are kept")
-        << Entries { { "", 1 }, { "a", {} }, { "/", 2 } } << QStringList { "", "a", "/" };
-}
-
-void TestVIniSettings::takesDataAsItIs()
-{
-    QFETCH(Entries, data);
-    QFETCH(QStringList, keys);
-
-    const VIniSettings constructed(data);
-    QCOMPARE(constructed.filepath(), QString());
-    QCOMPARE(constructed.allKeys(), keys);
-    QCOMPARE(described(constructed.data()), described(data));
-    QCOMPARE(constructed.allKeys(&data), keys);
-
-    VIniSettings replaced(Entries { { "old", 1 } });
-    replaced.setValue(data, true);
-    QCOMPARE(replaced.allKeys(), keys);
-    QCOMPARE(described(replaced.data()), described(data));
-}
-
-void TestVIniSettings::answers_data()
-{
-    QTest::addColumn<Entries>("data");
-    QTest::addColumn<Query>("query");
-    QTest::addColumn<QVariant>("expected");
-    const auto row
-        = [](const char *name, const Entries &data, const Query &query, const QVariant &expected) {
-              QTest::newRow(name) << data << query << expected;
-          };
-    const auto valueOf = [](const QString &key) {
-        return Query([key](VIniSettings &store) { return store.value(key); });
-    };
-    row("value of a key", grouped(), valueOf("a/1"), "one");
-    row("value keeps its type", grouped(), valueOf("b/2"), 2);
-    row("value of a top-level key", grouped(), valueOf("top"), 3);
-    row("value of the first of two", withDoubles(), valueOf("g/b"), 2);
-    row("value of an unknown key is invalid", grouped(), valueOf("nowhere"), QVariant());
-    row("value compares with case", grouped(), valueOf("A/1"), QVariant());
-    row("value wants the whole key", grouped(), valueOf("1"), QVariant());
-    row("value in an empty store is invalid", {}, valueOf(""), QVariant());
-    row("value of the empty key", { { "", 7 } }, valueOf(""), 7);
-
-    const auto contains = [](const QStringList &keys) {
-        return Query([keys](VIniSettings &store) { return store.contains(keys); });
-    };
-    const auto containsOne = [](const QString &key) {
-        return Query([key](VIniSettings &store) { return store.contains(key); });
-    };
-    row("contains a key", grouped(), containsOne("a/1"), true);
-    row("contains no group", grouped(), containsOne("a"), false);
-    row("contains compares with case", grouped(), containsOne("Top"), false);
-    row("contains nothing when empty", {}, containsOne(""), false);
-    row("contains all keys", grouped(), contains({ "top", "b/1" }), true);
-    row("contains not all keys", grouped(), contains({ "top", "nowhere", "b/1" }), false);
-    row("contains a key that is asked for twice", grouped(), contains({ "top", "top" }), true);
-    row("contains all of no keys", grouped(), contains({}), true);
-    row("contains all of no keys when empty", {}, contains({}), true);
-
-    const auto keysOf = [](const QString &group) {
-        return Query([group](VIniSettings &store) { return store.allKeys(group); });
-    };
-    row("the empty group holds the top-level keys", grouped(), keysOf(""), QStringList { "top" });
-    row("a null group is the empty group", grouped(), keysOf(QString()), QStringList { "top" });
-    row("a group holds its whole keys in order", grouped(), keysOf("b"),
-        QStringList { "b/1", "b/2" });
-    row("a group holds the keys of its groups and not those of a longer name", grouped(),
-        keysOf("a"), QStringList { "a/1", "a/x/y" });
-    row("a group in a group", grouped(), keysOf("a/x"), QStringList { "a/x/y" });
-    row("a whole key is no group", grouped(), keysOf("a/1"), QStringList());
-    row("a group holds the top-level key of its name",
-        { { "grpx/y", 1 }, { "grp", 2 }, { "x/grp", 3 }, { "grp/x", 4 } }, keysOf("grp"),
-        QStringList { "grp", "grp/x" });
-    row("a top-level key alone makes no group of another case", grouped(), keysOf("TOP"),
-        QStringList());
-    row("a group with a slash at its end", { { "a/b", 1 }, { "a//b", 2 } }, keysOf("a/"),
-        QStringList { "a//b" });
-    row("a key that is group and slash", { { "a/", 1 } }, keysOf("a"), QStringList { "a/" });
-    row("a group of doubles", withDoubles(), keysOf("g"), QStringList { "g/b", "g/b" });
-    row("an unknown group", grouped(), keysOf("nowhere"), QStringList());
-    row("the empty group without top-level keys", { { "/x", 1 } }, keysOf(""), QStringList());
-    row("the empty key is a top-level key", { { "", 1 } }, keysOf(""), QStringList { "" });
-
-    const auto groups = [](VIniSettings &store) { return store.allGroups(); };
-    row("groups in order of first appearance", { { "b/1", 1 }, { "a/1", 2 }, { "b/2", 3 } }, groups,
-        QStringList { "b", "a" });
-    row("groups are first parts", grouped(), groups, QStringList { "b", "a", "ab" });
-    row("no groups of top-level keys", { { "a", 1 }, { "", 2 } }, groups, QStringList());
-    row("groups differ by case", { { "A/1", 1 }, { "a/1", 2 } }, groups, QStringList { "A", "a" });
-    row("a key with a slash in front has the empty group", { { "/a", 1 }, { "b/", 2 } }, groups,
-        QStringList { "", "b" });
-}
-
-void TestVIniSettings::answers()
-{
-    QFETCH(Entries, data);
-    QFETCH(Query, query);
-    QFETCH(QVariant, expected);
-
-    VIniSettings store(data);
-    QCOMPARE(described(query(store)), described(expected));
-    QCOMPARE(described(store.data()), described(data));
-    QCOMPARE(store.allKeys(), PlainSettings::allKeys(data));
-}
-
-void TestVIniSettings::changes_data()
-{
-    QTest::addColumn<Entries>("data");
-    QTest::addColumn<Change>("change");
-    QTest::addColumn<Entries>("expected");
-    const auto row
-        = [](const char *name, const Entries &data, const Change &change, const Entries &expected) {
-              QTest::newRow(name) << data << change << expected;
-          };
-    const auto set = [](const QString &key, const QVariant &value) {
-        return Change([=](VIniSettings &store) { store.setValue(key, value); });
-    };
-    const Entries two { { "a", 1 }, { "b", 2 } };
-    row("setting a known key changes it in place", two, set("a", "x"),
-        { { "a", "x" }, { "b", 2 } });
-    row("setting an unknown key appends it", two, set("g/c", 3),
-        { { "a", 1 }, { "b", 2 }, { "g/c", 3 } });
-    row("setting compares with case", two, set("B", 3), { { "a", 1 }, { "b", 2 }, { "B", 3 } });
-    row("setting changes the first of two", withDoubles(), set("a", 9),
-        { { "a", 9 }, { "g/b", 2 }, { "a", 3 }, { "g/b", 4 }, { "c", 5 } });
-    row("setting in an empty store", {}, set("a", 1), { { "a", 1 } });
-    row("setting an invalid value keeps the key", two, set("b", QVariant()),
-        { { "a", 1 }, { "b", {} } });
-    row("setting the empty key", two, set("", 3), { { "a", 1 }, { "b", 2 }, { "", 3 } });
-
-    const auto merge = [](const Entries &data) {
-        return Change([=](VIniSettings &store) { store.setValue(data, false); });
-    };
-    row("merging updates in place and appends at the end", two,
-        merge({ { "c", 3 }, { "a", 4 }, { "d", 5 } }),
-        { { "a", 4 }, { "b", 2 }, { "c", 3 }, { "d", 5 } });
-    row("merging doubles takes the last of them", two, merge({ { "c", 3 }, { "c", 4 } }),
-        { { "a", 1 }, { "b", 2 }, { "c", 4 } });
-    row("merging into doubles changes the first", withDoubles(), merge({ { "g/b", 9 } }),
-        { { "a", 1 }, { "g/b", 9 }, { "a", 3 }, { "g/b", 4 }, { "c", 5 } });
-    row("merging nothing", two, merge({}), two);
-    row("merging into nothing", {}, merge(two), two);
-
-    const auto replace = [](const Entries &data) {
-        return Change([=](VIniSettings &store) { store.setValue(data, true); });
-    };
-    row("replacing forgets what was held", two, replace({ { "c", 3 } }), { { "c", 3 } });
-    row("replacing keeps doubles", two, replace(withDoubles()), withDoubles());
-    row("replacing by nothing", two, replace({}), {});
-
-    row("quick-save mode without a file changes nothing else", two,
-        [](VIniSettings &store) {
-            store.setQuickSaveMode(true);
-            store.setValue("a", 5);
-            store.setValue("c", 6);
-        },
-        { { "a", 5 }, { "b", 2 }, { "c", 6 } });
-    row(
-        "saving without a file changes nothing", two,
-        [](VIniSettings &store) { store.saveLocal(); }, two);
-    row(
-        "binding to the empty path changes nothing", two,
-        [](VIniSettings &store) { store.setPath(QString()); }, two);
-}
-
-void TestVIniSettings::changes()
-{
-    QFETCH(Entries, data);
-    QFETCH(Change, change);
-    QFETCH(Entries, expected);
-
-    VIniSettings store(data);
-    change(store);
-    QCOMPARE(described(store.data()), described(expected));
-    QCOMPARE(store.allKeys(), PlainSettings::allKeys(expected));
-    QCOMPARE(store.filepath(), QString());
-}
-
-void TestVIniSettings::removes_data()
-{
-    QTest::addColumn<Entries>("data");
-    QTest::addColumn<Query>("removal");
-    QTest::addColumn<bool>("result");
-    QTest::addColumn<Entries>("left");
-    const auto row
-        = [](const char *name, const Entries &data, const Query &removal, bool result,
-             const Entries &left) { QTest::newRow(name) << data << removal << result << left; };
-    const Entries three { { "a", 1 }, { "g/b", 2 }, { "c", 3 } };
-    const auto one = [](const QString &key) {
-        return Query([=](VIniSettings &store) { return store.remove(key); });
-    };
-    row("a key", three, one("g/b"), true, { { "a", 1 }, { "c", 3 } });
-    row("an unknown key", three, one("b"), false, three);
-    row("a key in another case", three, one("A"), false, three);
-    row("the first of two", withDoubles(), one("a"), true,
-        { { "g/b", 2 }, { "a", 3 }, { "g/b", 4 }, { "c", 5 } });
-    row("from an empty store", {}, one(""), false, {});
-
-    const auto many = [](const QStringList &keys) {
-        return Query([=](VIniSettings &store) { return store.remove(keys); });
-    };
-    row("several keys", three, many({ "c", "a" }), true, { { "g/b", 2 } });
-    row("no keys", three, many({}), true, three);
-    row("no keys from an empty store", {}, many({}), true, {});
-    row("up to the first unknown key", three, many({ "c", "nowhere", "a" }), false,
-        { { "a", 1 }, { "g/b", 2 } });
-    row("a key named twice fails the second time", three, many({ "a", "a", "c" }), false,
-        { { "g/b", 2 }, { "c", 3 } });
-    row("a double key named twice", withDoubles(), many({ "a", "a", "c" }), true,
-        { { "g/b", 2 }, { "g/b", 4 } });
-    row("a double key named three times", withDoubles(), many({ "a", "a", "a", "c" }), false,
-        { { "g/b", 2 }, { "g/b", 4 }, { "c", 5 } });
-
-    const auto group = [](const QString &name) {
-        return Query([=](VIniSettings &store) { return store.removeGroup(name); });
-    };
-    row("a group", grouped(), group("b"), true,
-        { { "a/1", "one" }, { "top", 3 }, { "a/x/y", 4 }, { "ab/1", 5 } });
-    row("a group with the groups in it", grouped(), group("a"), true,
-        { { "b/1", 1 }, { "b/2", 2 }, { "top", 3 }, { "ab/1", 5 } });
-    row("a group in a group", grouped(), group("a/x"), true,
-        { { "b/1", 1 }, { "a/1", "one" }, { "b/2", 2 }, { "top", 3 }, { "ab/1", 5 } });
-    row("a group with the top-level key of its name", { { "g", 1 }, { "gx", 2 }, { "g/x", 3 } },
-        group("g"), true, { { "gx", 2 } });
-    row("a group that is a top-level key only", grouped(), group("top"), true,
-        { { "b/1", 1 }, { "a/1", "one" }, { "b/2", 2 }, { "a/x/y", 4 }, { "ab/1", 5 } });
-    row("the empty group removes the top-level keys", grouped(), group(""), true,
-        { { "b/1", 1 }, { "a/1", "one" }, { "b/2", 2 }, { "a/x/y", 4 }, { "ab/1", 5 } });
-    row("a group of doubles", withDoubles(), group("g"), true,
-        { { "a", 1 }, { "a", 3 }, { "c", 5 } });
-    row("a group without keys", grouped(), group("nowhere"), false, grouped());
-    row("a group of an empty store", {}, group("g"), false, {});
-}
-
-void TestVIniSettings::removes()
-{
-    QFETCH(Entries, data);
-    QFETCH(Query, removal);
-    QFETCH(Entries, left);
-
-    VIniSettings store(data);
-    QTEST(removal(store).toBool(), "result");
-    QCOMPARE(described(store.data()), described(left));
-    QCOMPARE(store.allKeys(), PlainSettings::allKeys(left));
-}
-
-void TestVIniSettings::copiesAreIndependent()
-{
-    VIniSettings original(Entries { { "a", 1 }, { "b", 2 } });
-    VIniSettings copy(original);
-    copy.setValue("a", "copy");
-    QVERIFY(copy.remove("b"));
-    QCOMPARE(described(original.data()), described(Entries { { "a", 1 }, { "b", 2 } }));
-    QCOMPARE(original.allKeys(), (QStringList { "a", "b" }));
-    QCOMPARE(described(copy.data()), described(Entries { { "a", "copy" } }));
-
-    VIniSettings assigned(Entries { { "old", 0 } });
-    assigned = original;
-    original.setValue("c", 3);
-    QCOMPARE(described(assigned.data()), described(Entries { { "a", 1 }, { "b", 2 } }));
-
-    const VIniSettings &itself = assigned;
-    assigned = itself;
-    QCOMPARE(assigned.allKeys(), (QStringList { "a", "b" }));
-
-    // What a moved-from store holds is open, but it must still be a store.
-    VIniSettings moved(std::move(assigned));
-    QCOMPARE(moved.allKeys(), (QStringList { "a", "b" }));
-    assigned = moved;
-    QCOMPARE(assigned.allKeys(), (QStringList { "a", "b" }));
-}
-
-void TestVIniSettings::copiesKeepKeysApart()
-{
-    VIniSettings original(Entries { { "a", 1 } });
-    Entries target;
-    original.setValue("x", 2, &target);
-    VIniSettings copy(original);
-    original.setValue(Entries(), false);
-    QCOMPARE(original.allKeys(), QStringList { "a" });
-    QCOMPARE(copy.allKeys(), (QStringList { "a", "x" }));
-}
 
 QTEST_GUILESS_MAIN(TestVIniSettings)
 #include "tst_vinisettings.moc"

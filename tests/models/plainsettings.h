@@ -11,20 +11,22 @@
 class PlainSettings
 {
 public:
-    explicit PlainSettings(const Entries &data)
+    explicit PlainSettings(const Entries &data = {})
         : m_data(data)
-        , m_keys(allKeys(data))
+        , m_keys(allKeys(&data))
     {
     }
 
+    /// It never has a file.
+    static QString filepath() { return {}; }
     Entries data() const { return m_data; }
     QStringList allKeys() const { return m_keys; }
 
-    static QStringList allKeys(const Entries &data)
+    static QStringList allKeys(const Entries *data)
     {
         QStringList keys;
-        for (int i = 0; i < data.size(); ++i)
-            keys.append(data.at(i).first);
+        for (int i = 0; i < data->size(); ++i)
+            keys.append(data->at(i).first);
         return keys;
     }
 
@@ -122,7 +124,7 @@ public:
             m_data = data;
         else
             setValue(&m_data, &data);
-        m_keys = allKeys(m_data);
+        m_keys = allKeys(&m_data);
     }
 
     QVariant value(QString key) const { return value(key, &m_data); }

@@ -27,8 +27,8 @@ template <typename... Values> QString printed(const Values &...values)
 #define OPERATION(name)                                                                            \
 #name, [](auto &&twin, const auto &...arguments) { return twin.name(arguments...); }
 
-/// The same registry twice, by the library and in a plain form.
-template <typename Plain> class Twins
+/// The same registry, or another value, twice: by the library and in a plain form.
+template <typename Plain, typename Library = AUTH_SET> class Twins
 {
 public:
     /// Does the same to both.
@@ -62,18 +62,18 @@ public:
             : QString();
     }
 
-    AUTH_SET &library() { return m_library; }
+    Library &library() { return m_library; }
     Plain &plain() { return m_plain; }
 
 private:
-    AUTH_SET m_library;
+    Library m_library;
     Plain m_plain;
     QStringList m_steps;
     QString m_difference;
 };
 
 /// The random life of twins, and of the copies that they leave behind.
-template <typename Plain> class TwinLife
+template <typename Plain, typename Library = AUTH_SET> class TwinLife
 {
 protected:
     explicit TwinLife(unsigned seed)
@@ -85,7 +85,7 @@ protected:
 
     void goOnWithCopy()
     {
-        Twins<Plain> copied = m_twins;
+        Twins<Plain, Library> copied = m_twins;
         std::swap(copied, m_twins);
         m_left.append(copied);
     }
@@ -101,7 +101,7 @@ protected:
     template <typename Ask> QString differenceAtTheEnd(Ask askEverything)
     {
         m_left.append(m_twins);
-        for (Twins<Plain> &twins : m_left) {
+        for (Twins<Plain, Library> &twins : m_left) {
             askEverything(twins);
             if (twins.differ())
                 return twins.report();
@@ -110,10 +110,10 @@ protected:
     }
 
     Dice m_dice;
-    Twins<Plain> m_twins;
+    Twins<Plain, Library> m_twins;
 
 private:
-    QVector<Twins<Plain>> m_left;
+    QVector<Twins<Plain, Library>> m_left;
 };
 
 #endif
