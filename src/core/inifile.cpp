@@ -3,14 +3,12 @@
 
 #include "core/inifile_p.h"
 
-#include "core/inibytes_p.h"
-#include "core/ininesting_p.h"
+#include "core/inireader_p.h"
+#include "core/typedtext_p.h"
 
-#include <QDataStream>
 #include <QFile>
 #include <QFileInfo>
 #include <QLockFile>
-#include <QMetaType>
 #include <QSettings>
 
 #include <algorithm>
@@ -29,7 +27,7 @@ public:
     }
 };
 
-/// Of other paths Qt complains on the error channel, or it takes a part of them for the whole.
+/// Qt warns about an empty path and truncates one at a NUL.
 bool isPath(const QString &path)
 {
     return !path.isEmpty() && !path.contains(QChar::Null);
@@ -66,28 +64,46 @@ bool isWritable(const QSettings &settings)
         && isDirectoryWritable(QFileInfo(path).canonicalFilePath());
 }
 
-/// How long another program may keep the file locked while it writes.
-constexpr int longestLock = 1000;
+/// QSettings takes over a lock that nobody has touched for half a minute, so that every lock ends.
+constexpr int longestLock = 40 * 1000;
 
-/// Whether nobody else is just writing the file. QSettings would wait for that without end, also
-/// for something that merely has the name of its lock.
-bool isUnlocked(const QSettings &settings)
+/// Whether QSettings can lock the file, now or soon. For what merely has the name of its lock, a
+/// directory for example, it would wait without end.
+bool isLockable(const QSettings &settings)
 {
     const QFileInfo lock(settings.fileName() + QLatin1String(".lock"));
     return !lock.exists() || (lock.isFile() && QLockFile(lock.filePath()).tryLock(longestLock));
 }
 
+/// The copies of the file at @p path, newest first. A name that something else than a file has is
+/// left out.
+QStringList copyPaths(const QString &path)
+{
+    QStringList paths;
+    for (const char *ending : { ".bak", ".bak2", ".bak3", ".bak4", ".bak5" }) {
+        const QString copy = path + QLatin1String(ending);
+        if (canBeFile(copy))
+            paths.append(copy);
+    }
+    return paths;
+}
+
 /// Makes a copy of the file at @p path, which holds @p bytes, and tells whether there is one.
+/// Earlier copies move up by one, and the oldest goes.
 bool copyAside(const QString &path, const QByteArray &bytes)
 {
-    QString copy = path + QLatin1String(".bak");
-    // An earlier copy is as valuable as this one.
-    for (int number = 2; QFile::exists(copy); ++number) {
-        if (bytesOf(copy) == bytes)
-            return true;
-        copy = path + QLatin1String(".bak") + QString::number(number);
-    }
-    return QFile::copy(path, copy);
+    const QStringList copies = copyPaths(path);
+    const auto isSame = [&bytes](const QString &copy) { return bytesOf(copy) == bytes; };
+    if (copies.isEmpty() || std::any_of(copies.cbegin(), copies.cend(), isSame))
+        return !copies.isEmpty();
+    // Up to the first name that is free.
+    int last = 0;
+    while (last + 1 < copies.size() && QFile::exists(copies.at(last)))
+        ++last;
+    QFile::remove(copies.at(last));
+    for (; last > 0; --last)
+        QFile::rename(copies.at(last - 1), copies.at(last));
+    return QFile::copy(path, copies.constFirst());
 }
 
 /// Whether anything of @p key is left when QSettings has dropped its superfluous slashes; of other
@@ -95,49 +111,6 @@ bool copyAside(const QString &path, const QByteArray &bytes)
 bool isKey(const QString &key)
 {
     return std::any_of(key.cbegin(), key.cend(), [](QChar c) { return c != QLatin1Char('/'); });
-}
-
-/// Deeper lists of lists than this are nothing that a program stores. QSettings would follow them
-/// until the stack ends.
-constexpr int deepestList = 100;
-
-bool isStorable(const QVariant &value, int depth = 0);
-
-template <typename Values> bool areStorable(const Values &values, int depth)
-{
-    for (const QVariant &value : values) {
-        if (!isStorable(value, depth))
-            return false;
-    }
-    return true;
-}
-
-/// A pointer, for one, cannot be stored; QSettings would write rubbish and complain.
-bool isStorable(const QVariant &value, int depth)
-{
-    if (depth > deepestList)
-        return false;
-    switch (value.userType()) {
-    case QMetaType::UnknownType:
-    // Most values are of these types, for which the attempt below always succeeds.
-    case QMetaType::Bool:
-    case QMetaType::Int:
-    case QMetaType::Double:
-    case QMetaType::QString:
-    case QMetaType::QStringList:
-        return true;
-    case QMetaType::QVariantList:
-        return areStorable(value.toList(), depth + 1);
-    case QMetaType::QVariantMap:
-        return areStorable(value.toMap(), depth + 1);
-    case QMetaType::QVariantHash:
-        return areStorable(value.toHash(), depth + 1);
-    default:
-        break;
-    }
-    QByteArray bytes;
-    QDataStream stream(&bytes, QIODevice::WriteOnly);
-    return QMetaType::save(stream, value.userType(), value.constData());
 }
 
 KeyValues entriesOf(const QSettings &settings)
@@ -151,9 +124,12 @@ KeyValues entriesOf(const QSettings &settings)
 }
 
 /// Whether what the file holds, its @p bytes, will be there after writing, in it or in a copy.
-bool isKept(const QByteArray &bytes, const QSettings &settings)
+bool isKept(const QString &path, const QByteArray &bytes)
 {
-    return survivesRewriting(bytes, settings) || copyAside(settings.fileName(), bytes);
+    const QVector<IniProblem> problems = iniProblems(bytes);
+    const auto isLossless
+        = [](const IniProblem &problem) { return problem.kind == IniProblem::EmptySection; };
+    return std::all_of(problems.cbegin(), problems.cend(), isLossless) || copyAside(path, bytes);
 }
 
 void write(QSettings *settings, const KeyValues &entries)
@@ -175,15 +151,15 @@ bool ensureFile(const QString &path)
     return file.exists() || file.open(QIODevice::ReadWrite | QIODevice::Text);
 }
 
-// A damaged value can make QSettings ask for more memory than there is, or nest deeper than the
-// stack goes. Such a file has no keys and is left alone.
+// A damaged value can make QSettings ask for more memory than there is, or be unsafe to read. Such
+// a file has no keys and is left alone.
 
 KeyValues readIniFile(const QString &path)
 {
     if (!canBeFile(path))
         return {};
     try {
-        if (QFileInfo(path).size() >= smallestDeepFile && nestsTooDeep(bytesOf(path)))
+        if (hasUnsafeIniValue(bytesOf(path)))
             return {};
         return entriesOf(Utf8Settings(path));
     } catch (const std::bad_alloc &) {
@@ -197,10 +173,10 @@ void writeIniFile(const QString &path, const KeyValues &entries)
         return;
     try {
         QByteArray bytes = bytesOf(path);
-        if (nestsTooDeep(bytes))
+        if (hasUnsafeIniValue(bytes))
             return;
         Utf8Settings settings(path);
-        if (!isWritable(settings) || !isUnlocked(settings) || !isKept(bytes, settings))
+        if (!isWritable(settings) || !isLockable(settings) || !isKept(path, bytes))
             return;
         // Their memory is of use in writing.
         bytes.clear();

@@ -1,0 +1,455 @@
+// SPDX-FileCopyrightText: The Kelto developers
+// SPDX-License-Identifier: MIT
+
+#include "core/typedtext_p.h"
+
+#include <QBrush>
+#include <QBuffer>
+#include <QColorSpace>
+#include <QDataStream>
+#include <QDateTime>
+#include <QGuiApplication>
+#include <QMetaType>
+#include <QTimeZone>
+
+#include <algorithm>
+#include <cstdlib>
+#include <iterator>
+
+namespace {
+
+/// Values nested deeper than this are nothing that a program stores. Each level takes a few hundred
+/// bytes on the stack.
+constexpr int deepestLevel = 1000;
+/// What the readers of types that the host has registered may take of the stack.
+constexpr std::ptrdiff_t mostStack = 256 * 1024;
+/// Larger pictures and regions take Qt too much memory and time.
+constexpr qint64 mostPixels = 1 << 26;
+constexpr int mostRectangles = 10000;
+
+/// QSettings writes all values but times as Qt 4 wrote them.
+constexpr QDataStream::Version variantVersion = QDataStream::Qt_4_0;
+constexpr QDataStream::Version timeVersion = QDataStream::Qt_5_6;
+
+template <QDataStream::Version version> QVariant valueIn(const QByteArray &bytes, bool *isWhole)
+{
+    QDataStream stream(bytes);
+    stream.setVersion(version);
+    QVariant value;
+    stream >> value;
+    *isWhole = stream.status() == QDataStream::Ok && stream.atEnd() && value.isValid();
+    return value;
+}
+
+/// Nothing can be done with a time in a zone that does not exist, not even storing it.
+bool isInValidZone(const QDateTime &time)
+{
+    return time.timeSpec() != Qt::TimeZone || time.timeZone().isValid();
+}
+
+/// The type that @p number stands for in streams of Qt 4.
+int typeOf(quint32 number)
+{
+    if (number == 75)
+        return QMetaType::QSizePolicy;
+    if (number > 75 && number <= 86)
+        return static_cast<int>(number) - 1;
+    if (number == 127)
+        return QMetaType::User;
+    return static_cast<int>(number >= 128 && number != QMetaType::User ? number - 97 : number);
+}
+
+/// Whether Qt reads values of the type @p type without calling itself, and believes in no count.
+bool isFlat(int type)
+{
+    switch (type) {
+    case QMetaType::QVariantList:
+    case QMetaType::QVariantMap:
+    case QMetaType::QVariantHash:
+    case QMetaType::QVariant:
+        return false;
+    case QMetaType::QFont:
+    case QMetaType::QColor:
+    case QMetaType::QKeySequence:
+    case QMetaType::QTextLength:
+    case QMetaType::QMatrix:
+    case QMetaType::QTransform:
+    case QMetaType::QMatrix4x4:
+    case QMetaType::QVector2D:
+    case QMetaType::QVector3D:
+    case QMetaType::QVector4D:
+    case QMetaType::QQuaternion:
+    case QMetaType::QColorSpace:
+    case QMetaType::QSizePolicy:
+        return true;
+    default:
+        return type >= QMetaType::UnknownType && type <= QMetaType::QCborMap;
+    }
+}
+
+/// Bytes that end early for a reader that has used up its part of the stack. So readers that call
+/// themselves, for each level of what they read, come to an end.
+class ShallowBuffer : public QBuffer
+{
+public:
+    bool isDeep() const { return m_isDeep; }
+
+protected:
+    qint64 readData(char *data, qint64 size) override
+    {
+        const char here = 0;
+        m_isDeep = m_isDeep || std::abs(&here - m_bottom) > mostStack;
+        return m_isDeep ? -1 : QBuffer::readData(data, size);
+    }
+
+private:
+    /// The buffer lives on the stack itself.
+    const char *const m_bottom = reinterpret_cast<const char *>(this);
+    bool m_isDeep = false;
+};
+
+/// Walks through serialised values as Qt 4 wrote them, which QSettings still does. Each function
+/// tells whether what comes next is safe to read, and moves behind it.
+class SerialisedWalk
+{
+public:
+    explicit SerialisedWalk(const QByteArray &bytes)
+    {
+        m_buffer.setData(bytes);
+        m_buffer.open(QIODevice::ReadOnly);
+        m_stream.setDevice(&m_buffer);
+        m_stream.setVersion(variantVersion);
+    }
+
+    bool value(int level = 0);
+
+private:
+    bool compound(int type, int level);
+    bool readByQt(qint64 start);
+    bool values(int level, bool haveKeys);
+    bool textFormat(int level);
+    bool image();
+    bool pixmap();
+    bool brush();
+    bool palette();
+    bool pen();
+    bool cursor();
+    bool region();
+
+    template <typename Number> Number next()
+    {
+        Number number {};
+        m_stream >> number;
+        return number;
+    }
+    bool skip(qint64 size) { return m_buffer.seek(m_buffer.pos() + size); }
+    bool skipCounted(int elementSize) { return skip(qint64(next<quint32>()) * elementSize); }
+
+    ShallowBuffer m_buffer;
+    QDataStream m_stream;
+};
+
+bool SerialisedWalk::value(int level)
+{
+    const qint64 start = m_buffer.pos();
+    const int type = typeOf(next<quint32>());
+    if (level == 0 && isFlat(type))
+        return true;
+    if (level > deepestLevel)
+        return false;
+    return isFlat(type) || type >= QMetaType::User ? readByQt(start) : compound(type, level + 1);
+}
+
+bool SerialisedWalk::compound(int type, int level)
+{
+    switch (type) {
+    case QMetaType::QVariant:
+        return value(level);
+    case QMetaType::QVariantList:
+        return values(level, false);
+    case QMetaType::QVariantMap:
+    case QMetaType::QVariantHash:
+        return values(level, true);
+    case QMetaType::QTextFormat:
+        return textFormat(level);
+    case QMetaType::QImage:
+        return image();
+    case QMetaType::QPixmap:
+    case QMetaType::QBitmap:
+    case QMetaType::QIcon:
+        return pixmap();
+    case QMetaType::QBrush:
+        return brush();
+    case QMetaType::QPalette:
+        return palette();
+    case QMetaType::QPen:
+        return pen();
+    case QMetaType::QCursor:
+        return cursor();
+    case QMetaType::QRegion:
+        return region();
+    case QMetaType::QPolygon:
+        return skipCounted(2 * sizeof(qint32));
+    case QMetaType::QPolygonF:
+        return skipCounted(2 * sizeof(double));
+    default:
+        return false;
+    }
+}
+
+bool SerialisedWalk::readByQt(qint64 start)
+{
+    m_buffer.seek(start);
+    QVariant value;
+    m_stream >> value;
+    return !m_buffer.isDeep();
+}
+
+/// Qt itself notices a list that ends before its count is reached.
+bool SerialisedWalk::values(int level, bool haveKeys)
+{
+    const auto count = next<quint32>();
+    for (quint32 i = 0; i < count && m_stream.status() == QDataStream::Ok; ++i) {
+        if (haveKeys)
+            next<QString>();
+        if (!value(level))
+            return false;
+    }
+    return true;
+}
+
+bool SerialisedWalk::textFormat(int level)
+{
+    if (!skip(sizeof(qint32)))
+        return false;
+    const auto count = next<quint32>();
+    for (quint32 i = 0; i < count && m_stream.status() == QDataStream::Ok; ++i) {
+        if (!skip(sizeof(qint32)) || !value(level))
+            return false;
+    }
+    return true;
+}
+
+/// Pictures are stored as PNG. Given other bytes, Qt would try the readers of all formats on them.
+bool SerialisedWalk::image()
+{
+    const bool isNull = next<qint32>() == 0;
+    if (isNull)
+        return m_stream.status() == QDataStream::Ok;
+    const quint64 signature = 0x89504e470d0a1a0a;
+    const quint32 header = 0x49484452;
+    const quint32 end = 0x49454e44;
+    if (next<quint64>() != signature)
+        return false;
+    auto size = next<quint32>();
+    auto chunk = next<quint32>();
+    const qint64 dimensions = m_buffer.pos();
+    if (chunk != header || next<quint32>() * qint64(next<quint32>()) > mostPixels)
+        return false;
+    m_buffer.seek(dimensions);
+    while (skip(size + qint64(sizeof(quint32))) && chunk != end) {
+        size = next<quint32>();
+        chunk = next<quint32>();
+    }
+    return chunk == end && m_stream.status() == QDataStream::Ok;
+}
+
+bool SerialisedWalk::pixmap()
+{
+    return qobject_cast<QGuiApplication *>(QCoreApplication::instance()) && image();
+}
+
+bool SerialisedWalk::brush()
+{
+    const int colorSize = 11;
+    const int stopSize = sizeof(double) + colorSize;
+    const auto style = next<quint8>();
+    if (!skip(colorSize))
+        return false;
+    if (style == Qt::TexturePattern)
+        return pixmap();
+    if (style < Qt::LinearGradientPattern || style > Qt::ConicalGradientPattern)
+        return true;
+    const auto type = next<qint32>();
+    const int numbers = type == QGradient::LinearGradient ? 4
+        : type == QGradient::RadialGradient               ? 5
+                                                          : 3;
+    return skipCounted(stopSize) && skip(numbers * qint64(sizeof(double)));
+}
+
+bool SerialisedWalk::palette()
+{
+    const int brushes = 3 * 17;
+    for (int i = 0; i < brushes; ++i) {
+        if (!brush())
+            return false;
+    }
+    return true;
+}
+
+bool SerialisedWalk::pen()
+{
+    const qint64 styleAndWidth = 1 + sizeof(double);
+    return skip(styleAndWidth) && brush() && skip(sizeof(double)) && skipCounted(sizeof(double));
+}
+
+bool SerialisedWalk::cursor()
+{
+    if (!qobject_cast<QGuiApplication *>(QCoreApplication::instance()))
+        return false;
+    if (next<qint16>() != Qt::BitmapCursor)
+        return true;
+    const bool isPixmap = next<bool>();
+    return pixmap() && (isPixmap || pixmap()) && skip(2 * sizeof(qint32));
+}
+
+/// A region is stored as its rectangles. Qt would also read commands that combine regions.
+bool SerialisedWalk::region()
+{
+    const auto size = next<quint32>();
+    if (size == 0)
+        return m_stream.status() == QDataStream::Ok;
+    const quint32 rectangles = 10;
+    const auto command = next<quint32>();
+    const auto count = next<quint32>();
+    const qint64 expectedSize = 2 * sizeof(quint32) + qint64(count) * 4 * sizeof(qint32);
+    return command == rectangles && count <= mostRectangles && size == expectedSize
+        && skip(size - 2 * sizeof(quint32));
+}
+
+/// Whether all of @p values are storable.
+template <typename Values> bool areStorable(const Values &values, int depth);
+
+/// Deeper lists of lists than this are nothing that a program stores, and QSettings would follow
+/// them until the stack ends.
+constexpr int deepestList = 100;
+
+bool isStorable(const QVariant &value, int depth)
+{
+    if (depth > deepestList)
+        return false;
+    switch (value.userType()) {
+    case QMetaType::UnknownType:
+    // Most values are of these types, for which the attempt below always succeeds.
+    case QMetaType::Bool:
+    case QMetaType::Int:
+    case QMetaType::Double:
+    case QMetaType::QString:
+    case QMetaType::QStringList:
+        return true;
+    case QMetaType::QVariantList:
+        return areStorable(value.toList(), depth + 1);
+    case QMetaType::QVariantMap:
+        return areStorable(value.toMap(), depth + 1);
+    case QMetaType::QVariantHash:
+        return areStorable(value.toHash(), depth + 1);
+    case QMetaType::QDateTime:
+        return isInValidZone(value.toDateTime());
+    default:
+        break;
+    }
+    QByteArray bytes;
+    QDataStream stream(&bytes, QIODevice::WriteOnly);
+    return QMetaType::save(stream, value.userType(), value.constData());
+}
+
+template <typename Values> bool areStorable(const Values &values, int depth)
+{
+    return std::all_of(values.cbegin(), values.cend(),
+                       [depth](const QVariant &value) { return isStorable(value, depth); });
+}
+
+bool isSafeVariant(const QByteArray &bytes)
+{
+    return SerialisedWalk(bytes).value();
+}
+
+bool isSafeTime(const QByteArray &bytes)
+{
+    const QByteArray type("\0\0\0\x10", 4);
+    bool isWhole = false;
+    if (bytes.size() < type.size())
+        return true;
+    return bytes.startsWith(type)
+        && isInValidZone(valueIn<timeVersion>(bytes, &isWhole).toDateTime());
+}
+
+template <QDataStream::Version version> bool isWhole(const QByteArray &bytes)
+{
+    bool isWhole = false;
+    valueIn<version>(bytes, &isWhole);
+    return isWhole;
+}
+
+bool isAlways(const QByteArray &)
+{
+    return true;
+}
+
+bool areNumbers(const QByteArray &text)
+{
+    const QList<QByteArray> words = text.split(' ');
+    return std::all_of(words.cbegin(), words.cend(), [](const QByteArray &word) {
+        bool isNumber = false;
+        word.toInt(&isNumber);
+        return isNumber;
+    });
+}
+
+/// How QSettings writes what is not text: @p opening, bytes and ")".
+struct TypedForm
+{
+    const char *opening;
+    bool (*isSafe)(const QByteArray &bytes);
+    bool (*isWhole)(const QByteArray &bytes);
+};
+
+const TypedForm *formOf(const QString &text)
+{
+    static constexpr TypedForm forms[] = {
+        { "@Variant(", isSafeVariant, isWhole<variantVersion> },
+        { "@DateTime(", isSafeTime, isWhole<timeVersion> },
+        { "@ByteArray(", isAlways, isAlways },
+        { "@Rect(", isAlways, areNumbers },
+        { "@Point(", isAlways, areNumbers },
+        { "@Size(", isAlways, areNumbers },
+    };
+    if (!text.startsWith(QLatin1Char('@')) || !text.endsWith(QLatin1Char(')')))
+        return nullptr;
+    const auto *const end = std::end(forms);
+    const auto *const form
+        = std::find_if(std::begin(forms), end, [&text](const TypedForm &candidate) {
+              return text.startsWith(QLatin1String(candidate.opening));
+          });
+    return form == end ? nullptr : form;
+}
+
+QString behindOpening(const QString &text, const TypedForm &form)
+{
+    return text.mid(static_cast<int>(qstrlen(form.opening)));
+}
+
+} // namespace
+
+bool isUnsafe(const QString &text)
+{
+    const TypedForm *const form = formOf(text);
+    // QSettings hands on the last bracket, too.
+    return form && !form->isSafe(behindOpening(text, *form).toLatin1());
+}
+
+bool isDamaged(const QString &text)
+{
+    const TypedForm *const form = formOf(text);
+    if (!form)
+        return false;
+    const QString inside = behindOpening(text, *form).chopped(1);
+    const QByteArray bytes = inside.toLatin1();
+    // Other characters than bytes would have become question marks.
+    return inside != QString::fromLatin1(bytes.constData(), bytes.size()) || !form->isWhole(bytes);
+}
+
+bool isStorable(const QVariant &value)
+{
+    return isStorable(value, 0);
+}

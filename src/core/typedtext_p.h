@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: The Kelto developers
+// SPDX-License-Identifier: MIT
+
+#ifndef TYPEDTEXT_P_H
+#define TYPEDTEXT_P_H
+
+#include <QString>
+#include <QVariant>
+
+// QSettings stores what is not text as a text such as "@Point(1 2)". Behind "@Variant(" come the
+// bytes that QDataStream makes of the value, and Qt's readers trust them: wrong ones can crash
+// them, keep them busy for minutes, or let them follow nested values until the stack ends.
+
+/// Whether Qt may not be given @p text, one element of a value, to read. Pixmaps, and what may
+/// contain them, can be read in programs with windows only.
+bool isUnsafe(const QString &text);
+
+/// Whether reading @p text, which is not unsafe, gives less than QSettings has written.
+bool isDamaged(const QString &text);
+
+/// Whether QSettings can store @p value. With a pointer, for one, it would write rubbish and print
+/// a warning; a time in a time zone that does not exist would crash it.
+bool isStorable(const QVariant &value);
+
+#endif
