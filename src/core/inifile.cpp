@@ -3,7 +3,7 @@
 
 #include "core/inifile_p.h"
 
-#include "core/inireader_p.h"
+#include "core/iniproblems_p.h"
 #include "core/typedtext_p.h"
 
 #include <QFile>
@@ -96,14 +96,18 @@ bool copyAside(const QString &path, const QByteArray &bytes)
     const auto isSame = [&bytes](const QString &copy) { return bytesOf(copy) == bytes; };
     if (copies.isEmpty() || std::any_of(copies.cbegin(), copies.cend(), isSame))
         return !copies.isEmpty();
-    // Up to the first name that is free.
+    // An earlier copy goes only when there is a new one.
+    const QString newest = path + QLatin1String(".bak.new");
+    QFile::remove(newest);
+    if (!QFile::copy(path, newest))
+        return false;
     int last = 0;
     while (last + 1 < copies.size() && QFile::exists(copies.at(last)))
         ++last;
     QFile::remove(copies.at(last));
     for (; last > 0; --last)
         QFile::rename(copies.at(last - 1), copies.at(last));
-    return QFile::copy(path, copies.constFirst());
+    return QFile::rename(newest, copies.constFirst());
 }
 
 /// Whether anything of @p key is left when QSettings has dropped its superfluous slashes; of other
@@ -123,13 +127,14 @@ KeyValues entriesOf(const QSettings &settings)
     return entries;
 }
 
-/// Whether what the file holds, its @p bytes, will be there after writing, in it or in a copy.
-bool isKept(const QString &path, const QByteArray &bytes)
+bool isUnsafeValue(const IniProblem &problem)
 {
-    const QVector<IniProblem> problems = iniProblems(bytes);
-    const auto isLossless
-        = [](const IniProblem &problem) { return problem.kind == IniProblem::EmptySection; };
-    return std::all_of(problems.cbegin(), problems.cend(), isLossless) || copyAside(path, bytes);
+    return problem.kind == IniProblem::UnsafeValue;
+}
+
+bool isLoss(const IniProblem &problem)
+{
+    return problem.kind != IniProblem::EmptySection;
 }
 
 void write(QSettings *settings, const KeyValues &entries)
@@ -173,10 +178,13 @@ void writeIniFile(const QString &path, const KeyValues &entries)
         return;
     try {
         QByteArray bytes = bytesOf(path);
-        if (hasUnsafeIniValue(bytes))
+        const QVector<IniProblem> problems = iniProblems(bytes);
+        if (std::any_of(problems.cbegin(), problems.cend(), isUnsafeValue))
             return;
         Utf8Settings settings(path);
-        if (!isWritable(settings) || !isLockable(settings) || !isKept(path, bytes))
+        if (!isWritable(settings) || !isLockable(settings))
+            return;
+        if (std::any_of(problems.cbegin(), problems.cend(), isLoss) && !copyAside(path, bytes))
             return;
         // Their memory is of use in writing.
         bytes.clear();

@@ -3,17 +3,13 @@
 
 #include "core/inireader_p.h"
 
-#include "core/typedtext_p.h"
-
 #include <QHash>
 #include <QTextCodec>
 
 #include <algorithm>
-#include <tuple>
+#include <array>
 
 namespace {
-
-constexpr std::string_view byteOrderMark = "\xef\xbb\xbf";
 
 bool isBlank(char c)
 {
@@ -47,9 +43,13 @@ QByteArray bytesOf(std::string_view text)
     return QByteArray::fromRawData(text.data(), static_cast<int>(text.size()));
 }
 
-bool startsWithMark(std::string_view text)
+/// Whether each character means something in front of or behind a "=".
+constexpr std::array<bool, 256> specialCharacters()
 {
-    return text.substr(0, byteOrderMark.size()) == byteOrderMark;
+    std::array<bool, 256> special {};
+    for (const char c : { '\n', '\r', '"', ';', '=', '\\' })
+        special[static_cast<uchar>(c)] = true;
+    return special;
 }
 
 /// The digit that @p c is in numbers of @p base; -1 when it is none.
@@ -60,50 +60,78 @@ int digitOf(char c, int base)
     return isDigit && digit < base ? digit : -1;
 }
 
-QString decodedKey(std::string_view spelling)
+/// The number that the hexadecimal digits @p spelling are to QSettings; -1 when they are none.
+int numberOf(std::string_view spelling)
 {
-    QString key;
-    key.reserve(static_cast<int>(spelling.size()));
-    while (!spelling.empty()) {
-        const std::size_t start = spelling.substr(0, 2) == "%U" ? 2 : 1;
-        const std::size_t digits = start == 2 ? 4 : 2;
-        bool isCode = spelling.front() == '%' && spelling.size() >= start + digits;
-        // What QByteArray takes for a number: a sign and white space as well.
-        const int code = isCode ? bytesOf(spelling.substr(start, digits)).toInt(&isCode, 16) : 0;
-        if (isCode)
-            key += QChar(code);
-        else
-            key += QLatin1Char(spelling.front() == '\\' ? '/' : spelling.front());
-        spelling.remove_prefix(isCode ? start + digits : 1);
+    int number = 0;
+    for (const char c : spelling) {
+        const int digit = digitOf(c, 16);
+        // QByteArray also takes white space, a sign and a prefix for parts of a number.
+        if (digit < 0) {
+            bool isNumber = false;
+            number = bytesOf(spelling).toInt(&isNumber, 16);
+            return isNumber ? number & 0xffff : -1;
+        }
+        number = number * 16 + digit;
     }
-    return key;
+    return number;
 }
 
-/// Whether QSettings gives the value of the key, and writes it in a way that it reads as the same.
-bool isReadableKey(const QString &key)
+bool isSameName(std::string_view a, std::string_view b)
 {
-    const QLatin1Char slash('/');
-    return !key.startsWith(slash) && !(key.endsWith(slash) && key.count(slash) > 1);
+    return a.size() == b.size() && qstrnicmp(a.data(), b.data(), a.size()) == 0;
 }
 
-/// The first byte of @p text that is not UTF-8; its end when all of it is.
-const char *firstInvalidByte(std::string_view text)
+/// Calls @p visit with each character that QSettings makes of @p spelling, a key or the name of a
+/// section.
+template <typename Visitor> void visitCharacters(std::string_view spelling, Visitor visit)
 {
-    // Something in front keeps a byte order mark from being dropped.
-    const QByteArray bytes = ' ' + bytesOf(text);
-    const QByteArray again = QString::fromUtf8(bytes).toUtf8();
-    const auto end = std::mismatch(bytes.cbegin(), bytes.cend(), again.cbegin(), again.cend());
-    return text.data() + (end.first - bytes.cbegin()) - 1;
+    const char *const end = spelling.data() + spelling.size();
+    for (const char *at = spelling.data(); at < end; ++at) {
+        if (*at != '%') {
+            visit(QLatin1Char(*at == '\\' ? '/' : *at));
+            continue;
+        }
+        const int length = at + 1 < end && at[1] == 'U' ? 6 : 3;
+        const int start = length / 3;
+        const int code = end - at < length ? -1 : numberOf(textBetween(at + start, at + length));
+        visit(code < 0 ? QLatin1Char('%') : QChar(code));
+        at += code < 0 ? 0 : length - 1;
+    }
 }
 
-/// Resolves quotes and escapes of one value.
+/// Calls it for the name of a section and the "/" behind it; not at all where there is none.
+template <typename Visitor> void visitSection(std::string_view section, Visitor visit)
+{
+    if (!section.data())
+        return;
+    // Under this spelling the name belongs to a section like any other.
+    const bool isEscaped = isSameName(section, "%general");
+    visitCharacters(section.substr(isEscaped ? 1 : 0), visit);
+    visit(QLatin1Char('/'));
+}
+
+/// A character more in a hash. Files that are made to have equal hashes would take long to check.
+void addTo(quint64 &hash, QChar character)
+{
+    hash = (hash ^ character.unicode()) * 0x9e3779b97f4a7c15;
+    hash ^= hash >> 29;
+}
+
+std::string_view trimmed(std::string_view text)
+{
+    constexpr std::string_view spaces = " \t\n\v\f\r";
+    text.remove_prefix(std::min(text.find_first_not_of(spaces), text.size()));
+    return text.substr(0, text.find_last_not_of(spaces) + 1);
+}
+
 class ValueDecoder
 {
 public:
-    explicit ValueDecoder(const IniReader &reader)
-        : m_reader(reader)
-        , m_at(reader.line().value.data())
-        , m_end(m_at + reader.line().value.size())
+    ValueDecoder(std::string_view value, std::vector<IniMisspelling> *misspellings)
+        : m_at(value.data())
+        , m_end(m_at + value.size())
+        , m_misspellings(misspellings)
     {
     }
 
@@ -124,13 +152,19 @@ public:
             }
         }
         if (m_place == Place::Quoted)
-            m_reader.report(IniProblem::DroppedCharacter, m_at);
+            report(IniMisspelling::DroppedCharacter, m_at);
         endElement();
         return m_elements;
     }
 
 private:
     enum class Place { Start, Plain, Quoted, Closed };
+
+    void report(IniMisspelling::Kind kind, const char *at)
+    {
+        if (m_misspellings)
+            m_misspellings->push_back({ kind, at });
+    }
 
     void skipBlanks()
     {
@@ -141,7 +175,7 @@ private:
     void endElement()
     {
         int size = m_element.size();
-        while (!m_hasQuotes && size > m_keptLength && isBlank(m_element[size - 1].toLatin1()))
+        while (!m_hasQuotes && size > m_keptLength && isBlank(m_element.at(size - 1).toLatin1()))
             --size;
         m_elements.append(m_element.left(size));
         m_element.clear();
@@ -154,7 +188,7 @@ private:
     {
         const bool isClosing = m_place == Place::Quoted;
         if (!isClosing && m_place != Place::Start)
-            m_reader.report(IniProblem::DroppedCharacter, m_at);
+            report(IniMisspelling::DroppedCharacter, m_at);
         ++m_at;
         m_hasQuotes = true;
         m_place = isClosing ? Place::Closed : Place::Quoted;
@@ -165,24 +199,25 @@ private:
     void append(const QString &text, const char *at)
     {
         if (m_place == Place::Closed)
-            m_reader.report(IniProblem::DroppedCharacter, at);
+            report(IniMisspelling::DroppedCharacter, at);
         if (m_place != Place::Quoted)
             m_place = Place::Plain;
         m_element += text;
     }
 
-    /// Pieces are decoded one by one: each loses a byte order mark that it begins with. Characters
-    /// of two units are read, but not written.
+    /// Pieces are decoded one by one: each loses a byte order mark that it begins with.
     void takePlain()
     {
         const auto endsPiece = [](char c) { return c == '\\' || c == '"' || c == ','; };
-        const auto isWide = [](char c) { return static_cast<uchar>(c) >= 0xf0; };
+        // Characters of two units are read, but not written.
+        const auto isWide = [](char c) { return (static_cast<uchar>(c) & 0xf8) == 0xf0; };
         const char *const start = m_at;
         m_at = std::find_if(m_at + 1, m_end, endsPiece);
         static const QTextCodec *const codec = QTextCodec::codecForName("utf-8");
         append(codec->toUnicode(start, static_cast<int>(m_at - start)), start);
-        if (std::any_of(start, m_at, isWide))
-            m_reader.report(IniProblem::DroppedCharacter, start);
+        const char *const wide = std::find_if(start, m_at, isWide);
+        if (wide != m_at)
+            report(IniMisspelling::DroppedCharacter, wide);
     }
 
     void takeEscape()
@@ -219,14 +254,14 @@ private:
         if (m_at > start)
             append(QChar(code), escape);
         if (m_at == start || !fits)
-            m_reader.report(IniProblem::BadEscape, escape);
+            report(IniMisspelling::BadEscape, escape);
         else if (QChar::isSurrogate(code))
-            m_reader.report(IniProblem::DroppedCharacter, escape);
+            report(IniMisspelling::DroppedCharacter, escape);
     }
 
-    const IniReader &m_reader;
     const char *m_at;
     const char *const m_end;
+    std::vector<IniMisspelling> *const m_misspellings;
     QStringList m_elements;
     QString m_element;
     Place m_place = Place::Start;
@@ -237,17 +272,16 @@ private:
 
 } // namespace
 
-IniReader::IniReader(const QByteArray &bytes, QVector<IniProblem> *problems)
+IniReader::IniReader(const QByteArray &bytes)
     : m_begin(bytes.constData())
     , m_end(m_begin + bytes.size())
     , m_lineEnd(bytes.contains('\n') ? '\n' : '\r')
     , m_at(m_begin)
-    , m_problems(problems)
-    , m_start { m_begin }
-    , m_reported(m_start)
+    , m_sectionHash(qGlobalQHashSeed())
+    , m_counted(m_begin)
 {
     // QSettings passes over a byte order mark in front of a header, and of nothing else.
-    const char *const marked = m_begin + (bytes.startsWith(byteOrderMark.data()) ? 3 : 0);
+    const char *const marked = m_begin + (bytes.startsWith("\xef\xbb\xbf") ? 3 : 0);
     const char *const first = std::find_if_not(marked, m_end, isSpace);
     if (first != m_end && *first == '[')
         m_at = first;
@@ -256,236 +290,95 @@ IniReader::IniReader(const QByteArray &bytes, QVector<IniProblem> *problems)
 bool IniReader::next()
 {
     m_at = std::find_if_not(m_at, m_end, isSpace);
+    m_line = IniLine();
     if (m_at == m_end)
         return false;
-    moveTo(m_at, &m_start);
-    m_reported = m_start;
-    m_line = IniLine();
-    m_line.number = m_start.line;
-    m_line.column = m_start.column;
-    takeLine();
-    if (m_problems)
-        checkLine();
+    const char *const start = m_at;
+    if (*start == ';') {
+        m_line.kind = IniLine::Comment;
+        m_at = std::find_if(m_at, m_end, isLineEnd);
+        m_line.text = textBetween(start, m_at);
+    } else {
+        takeLine();
+    }
+    if (*start == '[')
+        enterSection();
     return true;
 }
 
 void IniReader::takeLine()
 {
+    static constexpr std::array<bool, 256> isSpecial = specialCharacters();
     const char *const start = m_at;
     const char *equals = nullptr;
     bool isQuoted = false;
-    const bool isComment = *start == ';';
-    if (isComment)
-        m_at = std::find_if(m_at, m_end, isLineEnd);
-    for (; m_at < m_end && !isComment; ++m_at) {
-        const char c = *m_at;
-        if (c == '\\' && m_at + 1 < m_end)
-            m_at = behindLineEnd(m_at + 1, m_end) - 1;
-        else if (c == '"')
+    const char *at = start;
+    for (const char *const end = m_end; at < end; ++at) {
+        if (!isSpecial[static_cast<uchar>(*at)])
+            continue;
+        if (*at == '\\')
+            at = at + 1 < end ? behindLineEnd(at + 1, end) - 1 : at;
+        else if (*at == '"')
             isQuoted = !isQuoted;
-        else if (!isQuoted && (isLineEnd(c) || c == ';'))
+        else if (!isQuoted && *at != '=')
             break;
-        else if (!isQuoted && c == '=' && !equals)
-            equals = m_at;
+        else if (!isQuoted && !equals)
+            equals = at;
     }
+    m_at = at;
     m_line.text = textBetween(start, m_at);
-    m_line.kind = isComment ? IniLine::Comment : IniLine::Other;
-    if (*start == '[') {
-        enterSection();
-    } else if (equals) {
-        const std::string_view key = textBetween(start, equals);
-        m_line.kind = IniLine::Entry;
-        m_line.key = key.substr(0, key.find_last_not_of(" \t") + 1);
-        m_line.value = textBetween(equals + 1, m_at);
-    }
+    if (!equals)
+        return;
+    m_line.kind = IniLine::Entry;
+    m_line.key = textBetween(start, equals);
+    while (!m_line.key.empty() && isBlank(m_line.key.back()))
+        m_line.key.remove_suffix(1);
+    m_line.value = textBetween(equals + 1, m_at);
 }
 
 void IniReader::enterSection()
 {
     const std::size_t closing = std::min(m_line.text.find(']'), m_line.text.size());
     m_line.kind = IniLine::Section;
-    m_line.key = m_line.text.substr(1, closing - 1);
+    m_line.key = trimmed(m_line.text.substr(1, closing - 1));
     m_line.value = m_line.text.substr(closing);
-    const QByteArray name = bytesOf(m_line.key).trimmed();
-    m_section.clear();
-    if (name.compare("general", Qt::CaseInsensitive) == 0)
-        return;
-    // Under this spelling the name belongs to a section like any other.
-    const bool isEscaped = name.compare("%general", Qt::CaseInsensitive) == 0;
-    const int start = isEscaped ? 1 : 0;
-    m_section = decodedKey({ name.constData() + start, std::size_t(name.size() - start) })
-        + QLatin1Char('/');
+    m_section = isSameName(m_line.key, "general") ? std::string_view() : m_line.key;
+    m_sectionHash = qGlobalQHashSeed();
+    visitSection(m_section, [this](QChar character) { addTo(m_sectionHash, character); });
 }
 
-void IniReader::checkLine()
+quint64 IniReader::keyHash() const
 {
-    const char *const start = m_line.text.data();
-    const char *const end = start + m_line.text.size();
-    const bool isAscii
-        = std::none_of(start, end, [](char c) { return static_cast<signed char>(c) < 0; });
-    const char *const invalid = isAscii ? end : firstInvalidByte(m_line.text);
-    if (invalid != end)
-        report(IniProblem::NotUtf8, invalid);
-    if (startsWithMark(m_line.text))
-        report(IniProblem::ByteOrderMark, start);
-    else if (m_line.kind == IniLine::Comment || *start == '#')
-        report(IniProblem::DroppedComment, start);
-    else if (m_line.kind == IniLine::Other)
-        report(IniProblem::NoEqualsSign, start);
-    else if (m_line.kind == IniLine::Section && bytesOf(m_line.value).trimmed() != "]")
-        report(IniProblem::BrokenHeader, start);
+    quint64 hash = m_sectionHash;
+    visitCharacters(m_line.key, [&hash](QChar character) { addTo(hash, character); });
+    return hash;
 }
 
-QString IniReader::key() const
+QString IniKey::text() const
 {
-    return m_section + decodedKey(m_line.key);
+    QString text;
+    const auto append = [&text](QChar character) { text += character; };
+    visitSection(section, append);
+    visitCharacters(name, append);
+    return text;
 }
 
-QStringList IniReader::elements() const
+IniPosition IniReader::positionOf(const char *place)
 {
-    return ValueDecoder(*this).elements();
+    if (place < m_counted) {
+        m_counted = m_begin;
+        m_position = IniPosition();
+    }
+    for (; m_counted < place; ++m_counted) {
+        const bool endsCharacter = (m_counted[1] & 0xc0) != 0x80;
+        m_position.column += endsCharacter ? 1 : 0;
+        if (*m_counted == m_lineEnd)
+            m_position = { m_position.line + 1, 1 };
+    }
+    return m_position;
 }
 
-void IniReader::report(IniProblem::Kind kind, const char *at) const
+QStringList iniElements(std::string_view value, std::vector<IniMisspelling> *misspellings)
 {
-    if (!m_problems)
-        return;
-    if (at < m_reported.at)
-        m_reported = m_start;
-    moveTo(at, &m_reported);
-    m_problems->append({ kind, m_reported.line, m_reported.column });
-}
-
-void IniReader::moveTo(const char *at, Place *place) const
-{
-    for (; place->at < at; ++place->at) {
-        const bool isLastByte = place->at + 1 == at || (place->at[1] & 0xc0) != 0x80;
-        place->column += isLastByte ? 1 : 0;
-        if (*place->at == m_lineEnd) {
-            ++place->line;
-            place->column = 1;
-        }
-    }
-}
-
-namespace {
-
-/// Whether a "@" may be written in @p value, as it is or as an escaped number.
-bool mayHoldTypedValue(std::string_view value)
-{
-    for (std::size_t at = value.find_first_of("@\\"); at < value.size();
-         at = value.find_first_of("@\\", at + 1)) {
-        const char next = at + 1 < value.size() ? value[at + 1] : ' ';
-        if (value[at] == '@' || next == 'x' || (next >= '0' && next <= '7'))
-            return true;
-    }
-    return false;
-}
-
-/// Looks through a file for what shows only beyond single lines and in decoded texts.
-class ProblemSearch
-{
-public:
-    explicit ProblemSearch(const QByteArray &bytes)
-        : m_reader(bytes, &m_problems)
-    {
-    }
-
-    QVector<IniProblem> problems()
-    {
-        while (m_reader.next()) {
-            if (m_reader.line().kind == IniLine::Section)
-                beginSection();
-            else if (m_reader.line().kind == IniLine::Entry)
-                checkEntry();
-        }
-        endSection();
-        std::stable_sort(m_problems.begin(), m_problems.end(),
-                         [](const IniProblem &a, const IniProblem &b) {
-                             return std::tie(a.line, a.column) < std::tie(b.line, b.column);
-                         });
-        return m_problems;
-    }
-
-private:
-    void beginSection()
-    {
-        endSection();
-        m_emptyHeader = m_reader.line();
-    }
-
-    void endSection()
-    {
-        if (m_emptyHeader.kind == IniLine::Section)
-            m_problems.append(
-                { IniProblem::EmptySection, m_emptyHeader.number, m_emptyHeader.column });
-        m_emptyHeader = IniLine();
-    }
-
-    void checkEntry()
-    {
-        const IniLine &line = m_reader.line();
-        m_emptyHeader = IniLine();
-        checkKey(m_reader.key());
-        const auto isPlain = [](char c) {
-            return c != '\\' && c != '"' && c != '@' && static_cast<signed char>(c) >= 0;
-        };
-        if (!std::all_of(line.value.cbegin(), line.value.cend(), isPlain))
-            checkValue(m_reader.elements());
-    }
-
-    void checkKey(const QString &key)
-    {
-        const IniLine &line = m_reader.line();
-        if (!isReadableKey(key))
-            m_reader.report(IniProblem::UnreadableKey, line.text.data());
-#ifdef Q_OS_WIN
-        int &firstLine = m_firstLines[key.toLower()]; // QSettings ignores case here.
-#else
-        int &firstLine = m_firstLines[key];
-#endif
-        if (firstLine > 0) {
-            m_reader.report(IniProblem::DuplicateKey, line.text.data());
-            m_problems.last().otherLine = firstLine;
-        } else {
-            firstLine = line.number;
-        }
-    }
-
-    void checkValue(const QStringList &elements)
-    {
-        const char *const start = m_reader.line().value.data();
-        if (std::any_of(elements.cbegin(), elements.cend(), isUnsafe))
-            m_reader.report(IniProblem::UnsafeValue, start);
-        else if (std::any_of(elements.cbegin(), elements.cend(), isDamaged))
-            m_reader.report(IniProblem::DamagedValue, start);
-    }
-
-    QVector<IniProblem> m_problems;
-    IniReader m_reader;
-    QHash<QString, int> m_firstLines;
-    /// The header of the section, until a key is found behind it.
-    IniLine m_emptyHeader;
-};
-
-} // namespace
-
-QVector<IniProblem> iniProblems(const QByteArray &bytes)
-{
-    return ProblemSearch(bytes).problems();
-}
-
-bool hasUnsafeIniValue(const QByteArray &bytes)
-{
-    if (!bytes.contains('@') && !bytes.contains('\\'))
-        return false;
-    IniReader reader(bytes);
-    while (reader.next()) {
-        if (!mayHoldTypedValue(reader.line().value))
-            continue;
-        const QStringList elements = reader.elements();
-        if (std::any_of(elements.cbegin(), elements.cend(), isUnsafe))
-            return true;
-    }
-    return false;
+    return ValueDecoder(value, misspellings).elements();
 }

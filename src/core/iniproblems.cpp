@@ -1,0 +1,236 @@
+// SPDX-FileCopyrightText: The Kelto developers
+// SPDX-License-Identifier: MIT
+
+#include "core/iniproblems_p.h"
+
+#include "core/typedtext_p.h"
+
+#include <QTextCodec>
+
+#include <algorithm>
+#include <memory_resource>
+#include <unordered_set>
+#include <utility>
+
+namespace {
+
+/// A key that is only decoded when another one has its hash: most are alone.
+struct HashedKey
+{
+    IniKey key;
+    std::size_t hash;
+    const char *at;
+
+    bool operator==(const HashedKey &other) const
+    {
+        return hash == other.hash && key.text() == other.key.text();
+    }
+};
+
+/// Whether @p c in a key stands for itself alone.
+bool isPlain(char c)
+{
+    return c != '/' && c != '\\' && c != '%';
+}
+
+/// Whether QSettings gives the value of the key, and writes it in a way that it reads as the same.
+/// This depends on a "/" at either end, which most keys cannot have.
+bool isReadable(const IniKey &key)
+{
+    const std::string_view front = key.section.data() ? key.section : key.name;
+    const bool hasPlainFront = !front.empty() && isPlain(front.front());
+    const bool hasPlainBack = !key.name.empty() && isPlain(key.name.back());
+    // The hexadecimal number of a "/" ends in this digit.
+    if (hasPlainFront && hasPlainBack && (key.name.back() & 0xdf) != 'F')
+        return true;
+    const QLatin1Char slash('/');
+    const QString text = key.text();
+    return !text.startsWith(slash) && !(text.endsWith(slash) && text.count(slash) > 1);
+}
+
+struct KeyHash
+{
+    std::size_t operator()(const HashedKey &key) const { return key.hash; }
+};
+
+bool isUtf8(const QByteArray &bytes)
+{
+    QTextCodec::ConverterState state;
+    QTextCodec::codecForName("utf-8")->toUnicode(bytes.constData(), bytes.size(), &state);
+    return state.invalidChars == 0 && state.remainingChars == 0;
+}
+
+/// The first byte of @p text that is not UTF-8; its end when all of it is.
+const char *firstInvalidByte(std::string_view text)
+{
+    // Something in front keeps a byte order mark from being dropped.
+    const QByteArray bytes = ' ' + QByteArray(text.data(), static_cast<int>(text.size()));
+    const QByteArray again = QString::fromUtf8(bytes).toUtf8();
+    const auto end = std::mismatch(bytes.cbegin(), bytes.cend(), again.cbegin(), again.cend());
+    return text.data() + (end.first - bytes.cbegin()) - 1;
+}
+
+/// Whether a "@" may be written in @p value, as it is or as an escaped number.
+bool mayHoldTypedText(std::string_view value)
+{
+    for (std::size_t at = value.find_first_of("@\\"); at < value.size();
+         at = value.find_first_of("@\\", at + 1)) {
+        const char next = at + 1 < value.size() ? value[at + 1] : ' ';
+        if (value[at] == '@' || next == 'x' || (next >= '0' && next <= '7'))
+            return true;
+    }
+    return false;
+}
+
+bool hasUnsafeElement(const QStringList &elements)
+{
+    return std::any_of(elements.cbegin(), elements.cend(), isUnsafe);
+}
+
+class ProblemSearch
+{
+public:
+    explicit ProblemSearch(const QByteArray &bytes)
+        : m_reader(bytes)
+        , m_isUtf8(isUtf8(bytes))
+    {
+    }
+
+    QVector<IniProblem> problems()
+    {
+        while (m_reader.next()) {
+            checkLine();
+            if (m_reader.line().kind == IniLine::Section)
+                checkHeader();
+            else if (m_reader.line().kind == IniLine::Entry)
+                checkEntry();
+        }
+        endSection();
+        findDuplicates();
+        return inOrder();
+    }
+
+private:
+    struct Finding
+    {
+        IniProblem::Kind kind;
+        const char *at;
+        const char *other = nullptr;
+    };
+    void checkLine()
+    {
+        const IniLine &line = m_reader.line();
+        const char *const start = line.text.data();
+        const char *const end = start + line.text.size();
+        const char *const invalid = m_isUtf8 ? end : firstInvalidByte(line.text);
+        if (invalid != end)
+            m_findings.push_back({ IniProblem::NotUtf8, invalid });
+        if (*start == '\xef' && line.text.substr(0, 3) == "\xef\xbb\xbf")
+            m_findings.push_back({ IniProblem::ByteOrderMark, start });
+        else if (line.kind == IniLine::Comment || *start == '#')
+            m_findings.push_back({ IniProblem::DroppedComment, start });
+        else if (line.kind == IniLine::Other)
+            m_findings.push_back({ IniProblem::NoEqualsSign, start });
+    }
+
+    void checkHeader()
+    {
+        const IniLine &line = m_reader.line();
+        endSection();
+        m_emptyHeader = line.text.data();
+        if (line.value.find_last_not_of(" \t") != 0)
+            m_findings.push_back({ IniProblem::BrokenHeader, m_emptyHeader });
+    }
+
+    void endSection()
+    {
+        if (m_emptyHeader)
+            m_findings.push_back({ IniProblem::EmptySection, m_emptyHeader });
+        m_emptyHeader = nullptr;
+    }
+
+    void checkEntry()
+    {
+        const IniLine &line = m_reader.line();
+        m_emptyHeader = nullptr;
+        m_keys.push_back({ m_reader.key(), m_reader.keyHash(), line.text.data() });
+        if (!isReadable(m_reader.key()))
+            m_findings.push_back({ IniProblem::UnreadableKey, line.text.data() });
+        const auto isPlainText = [](char c) {
+            return c != '\\' && c != '"' && c != '@' && static_cast<signed char>(c) >= 0;
+        };
+        if (!std::all_of(line.value.cbegin(), line.value.cend(), isPlainText))
+            checkValue();
+    }
+
+    void checkValue()
+    {
+        const std::string_view value = m_reader.line().value;
+        std::vector<IniMisspelling> misspellings;
+        const QStringList elements = iniElements(value, &misspellings);
+        for (const IniMisspelling &misspelling : misspellings) {
+            const bool isEscape = misspelling.kind == IniMisspelling::BadEscape;
+            m_findings.push_back({ isEscape ? IniProblem::BadEscape : IniProblem::DroppedCharacter,
+                                   misspelling.at });
+        }
+        if (hasUnsafeElement(elements))
+            m_findings.push_back({ IniProblem::UnsafeValue, value.data() });
+        else if (std::any_of(elements.cbegin(), elements.cend(), isDamaged))
+            m_findings.push_back({ IniProblem::DamagedValue, value.data() });
+    }
+
+    void findDuplicates()
+    {
+        std::pmr::monotonic_buffer_resource memory;
+        std::pmr::unordered_set<HashedKey, KeyHash> firsts(m_keys.size(), &memory);
+        for (const HashedKey &key : m_keys) {
+            const auto [first, isNew] = firsts.insert(key);
+            if (!isNew)
+                m_findings.push_back({ IniProblem::DuplicateKey, key.at, first->at });
+        }
+    }
+
+    QVector<IniProblem> inOrder()
+    {
+        std::stable_sort(m_findings.begin(), m_findings.end(),
+                         [](const Finding &a, const Finding &b) { return a.at < b.at; });
+        QVector<IniProblem> problems;
+        std::vector<std::pair<const char *, int>> others;
+        for (const Finding &finding : m_findings) {
+            if (finding.other)
+                others.emplace_back(finding.other, problems.size());
+            problems.append({ finding.kind, m_reader.positionOf(finding.at) });
+        }
+        std::sort(others.begin(), others.end());
+        for (const auto &[other, index] : others)
+            problems[index].otherLine = m_reader.positionOf(other).line;
+        return problems;
+    }
+
+    IniReader m_reader;
+    const bool m_isUtf8;
+    std::vector<Finding> m_findings;
+    std::vector<HashedKey> m_keys;
+    /// The header of the section, until a key is found behind it.
+    const char *m_emptyHeader = nullptr;
+};
+
+} // namespace
+
+QVector<IniProblem> iniProblems(const QByteArray &bytes)
+{
+    return ProblemSearch(bytes).problems();
+}
+
+bool hasUnsafeIniValue(const QByteArray &bytes)
+{
+    if (!bytes.contains('@') && !bytes.contains('\\'))
+        return false;
+    IniReader reader(bytes);
+    while (reader.next()) {
+        const std::string_view value = reader.line().value;
+        if (mayHoldTypedText(value) && hasUnsafeElement(iniElements(value)))
+            return true;
+    }
+    return false;
+}
