@@ -65,7 +65,7 @@ const char *firstInvalidByte(std::string_view text)
 {
     // Something in front keeps a byte order mark from being dropped.
     const QByteArray bytes = ' ' + QByteArray(text.data(), static_cast<int>(text.size()));
-    const QByteArray again = QString::fromUtf8(bytes).toUtf8();
+    const QByteArray again = QString::fromUtf8(bytes.constData(), bytes.size()).toUtf8();
     const auto end = std::mismatch(bytes.cbegin(), bytes.cend(), again.cbegin(), again.cend());
     return text.data() + (end.first - bytes.cbegin()) - 1;
 }

@@ -210,7 +210,7 @@ private:
     {
         const auto endsPiece = [](char c) { return c == '\\' || c == '"' || c == ','; };
         // Characters of two units are read, but not written.
-        const auto isWide = [](char c) { return (static_cast<uchar>(c) & 0xf8) == 0xf0; };
+        const auto isWide = [](char c) { return c >= '\xf0' && c <= '\xf4'; };
         const char *const start = m_at;
         m_at = std::find_if(m_at + 1, m_end, endsPiece);
         static const QTextCodec *const codec = QTextCodec::codecForName("utf-8");

@@ -18,8 +18,8 @@
 
 namespace {
 
-/// Values nested deeper than this are nothing that a program stores. Each level takes a few hundred
-/// bytes on the stack.
+/// Values nested deeper than this are nothing that a program stores. Reading and storing them takes
+/// a few hundred bytes of the stack for each level.
 constexpr int deepestLevel = 1000;
 /// What the readers of types that the host has registered may take of the stack.
 constexpr std::ptrdiff_t mostStack = 256 * 1024;
@@ -142,7 +142,10 @@ private:
         m_stream >> number;
         return number;
     }
-    bool skip(qint64 size) { return m_buffer.seek(m_buffer.pos() + size); }
+    bool skip(qint64 size)
+    {
+        return size <= m_buffer.bytesAvailable() && m_buffer.seek(m_buffer.pos() + size);
+    }
     bool skipCounted(int elementSize) { return skip(qint64(next<quint32>()) * elementSize); }
 
     ShallowBuffer m_buffer;
@@ -320,13 +323,9 @@ bool SerialisedWalk::region()
 /// Whether all of @p values are storable.
 template <typename Values> bool areStorable(const Values &values, int depth);
 
-/// Deeper lists of lists than this are nothing that a program stores, and QSettings would follow
-/// them until the stack ends.
-constexpr int deepestList = 100;
-
 bool isStorable(const QVariant &value, int depth)
 {
-    if (depth > deepestList)
+    if (depth > deepestLevel)
         return false;
     switch (value.userType()) {
     case QMetaType::UnknownType:
