@@ -9,6 +9,7 @@
 #include <QDataStream>
 #include <QDateTime>
 #include <QGuiApplication>
+#include <QImage>
 #include <QMetaType>
 #include <QTimeZone>
 
@@ -155,7 +156,10 @@ private:
 bool SerialisedWalk::value(int level)
 {
     const qint64 start = m_buffer.pos();
-    const int type = typeOf(next<quint32>());
+    int type = typeOf(next<quint32>());
+    // Types of Qt may be named, too.
+    if (type == QMetaType::User)
+        type = QMetaType::type(next<QByteArray>().constData());
     if (level == 0 && isFlat(type))
         return true;
     if (level > deepestLevel)
@@ -233,9 +237,11 @@ bool SerialisedWalk::textFormat(int level)
     return true;
 }
 
-/// Pictures are stored as PNG. Given other bytes, Qt would try the readers of all formats on them.
+/// Pictures are stored as PNG. Given other bytes, Qt would try the readers of all formats on them,
+/// and goes on in the middle of a picture that it cannot read to its end.
 bool SerialisedWalk::image()
 {
+    const qint64 start = m_buffer.pos();
     const bool isNull = next<qint32>() == 0;
     if (isNull)
         return m_stream.status() == QDataStream::Ok;
@@ -254,7 +260,9 @@ bool SerialisedWalk::image()
         size = next<quint32>();
         chunk = next<quint32>();
     }
-    return chunk == end && m_stream.status() == QDataStream::Ok;
+    const qint64 behind = m_buffer.pos();
+    m_buffer.seek(start);
+    return chunk == end && !next<QImage>().isNull() && m_buffer.pos() == behind;
 }
 
 bool SerialisedWalk::pixmap()

@@ -308,6 +308,8 @@ private Q_SLOTS:
         hex("a polygon with a count", "000000470bb50004");
         hex("a polygon under its other number", "000000a80bb50004");
         hex("a polygon in the plane with a count", "000000b700ffffff");
+        row("a polygon under its name",
+            number(127) + number(10) + QByteArray("QPolygonF", 10) + number(0xffffffff));
         hex("a polygon in a value", "0000008a000000b7ffffffff");
         hex("a polygon in a list", "000000090000000200000001010000004700ffffff");
         hex("a polygon in a map", "00000008000000010000000200610000004700ffffff");
