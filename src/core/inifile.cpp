@@ -75,14 +75,14 @@ bool isLockable(const QSettings &settings)
     return !lock.exists() || (lock.isFile() && QLockFile(lock.filePath()).tryLock(longestLock));
 }
 
-/// The copies of the file at @p path, newest first. A name that something else than a file has is
-/// left out.
+/// The names for copies of the file at @p path, newest first, but for those that a directory, for
+/// example, has.
 QStringList copyPaths(const QString &path)
 {
     QStringList paths;
     for (const char *ending : { ".bak", ".bak2", ".bak3", ".bak4", ".bak5" }) {
         const QString copy = path + QLatin1String(ending);
-        if (canBeFile(copy))
+        if (canBeFile(copy) && !QFileInfo(copy).isSymLink())
             paths.append(copy);
     }
     return paths;
