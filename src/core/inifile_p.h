@@ -20,8 +20,8 @@ KeyValues readIniFile(const QString &path);
  * Writes @p entries into the INI file at @p path, in order, and keeps its other keys. Missing
  * directories are made. Values that cannot be stored, pointers for example, are left out.
  *
- * A file of which something would be lost in that is copied to @p path with the ending ".bak"
- * first, and left alone if that fails. An earlier copy stays: the next ends in ".bak2".
+ * A file of which something would be lost in that is copied first, to @p path with the ending
+ * ".bak", and left alone if that fails. Five copies stay at most, the oldest ends in ".bak5".
  */
 void writeIniFile(const QString &path, const KeyValues &entries);
 

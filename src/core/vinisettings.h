@@ -58,6 +58,11 @@ public:
     /// Binds the store to the file @p path and replaces its list by what the file holds, in the
     /// order of QSettings::allKeys(). A file that does not exist is created empty; if that fails
     /// nothing changes.
+    ///
+    /// A file has no keys, and is never written, while one of its values is unsafe to read: nested
+    /// more than 1,000 levels deep, or bytes that would crash Qt's own readers. In programs without
+    /// windows this includes values made of pixels, such as a pixmap. Values of types that the host
+    /// has registered are read by the host's stream operators, which have to be as careful.
     void setPath(QString path);
 
     /// The file that the store is bound to; empty without one.
@@ -116,14 +121,22 @@ public:
 
     /**
      * Writes the list into the file @p path, which is created where it is missing, and keeps the
-     * other keys of that file. Directories are not made, and a file that another program keeps
-     * locked for more than a second is left alone. The store stays bound to its own file.
+     * other keys of that file. Directories are not made. While another program locks the file,
+     * this waits. The store stays bound to its own file.
      *
-     * What QSettings makes nothing of would be lost in that: comments, broken lines, damaged
-     * values. A file with any of it is kept as a copy beside it, with the additional ending ".bak",
-     * or ".bak2" and so on next to an earlier copy. Values that QSettings cannot store, pointers
-     * for example, are left out. So are characters that take two QChars, such as emoji: QSettings
-     * of Qt 5 drops them from what it writes in UTF-8.
+     * Of what stands in the file, QSettings writes only what it has understood. Before something
+     * would be lost in that, the file is copied: to a file with the additional ending ".bak", while
+     * earlier copies move up to ".bak2" and on to ".bak5". Reasons are comments, also a line that
+     * begins with "#" (which stays a key if it has a "="), lines without "=", text behind "]", keys
+     * that are given twice, escapes that mean nothing, quotes inside of a text, bytes that are not
+     * UTF-8, characters that take two QChars, and damaged values of other types than text. What is
+     * only spelt otherwise then is no reason: [general], [Desktop Entry], Name[de], quotes,
+     * \@default, white space, sections without keys.
+     *
+     * Values that QSettings cannot store are left out: pointers, for example, times in a time zone
+     * that does not exist, and lists nested more than 1,000 levels deep. So are characters that
+     * take two QChars, such as emoji: QSettings of Qt 5 drops them from what it writes in UTF-8. A
+     * file that has no keys because a value in it is unsafe, see setPath(), is left alone.
      */
     void saveLocal(QString path) const;
     /// Writes the list into the file that the store is bound to.
