@@ -3,11 +3,12 @@
 
 #include <Kelto/VParameter>
 
+#include "core/vparameter_p.h"
+
 #include <QTest>
 #include <QVector>
 
 #include <limits>
-#include <type_traits>
 #include <utility>
 
 using Change = void (*)(VParameter &);
@@ -17,6 +18,9 @@ Q_DECLARE_METATYPE(VParameter)
 Q_DECLARE_METATYPE(Change)
 
 namespace {
+
+const double infinity = std::numeric_limits<double>::infinity();
+const double nan = std::numeric_limits<double>::quiet_NaN();
 
 /// Tells null texts from empty ones.
 QString shown(const QString &text)
@@ -32,24 +36,15 @@ QString shown(const QVariant &value)
     return value.isValid() ? QString(value.typeName()) + " " + text : QString("no value");
 }
 
-/// All fields; the group comes before the name and the value last.
-QStringList fields(const VParameter &parameter)
+/// All fields in a line; the group comes before the name and the value last.
+QString fields(const VParameter &p)
 {
-    return { shown(parameter.group().first),
-             shown(parameter.group().second),
-             shown(parameter.name().first),
-             shown(parameter.name().second),
-             shown(parameter.unit().first),
-             shown(parameter.unit().second),
-             shown(parameter.symbol()),
-             shown(parameter.parameterObjectName()),
-             parameter.isMulti() ? "multi" : "single",
-             shown(parameter.value()) };
-}
-
-QStringList fieldsWith(QStringList texts, const QString &multi, const QString &value)
-{
-    return texts << multi << value;
+    QStringList texts;
+    for (const QString &text :
+         { p.group().first, p.group().second, p.name().first, p.name().second, p.unit().first,
+           p.unit().second, p.symbol(), p.parameterObjectName() })
+        texts.append(shown(text));
+    return texts.join(" ") + (p.isMulti() ? ", multi, " : ", single, ") + shown(p.value());
 }
 
 VParameter filled()
@@ -57,19 +52,11 @@ VParameter filled()
     return VParameter(1.5, { "n", "N" }, { "u", "U" }, "s", { "g", "G" }, "o", true);
 }
 
-QStringList filledTexts()
+VParameter withValue(const QVariant &value)
 {
-    return { "'g'", "'G'", "'n'", "'N'", "'u'", "'U'", "'s'", "'o'" };
-}
-
-QStringList cleared()
-{
-    return { "null", "null", "null", "null", "null", "null", "''", "''", "single", "no value" };
-}
-
-QStringList untouched()
-{
-    return { "null", "null", "null", "null", "null", "null", "null", "null", "single", "no value" };
+    VParameter parameter = filled();
+    parameter.set(value);
+    return parameter;
 }
 
 QStringList entry(const QString &multi)
@@ -77,30 +64,11 @@ QStringList entry(const QString &multi)
     return { "0", "1", "2", multi, "4", "5", "6", "7", "8" };
 }
 
-QStringList entryTexts()
-{
-    return { "'0'", "'8'", "'1'", "'7'", "'4'", "'5'", "'6'", "'2'" };
-}
-
-/// Runs a row of the columns change and expected.
-void checkChange()
-{
-    QFETCH(Change, change);
-    VParameter parameter = filled();
-    change(parameter);
-    QTEST(fields(parameter), "expected");
-}
-
-void addChange(const char *name, const QStringList &expected, Change change)
-{
-    QTest::newRow(name) << change << expected;
-}
-
-void addChangeColumns()
-{
-    QTest::addColumn<Change>("change");
-    QTest::addColumn<QStringList>("expected");
-}
+const QString filledTexts = "'g' 'G' 'n' 'N' 'u' 'U' 's' 'o', multi, ";
+const QString entryTexts = "'0' '8' '1' '7' '4' '5' '6' '2', ";
+const QString lengthTexts = "'' '' 'Length' 'Length' 'mm' 'mm' 'L' 'float', single, ";
+const QString cleared = "null null null null null null '' '', single, no value";
+const QString untouched = "null null null null null null null null, single, no value";
 
 } // namespace
 
@@ -109,318 +77,251 @@ class TestVParameter : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void constructs_data();
-    void constructs();
-    void setsTheValue_data();
-    void setsTheValue();
-    void readsSetsForm_data();
-    void readsSetsForm();
-    void keepsTheFlagWithAnotherWord_data();
-    void keepsTheFlagWithAnotherWord();
-    void replacesAllFields_data();
-    void replacesAllFields();
-    void writesSetsForm_data();
-    void writesSetsForm();
-    void restoresAllButTheValue_data();
-    void restoresAllButTheValue();
-    void copiesAreIndependent_data();
-    void copiesAreIndependent();
-    void canBeUsedAfterMoving();
-    void canBeHeldByContainers();
-};
+    void constructs_data()
+    {
+        QTest::addColumn<VParameter>("parameter");
+        QTest::addColumn<QString>("expected");
 
-void TestVParameter::constructs_data()
-{
-    QTest::addColumn<VParameter>("parameter");
-    QTest::addColumn<QStringList>("expected");
-
-    const QString null;
-    const double infinity = std::numeric_limits<double>::infinity();
-    const QStringList length {
-        "''", "''", "'Length'", "'Length'", "'mm'", "'mm'", "'L'", "'float'"
-    };
-
-    QTest::newRow("empty: pairs are null, symbol and object name are not")
-        << VParameter() << cleared();
-    QTest::newRow("seven fields") << filled() << fieldsWith(filledTexts(), "multi", "double 1.5");
-    QTest::newRow("seven null fields stay null")
-        << VParameter(QVariant(), {}, {}, null, {}, null, false) << untouched();
-    QTest::newRow("seven empty fields stay empty")
-        << VParameter("", { "", "" }, { "", "" }, "", { "", "" }, "", true)
-        << fieldsWith(QVector<QString>(8, "''").toList(), "multi", "QString ");
-    QTest::newRow("a floating-point value")
-        << VParameter(2.5, "Length", "mm", "L") << fieldsWith(length, "single", "double 2.5");
-    QTest::newRow("a whole number becomes a floating-point value")
-        << VParameter(2, "Length", "mm", "L") << fieldsWith(length, "single", "double 2");
-    QTest::newRow("an infinite value")
-        << VParameter(infinity, "Length", "mm", "L") << fieldsWith(length, "single", "double inf");
-    QTest::newRow("a value that is no number")
-        << VParameter(std::numeric_limits<double>::quiet_NaN(), "Length", "mm", "L")
-        << fieldsWith(length, "single", "double nan");
-    QTest::newRow("a floating-point value without texts has no null group")
-        << VParameter(0.0, null, null, null)
-        << QStringList { "''",   "''",   "null",    "null",   "null",
-                         "null", "null", "'float'", "single", "double 0" };
-    QTest::newRow("an entry of one value")
-        << VParameter(entry("false")) << fieldsWith(entryTexts(), "single", "no value");
-    QTest::newRow("an entry of several values")
-        << VParameter(entry("true")) << fieldsWith(entryTexts(), "multi", "no value");
-    QTest::newRow("an entry with a capital True")
-        << VParameter(entry("True")) << fieldsWith(entryTexts(), "single", "no value");
-    QTest::newRow("an entry of eight texts") << VParameter(entry("true").mid(1)) << untouched();
-    QTest::newRow("an entry of ten texts") << VParameter(entry("true") << "9") << untouched();
-    QTest::newRow("an entry without texts") << VParameter(QStringList()) << untouched();
-    QTest::newRow("a copy") << VParameter(filled())
-                            << fieldsWith(filledTexts(), "multi", "double 1.5");
-}
-
-void TestVParameter::constructs()
-{
-    QFETCH(VParameter, parameter);
-    QTEST(fields(parameter), "expected");
-}
-
-void TestVParameter::setsTheValue_data()
-{
-    addChangeColumns();
-    const auto row = [](const char *name, const QString &value, Change change) {
-        addChange(name, fieldsWith(filledTexts(), "multi", value), change);
-    };
-
-    row("a number", "double 2.5", [](VParameter &p) { p.set(2.5); });
-    row("a whole number", "int 0", [](VParameter &p) { p.set(0); });
-    row("a truth value", "bool true", [](VParameter &p) { p.set(true); });
-    row("a literal", "QString x", [](VParameter &p) { p.set("x"); });
-    row("a text", "QString x", [](VParameter &p) { p.set(QString("x")); });
-    row("a Latin-1 text", "QString x", [](VParameter &p) { p.set(QLatin1String("x")); });
-    row("a QVariant", "QString x", [](VParameter &p) { p.set(QVariant("x")); });
-    row("an invalid QVariant", "no value", [](VParameter &p) { p.set(QVariant()); });
-    const Change setToList = [](VParameter &p) { p.set(QVariantList { 1, 2 }); };
-    row("a list of values", "QVariantList 1,2", setToList);
-    row("a list in a QVariant, even of nine texts", "QStringList 0,1,2,true,4,5,6,7,8",
-        [](VParameter &p) { p.set(QVariant(entry("true"))); });
-}
-
-void TestVParameter::setsTheValue()
-{
-    checkChange();
-}
-
-void TestVParameter::readsSetsForm_data()
-{
-    addChangeColumns();
-    const QStringList single = fieldsWith(entryTexts(), "single", "double 1.5");
-    const QStringList multi = fieldsWith(entryTexts(), "multi", "double 1.5");
-    const QStringList unchanged = fieldsWith(filledTexts(), "multi", "double 1.5");
-
-    addChange("keeps the value", single, [](VParameter &p) { p.set(entry("false")); });
-    const Change setInPlace = [](VParameter &p) {
-        p.set({ "0", "1", "2", "false", "4", "5", "6", "7", "8" });
-    };
-    addChange("written in place", single, setInPlace);
-    addChange("the word true", multi, [](VParameter &p) { p.set(entry("true")); });
-    const Change clearAndSet = [](VParameter &p) { p.clear(), p.set(entry("TRUE")); };
-    addChange("TRUE does not set a cleared() flag", fieldsWith(entryTexts(), "single", "no value"),
-              clearAndSet);
-    const Change setTwice = [](VParameter &p) { p.set(entry("false")), p.set(entry("true")); };
-    addChange("true after false", multi, setTwice);
-    addChange("null texts stay null",
-              fieldsWith(QVector<QString>(8, "null").toList(), "multi", "double 1.5"),
-              [](VParameter &p) { p.set(QVector<QString>(9).toList()); });
-    addChange("eight texts change nothing", unchanged,
-              [](VParameter &p) { p.set(entry("false").mid(1)); });
-    addChange("ten texts change nothing", unchanged,
-              [](VParameter &p) { p.set(entry("false") << "9"); });
-    addChange("no texts change nothing", unchanged, [](VParameter &p) { p.set(QStringList()); });
-}
-
-void TestVParameter::readsSetsForm()
-{
-    checkChange();
-}
-
-void TestVParameter::keepsTheFlagWithAnotherWord_data()
-{
-    QTest::addColumn<QString>("word");
-
-    QTest::newRow("one") << "1";
-    QTest::newRow("zero") << "0";
-    QTest::newRow("capital letters") << "TRUE";
-    QTest::newRow("capital letters, false") << "FALSE";
-    QTest::newRow("a capital letter") << "True";
-    QTest::newRow("a capital letter, false") << "False";
-    QTest::newRow("a space in front") << " true";
-    QTest::newRow("a space in front, false") << " false";
-    QTest::newRow("a space behind") << "true ";
-    QTest::newRow("a space behind, false") << "false ";
-    QTest::newRow("the first letter") << "t";
-    QTest::newRow("the first letter, false") << "f";
-    QTest::newRow("more letters") << "trueish";
-    QTest::newRow("yes") << "yes";
-    QTest::newRow("no") << "no";
-    QTest::newRow("on") << "on";
-    QTest::newRow("off") << "off";
-    QTest::newRow("multi") << "multi";
-    QTest::newRow("a space") << " ";
-    QTest::newRow("empty") << "";
-    QTest::newRow("null") << QString();
-}
-
-void TestVParameter::keepsTheFlagWithAnotherWord()
-{
-    QFETCH(QString, word);
-    for (bool multi : { false, true }) {
-        VParameter parameter(1.5, { "n", "N" }, { "u", "U" }, "s", { "g", "G" }, "o", multi);
-        parameter.set(entry(word));
-        QCOMPARE(fields(parameter),
-                 fieldsWith(entryTexts(), multi ? "multi" : "single", "double 1.5"));
+        const QString null;
+        QTest::newRow("empty: pairs are null, symbol and object name are not")
+            << VParameter() << cleared;
+        QTest::newRow("seven fields") << filled() << filledTexts + "double 1.5";
+        QTest::newRow("seven null fields stay null")
+            << VParameter(QVariant(), {}, {}, null, {}, null, false) << untouched;
+        QTest::newRow("a floating-point value")
+            << VParameter(2.5, "Length", "mm", "L") << lengthTexts + "double 2.5";
+        QTest::newRow("a whole number becomes a floating-point value")
+            << VParameter(2, "Length", "mm", "L") << lengthTexts + "double 2";
+        QTest::newRow("a floating-point value without texts has no null group")
+            << VParameter(0.0, null, null, null)
+            << "'' '' null null null null null 'float', single, double 0";
+        QTest::newRow("an entry of one value")
+            << VParameter(entry("false")) << entryTexts + "single, no value";
+        QTest::newRow("an entry of several values")
+            << VParameter(entry("true")) << entryTexts + "multi, no value";
+        QTest::newRow("an entry of eight texts") << VParameter(entry("true").mid(1)) << untouched;
+        QTest::newRow("an entry of ten texts") << VParameter(entry("true") << "9") << untouched;
     }
-}
+    void constructs()
+    {
+        QFETCH(VParameter, parameter);
+        QTEST(fields(parameter), "expected");
+    }
 
-void TestVParameter::replacesAllFields_data()
-{
-    addChangeColumns();
-    const QStringList unchanged = fieldsWith(filledTexts(), "multi", "double 1.5");
-    const QStringList others { "'g2'", "'G2'", "'n2'", "'N2'", "'u2'", "'U2'", "'s2'", "'o2'" };
+    void changes_data()
+    {
+        QTest::addColumn<Change>("change");
+        QTest::addColumn<QString>("expected");
 
-    const Change setSeven = [](VParameter &p) {
-        p.set(2, { "n2", "N2" }, { "u2", "U2" }, "s2", { "g2", "G2" }, "o2", false);
-    };
-    addChange("set to seven fields", fieldsWith(others, "single", "int 2"), setSeven);
-    addChange("set to another parameter", fieldsWith(entryTexts(), "single", "no value"),
-              [](VParameter &p) { p.set(VParameter(entry("false"))); });
-    addChange("set to an empty parameter", cleared(), [](VParameter &p) { p.set(VParameter()); });
-    addChange("set to null texts", untouched(),
-              [](VParameter &p) { p.set(VParameter(QStringList())); });
-    addChange("set to itself", unchanged, [](VParameter &p) { p.set(p); });
-    addChange("assigned", cleared(), [](VParameter &p) { p = VParameter(); });
-    const Change assignItself = [](VParameter &p) {
-        const VParameter &same = p;
-        p = same;
-    };
-    addChange("assigned to itself", unchanged, assignItself);
-    addChange("cleared", cleared(), [](VParameter &p) { p.clear(); });
-    addChange("cleared() twice", cleared(), [](VParameter &p) { p.clear(), p.clear(); });
-}
+        const auto row = [](const char *name, const QString &expected, Change change) {
+            QTest::newRow(name) << change << expected;
+        };
+        // A literal is no truth value, and a list in a QVariant is no entry.
+        row("a number", filledTexts + "double 2.5", [](VParameter &p) { p.set(2.5); });
+        row("a truth value", filledTexts + "bool true", [](VParameter &p) { p.set(true); });
+        row("a literal", filledTexts + "QString x", [](VParameter &p) { p.set("x"); });
+        row("a text", filledTexts + "QString x", [](VParameter &p) { p.set(QString("x")); });
+        row("no value", filledTexts + "no value", [](VParameter &p) { p.set(QVariant()); });
+        row("a list of nine texts as a value", filledTexts + "QStringList 0,1,2,true,4,5,6,7,8",
+            [](VParameter &p) { p.set(QVariant(entry("true"))); });
 
-void TestVParameter::replacesAllFields()
-{
-    checkChange();
-}
+        row("an entry leaves the value", entryTexts + "single, double 1.5",
+            [](VParameter &p) { p.set(entry("false")); });
+        row("an entry after clear()", entryTexts + "multi, no value",
+            [](VParameter &p) { p.clear(), p.set(entry("true")); });
+        row("null texts of an entry stay null",
+            "null null null null null null null null, multi, double 1.5",
+            [](VParameter &p) { p.set(QVector<QString>(9).toList()); });
+        row("eight texts change nothing", filledTexts + "double 1.5",
+            [](VParameter &p) { p.set(entry("false").mid(1)); });
+        row("ten texts change nothing", filledTexts + "double 1.5",
+            [](VParameter &p) { p.set(entry("false") << "9"); });
+        row("no texts change nothing", filledTexts + "double 1.5",
+            [](VParameter &p) { p.set(QStringList()); });
 
-void TestVParameter::writesSetsForm_data()
-{
-    QTest::addColumn<VParameter>("parameter");
-    QTest::addColumn<QStringList>("expected");
+        const Change setSeven = [](VParameter &p) {
+            p.set(2, { "n2", "N2" }, { "u2", "U2" }, "s2", { "g2", "G2" }, "o2", false);
+        };
+        row("seven fields", "'g2' 'G2' 'n2' 'N2' 'u2' 'U2' 's2' 'o2', single, int 2", setSeven);
+        row("another parameter", entryTexts + "single, no value",
+            [](VParameter &p) { p.set(VParameter(entry("false"))); });
+        row("itself", filledTexts + "double 1.5", [](VParameter &p) { p.set(p); });
+        row("assigned", cleared, [](VParameter &p) { p = VParameter(); });
+        row("cleared", cleared, [](VParameter &p) { p.clear(); });
+    }
+    /// Nothing that is done to a parameter reaches its copies.
+    void changes()
+    {
+        QFETCH(Change, change);
+        VParameter parameter = filled();
+        const VParameter copy = parameter;
+        VParameter taken;
+        taken.set(parameter);
+        change(parameter);
+        QTEST(fields(parameter), "expected");
+        QCOMPARE(fields(copy), fields(filled()));
+        QCOMPARE(fields(taken), fields(filled()));
 
-    QTest::newRow("a cleared() parameter")
-        << VParameter() << QStringList { "", "", "", "false", "", "", "", "", "" };
-    QTest::newRow("the order of the places, without the value")
-        << filled() << QStringList { "g", "n", "o", "true", "u", "U", "s", "N", "G" };
-    QTest::newRow("one value") << VParameter(entry("false")) << entry("false");
-    QTest::newRow("an unknown word comes back as false")
-        << VParameter(entry("yes")) << entry("false");
-    QTest::newRow("a floating-point value")
-        << VParameter(2.5, "Length", "mm", "L")
-        << QStringList { "", "Length", "float", "false", "mm", "mm", "L", "Length", "" };
-}
+        parameter = copy;
+        change(taken);
+        QTEST(fields(taken), "expected");
+        QCOMPARE(fields(parameter), fields(filled()));
+    }
 
-void TestVParameter::writesSetsForm()
-{
-    QFETCH(VParameter, parameter);
-    QTEST(parameter.toSetsForm(), "expected");
-}
+    void keepsTheFlagWithAnotherWord()
+    {
+        for (const char *word :
+             { "1", "0", "TRUE", "FALSE", "True", "False", " true", "false ", "trueish", "" }) {
+            for (const bool multi : { false, true }) {
+                VParameter parameter({}, {}, {}, {}, {}, {}, multi);
+                parameter.set(entry(word));
+                QVERIFY2(parameter.isMulti() == multi, word);
+                QCOMPARE(parameter.symbol(), QString("6"));
+            }
+        }
+    }
 
-void TestVParameter::restoresAllButTheValue_data()
-{
-    QTest::addColumn<VParameter>("parameter");
+    void writesSetsForm_data()
+    {
+        QTest::addColumn<VParameter>("parameter");
+        QTest::addColumn<QStringList>("expected");
 
-    QTest::newRow("empty") << VParameter();
-    QTest::newRow("null texts") << VParameter(QStringList());
-    QTest::newRow("filled") << filled();
-    QTest::newRow("one value") << VParameter(2.5, "Length", "mm", "L");
-    QTest::newRow("words and separators as texts")
-        << VParameter(1, { "true", "false" }, { "|", ":" }, "/", { " ", "\n" }, "-_", true);
-}
+        QTest::newRow("empty") << VParameter()
+                               << QStringList { "", "", "", "false", "", "", "", "", "" };
+        QTest::newRow("filled") << filled()
+                                << QStringList { "g", "n", "o", "true", "u", "U", "s", "N", "G" };
+        QTest::newRow("an unknown word is false")
+            << VParameter(entry("yes")) << entry("false");
+        QTest::newRow("a floating-point value")
+            << VParameter(2.5, "Length", "mm", "L")
+            << QStringList { "", "Length", "float", "false", "mm", "mm", "L", "Length", "" };
+    }
+    /// The form restores all but the value.
+    void writesSetsForm()
+    {
+        QFETCH(VParameter, parameter);
+        QTEST(parameter.toSetsForm(), "expected");
+        VParameter restored(parameter.toSetsForm());
+        QVERIFY(!restored.value().isValid());
+        restored.set(parameter.value());
+        QVERIFY(restored.isEqual(&parameter));
+    }
 
-void TestVParameter::restoresAllButTheValue()
-{
-    QFETCH(VParameter, parameter);
-    VParameter restored;
-    restored.set(parameter.toSetsForm());
-    QCOMPARE(shown(restored.value()), QString("no value"));
+    void canBeUsedAfterMoving()
+    {
+        VParameter source = filled();
+        VParameter moved = std::move(source);
+        source.clear();
+        QCOMPARE(fields(source), cleared);
+        QCOMPARE(fields(moved), fields(filled()));
+    }
 
-    restored.set(parameter.value());
-    QCOMPARE(fields(restored), fields(parameter));
-    QVERIFY(restored.isEqual(&parameter));
-}
+    void matchesNames_data()
+    {
+        QTest::addColumn<QString>("first");
+        QTest::addColumn<QString>("second");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("expected");
 
-void TestVParameter::copiesAreIndependent_data()
-{
-    QTest::addColumn<Change>("change");
+        const auto row = [](const char *name, const NamePair &names, const QString &text,
+                            bool expected) {
+            QTest::newRow(name) << names.first << names.second << text << expected;
+        };
+        row("the plain name", { "a", "b" }, "a", true);
+        row("the translated name", { "a", "b" }, "b", true);
+        row("another name", { "a", "b" }, "c", false);
+        row("a part of the name", { "inner diameter", "x" }, "inner", false);
+        row("spaces, underscores, hyphens and case", { "Young's modulus", "x" },
+            "_YOUNG'S -modulus", true);
+        row("those of the name", { "x", "-Inner_ Diameter" }, "innerdiameter", true);
+        row("a trailing dot counts", { "Inner Diameter", "x" }, "innerdiameter.", false);
+        row("an apostrophe counts", { "Young's modulus", "x" }, "youngs modulus", false);
+        row("a tab counts", { "a\tb", "x" }, "ab", false);
+        row("a no-break space counts", { QString("a") + QChar(0x00a0) + "b", "x" }, "ab", false);
+        row("case beyond ASCII", { "Länge", "x" }, "LÄNGE", true);
+        row("a letter with two capital ones is not these two", { "ß", "x" }, "SS", false);
+        row("an empty text is no name", { "a", "b" }, "", false);
+        row("a null text is an empty name", { "", "b" }, QString(), true);
+        row("an empty text is a name of separators", { "a", "- _" }, "", true);
+    }
+    void matchesNames()
+    {
+        QFETCH(QString, first);
+        QFETCH(QString, second);
+        QFETCH(QString, text);
+        const VParameter parameter({}, { first, second }, {}, "", {}, "", false);
+        QTEST(parameter.isName(text), "expected");
+    }
 
-    const auto row = [](const char *name, Change change) { QTest::newRow(name) << change; };
-    row("value", [](VParameter &p) { p.set(2.5); });
-    row("seven fields", [](VParameter &p) { p.set(2, {}, {}, "", {}, "", false); });
-    row("entry", [](VParameter &p) { p.set(entry("false")); });
-    row("other parameter", [](VParameter &p) { p.set(VParameter(entry("true"))); });
-    row("assignment", [](VParameter &p) { p = VParameter(); });
-    row("clear", [](VParameter &p) { p.clear(); });
-}
+    void comparesEachField_data()
+    {
+        QTest::addColumn<VParameter>("other");
 
-void TestVParameter::copiesAreIndependent()
-{
-    QFETCH(Change, change);
-    const QStringList before = fields(filled());
+        const NamePair n("n", "N");
+        const NamePair u("u", "U");
+        const NamePair g("g", "G");
+        QTest::newRow("plain name") << VParameter(1.5, { "x", "N" }, u, "s", g, "o", true);
+        QTest::newRow("translated name") << VParameter(1.5, { "n", "x" }, u, "s", g, "o", true);
+        QTest::newRow("names that isName() takes for equal")
+            << VParameter(1.5, { "n_", "N" }, u, "s", g, "o", true);
+        QTest::newRow("first unit") << VParameter(1.5, n, { "x", "U" }, "s", g, "o", true);
+        QTest::newRow("second unit") << VParameter(1.5, n, { "u", "x" }, "s", g, "o", true);
+        QTest::newRow("case of the symbol") << VParameter(1.5, n, u, "S", g, "o", true);
+        QTest::newRow("plain group") << VParameter(1.5, n, u, "s", { "x", "G" }, "o", true);
+        QTest::newRow("translated group") << VParameter(1.5, n, u, "s", { "g", "x" }, "o", true);
+        QTest::newRow("object name") << VParameter(1.5, n, u, "s", g, "x", true);
+        QTest::newRow("flag") << VParameter(1.5, n, u, "s", g, "o", false);
+    }
+    void comparesEachField()
+    {
+        QFETCH(VParameter, other);
+        QVERIFY(!filled().isEqual(&other));
+        const VParameter parameter = filled();
+        QVERIFY(!other.isEqual(&parameter));
+    }
 
-    VParameter original = filled();
-    VParameter copy = original;
-    VParameter taken;
-    taken.set(original);
-    change(original);
-    QVERIFY(fields(original) != before);
-    QCOMPARE(fields(copy), before);
-    QCOMPARE(fields(taken), before);
+    void comparesValues_data()
+    {
+        QTest::addColumn<QVariant>("value");
+        QTest::addColumn<QVariant>("other");
+        QTest::addColumn<bool>("expected");
 
-    original = copy;
-    change(copy);
-    QVERIFY(fields(copy) != before);
-    QCOMPARE(fields(original), before);
-}
+        const auto row = [](const char *name, const QVariant &value, const QVariant &other,
+                            bool expected) { QTest::newRow(name) << value << other << expected; };
+        row("equal numbers", 1.5, 1.5, true);
+        row("numbers that differ", 1.5, 2.5, false);
+        row("texts that differ by case", "x", "X", false);
+        row("no value on either side", QVariant(), QVariant(), true);
+        row("no value on this side", QVariant(), 1.5, false);
+        row("no value on the other side", 1.5, QVariant(), false);
+        row("the other text becomes a number", 1, "01", true);
+        row("the other number becomes a text", "01", 1, false);
+        row("lists in another order", QStringList { "a", "b" }, QStringList { "b", "a" }, false);
+        row("not a number", nan, nan, false);
+        row("infinite numbers", infinity, infinity, true);
+    }
+    void comparesValues()
+    {
+        QFETCH(QVariant, value);
+        QFETCH(QVariant, other);
+        const VParameter parameter = withValue(value);
+        const VParameter otherParameter = withValue(other);
+        QTEST(parameter.isEqual(&otherParameter), "expected");
+        QCOMPARE(parameterHash(parameter), parameterHash(otherParameter));
+        const VParameter copy = parameter;
+        QCOMPARE(parameter.isEqual(&copy), value == value);
+    }
 
-void TestVParameter::canBeUsedAfterMoving()
-{
-    const QStringList before = fields(filled());
-    VParameter source = filled();
-    const VParameter constructed = std::move(source);
-    QCOMPARE(fields(constructed), before);
-    QCOMPARE(fields(source), before);
+    void takesNullForEmpty()
+    {
+        const VParameter null { QStringList() };
+        const VParameter empty(QVector<QString>(9, "").toList());
+        QVERIFY(null.isEqual(&empty));
+        QCOMPARE(parameterHash(null), parameterHash(empty));
+    }
 
-    VParameter assigned;
-    assigned = std::move(source);
-    QCOMPARE(fields(assigned), before);
-    QCOMPARE(source.toSetsForm(), filled().toSetsForm());
-    source.clear();
-    QCOMPARE(fields(source), cleared());
-    QCOMPARE(fields(assigned), before);
-}
-
-void TestVParameter::canBeHeldByContainers()
-{
-    QVector<VParameter> parameters(2);
-    for (int i = 0; i < 1000; ++i)
-        parameters.append(VParameter(i, QString::number(i), "", ""));
-    parameters.remove(0);
-    QCOMPARE(parameters.size(), 1001);
-    QCOMPARE(fields(parameters.first()), cleared());
-    QCOMPARE(parameters.last().name(), NamePair("999", "999"));
-    QCOMPARE(parameters.last().value(), QVariant(999.0));
-
-    const bool isMovedInMemory = !QTypeInfo<VParameter>::isStatic;
-    QVERIFY(isMovedInMemory);
-    const bool listsConvert = std::is_convertible<QStringList, VParameter>::value;
-    QVERIFY(!listsConvert);
-}
+    void isNotEqualToNothing() { QVERIFY(!VParameter().isEqual(nullptr)); }
+};
 
 QTEST_GUILESS_MAIN(TestVParameter)
 #include "tst_vparameter.moc"

@@ -7,14 +7,11 @@
 
 #include <QTest>
 
-#include <limits>
-#include <type_traits>
-
 namespace {
 
 QStringList entry(const QString &key)
 {
-    return { "group", key, "float", "false", "mm", "m", "s", key, "group" };
+    return { "group", key, "float", "false", "mm", "m", "s", key + " tr", "group" };
 }
 
 /// Modes "A" and "B" whose translated names are "B" and "C". A holds x, x and y, B holds y and z.
@@ -29,280 +26,119 @@ AUTH_INF itemWithTwoModes()
     return item;
 }
 
-AUTH_INF itemWithShortLists()
+/// Lists of any length, few names, and keys that differ by case or are missing.
+AUTH_INF randomItem(Dice &dice)
 {
-    AUTH_INF item = itemWithTwoModes();
-    item.inner_mode_count = std::numeric_limits<int>::max();
-    item.inner_mode_parameterList.removeLast();
+    const QStringList names { "A", "a", "B", "C", "" };
+    AUTH_INF item;
+    item.inner_mode_count = dice.oneOf({ "0", "3", "2147483647" }).toInt();
+    item.inner_mode_nameList = dice.someOf(names, dice.between(0, 6));
+    item.inner_mode_nameList_tr = dice.someOf(names, dice.between(0, 6));
+    item.inner_mode_parameterList.resize(dice.between(0, 6));
+    for (QVector<QStringList> &entries : item.inner_mode_parameterList) {
+        for (int i = dice.between(0, 3); i > 0; --i) {
+            const QString key = dice.oneOf({ "x", "X", "y", "z", "" });
+            entries.append(entry(key).mid(0, key.isEmpty() ? dice.between(0, 2) : 9));
+        }
+    }
     return item;
 }
 
-AUTH_INF itemWithShortEntries()
+/// The keys of the mode @p mode, found by walking along the names.
+QStringList keysOf(const AUTH_INF &item, const QString &mode)
 {
-    AUTH_INF item = itemWithTwoModes();
-    item.inner_mode_parameterList = { { QStringList(), QStringList { "group" } }, {} };
-    return item;
-}
-
-AUTH_INF itemWithOneNameTwice()
-{
-    AUTH_INF item = itemWithTwoModes();
-    item.inner_mode_nameList = QStringList { "A", "A" };
-    return item;
+    QStringList keys;
+    for (const QStringList &names : { item.inner_mode_nameList, item.inner_mode_nameList_tr }) {
+        for (int i = 0; i < names.size(); ++i) {
+            if (names.at(i) != mode)
+                continue;
+            if (i < item.inner_mode_parameterList.size()) {
+                for (const QStringList &strings : item.inner_mode_parameterList.at(i))
+                    keys.append(strings.size() > 1 ? strings.at(1) : QString());
+            }
+            return keys;
+        }
+    }
+    return keys;
 }
 
 } // namespace
-
-Q_DECLARE_METATYPE(AUTH_INF)
 
 class TestAuthInf : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void defaults();
-    void keylistOfMode_data();
-    void keylistOfMode();
-    void containsInMode_data();
-    void containsInMode();
-    void containsInAnyMode_data();
-    void containsInAnyMode();
-    void belonglist_data();
-    void belonglist();
-    void randomItems_data();
-    void randomItems();
-    void copiesAreIndependent();
-    void isKnownUnderBothNames();
-    void dataItem();
-};
-
-void TestAuthInf::defaults()
-{
-    const AUTH_INF item;
-    QCOMPARE(item.number, 0);
-    QCOMPARE(item.name, QString("Default"));
-    QCOMPARE(item.name_tr, QString("Default"));
-    QCOMPARE(item.description, QString());
-    QCOMPARE(item.icon, QString());
-    QCOMPARE(item.type, QString("undefined"));
-    QCOMPARE(item.type_tr, QString("undefined"));
-    QCOMPARE(item.group, QString("model"));
-    QCOMPARE(item.group_tr, QString("model"));
-    QCOMPARE(item.exclusive_group, false);
-    QCOMPARE(item.lib_name, QStringList());
-    QCOMPARE(item.inner_mode_count, 1);
-    QCOMPARE(item.inner_mode_description, QStringList { QString() });
-    QCOMPARE(item.inner_mode_nameList, QStringList { "Default" });
-    QCOMPARE(item.inner_mode_nameList_tr, QStringList { "Default" });
-    // No inner list, although there is one inner mode.
-    QCOMPARE(item.inner_mode_parameterList.size(), 0);
-    QCOMPARE(item.trObjectName, QString());
-    QCOMPARE(item.codeFunctionName, QString());
-    QCOMPARE(item.output_results.size(), 0);
-    QCOMPARE(item.extraKey.size(), 0);
-}
-
-void TestAuthInf::keylistOfMode_data()
-{
-    QTest::addColumn<AUTH_INF>("item");
-    QTest::addColumn<QString>("mode");
-    QTest::addColumn<QStringList>("expected");
-
-    QTest::newRow("keys in entry order with doubles")
-        << itemWithTwoModes() << "A" << QStringList { "x", "x", "y" };
-    QTest::newRow("a plain name wins over an equal translated one")
-        << itemWithTwoModes() << "B" << QStringList { "y", "z" };
-    QTest::newRow("a translated name finds the mode")
-        << itemWithTwoModes() << "C" << QStringList { "y", "z" };
-    QTest::newRow("an unknown mode has no keys") << itemWithTwoModes() << "D" << QStringList();
-    QTest::newRow("modes differ by case") << itemWithTwoModes() << "a" << QStringList();
-    QTest::newRow("an empty mode name is unknown") << itemWithTwoModes() << "" << QStringList();
-    QTest::newRow("of equal names the first counts")
-        << itemWithOneNameTwice() << "A" << QStringList { "x", "x", "y" };
-    AUTH_INF manyTranslations = itemWithTwoModes();
-    manyTranslations.inner_mode_nameList_tr = QStringList { "C", "C", "E" };
-    manyTranslations.inner_mode_parameterList.append({ entry("w") });
-    QTest::newRow("of equal translated names the first counts")
-        << manyTranslations << "C" << QStringList { "x", "x", "y" };
-    QTest::newRow("a translated name without a plain one finds its list")
-        << manyTranslations << "E" << QStringList { "w" };
-    AUTH_INF nameless = itemWithTwoModes();
-    nameless.inner_mode_nameList = QStringList { "A", "" };
-    QTest::newRow("a mode with an empty name") << nameless << "" << QStringList { "y", "z" };
-    QTest::newRow("the mode of a default item has no list")
-        << AUTH_INF() << "Default" << QStringList();
-    QTest::newRow("a mode without an inner list") << itemWithShortLists() << "B" << QStringList();
-    QTest::newRow("entries without a key have an empty one")
-        << itemWithShortEntries() << "A" << QStringList { QString(), QString() };
-}
-
-void TestAuthInf::keylistOfMode()
-{
-    QFETCH(AUTH_INF, item);
-    QFETCH(QString, mode);
-    QTEST(item.inner_mode_keylist_of(mode), "expected");
-}
-
-void TestAuthInf::containsInMode_data()
-{
-    QTest::addColumn<AUTH_INF>("item");
-    QTest::addColumn<QString>("mode");
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<bool>("expected");
-
-    QTest::newRow("a key of the mode") << itemWithTwoModes() << "A"
-                                       << "y" << true;
-    QTest::newRow("a key of another mode") << itemWithTwoModes() << "A"
-                                           << "z" << false;
-    QTest::newRow("the mode by its translated name") << itemWithTwoModes() << "C"
-                                                     << "z" << true;
-    QTest::newRow("keys differ by case") << itemWithTwoModes() << "A"
-                                         << "X" << false;
-    QTest::newRow("modes differ by case") << itemWithTwoModes() << "c"
-                                          << "z" << false;
-    QTest::newRow("a plain name wins over an equal translated one") << itemWithTwoModes() << "B"
-                                                                    << "x" << false;
-    QTest::newRow("an unknown mode") << itemWithTwoModes() << "D"
-                                     << "x" << false;
-    QTest::newRow("a default item") << AUTH_INF() << "Default"
-                                    << "x" << false;
-    QTest::newRow("a mode without an inner list") << itemWithShortLists() << "B"
-                                                  << "y" << false;
-    QTest::newRow("an empty key of a short entry") << itemWithShortEntries() << "A"
-                                                   << "" << true;
-}
-
-void TestAuthInf::containsInMode()
-{
-    QFETCH(AUTH_INF, item);
-    QFETCH(QString, mode);
-    QFETCH(QString, key);
-    QTEST(item.inner_mode_contains(mode, key), "expected");
-}
-
-void TestAuthInf::containsInAnyMode_data()
-{
-    QTest::addColumn<AUTH_INF>("item");
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<bool>("expected");
-
-    AUTH_INF nameless = itemWithTwoModes();
-    nameless.inner_mode_nameList.clear();
-
-    QTest::newRow("a key of the first mode") << itemWithTwoModes() << "x" << true;
-    QTest::newRow("a key of the last mode") << itemWithTwoModes() << "z" << true;
-    QTest::newRow("an unknown key") << itemWithTwoModes() << "w" << false;
-    QTest::newRow("keys differ by case") << itemWithTwoModes() << "Z" << false;
-    QTest::newRow("a default item") << AUTH_INF() << "x" << false;
-    QTest::newRow("without mode names nothing is found") << nameless << "x" << false;
-    QTest::newRow("a name given twice hides the second list")
-        << itemWithOneNameTwice() << "z" << false;
-}
-
-void TestAuthInf::containsInAnyMode()
-{
-    QFETCH(AUTH_INF, item);
-    QFETCH(QString, key);
-    QTEST(item.inner_mode_contains(key), "expected");
-}
-
-void TestAuthInf::belonglist_data()
-{
-    QTest::addColumn<AUTH_INF>("item");
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<QStringList>("expected");
-
-    QTest::newRow("all modes in mode order")
-        << itemWithTwoModes() << "y" << QStringList { "A", "B" };
-    QTest::newRow("a key that stands twice names its mode once")
-        << itemWithTwoModes() << "x" << QStringList { "A" };
-    QTest::newRow("an unknown key") << itemWithTwoModes() << "w" << QStringList();
-    QTest::newRow("a name given twice is listed twice")
-        << itemWithOneNameTwice() << "x" << QStringList { "A", "A" };
-    QTest::newRow("a mode without an inner list is left out")
-        << itemWithShortLists() << "y" << QStringList { "A" };
-    QTest::newRow("a default item") << AUTH_INF() << "x" << QStringList();
-    QTest::newRow("a name given twice hides the second list")
-        << itemWithOneNameTwice() << "z" << QStringList();
-    QTest::newRow("keys differ by case") << itemWithTwoModes() << "Y" << QStringList();
-    QTest::newRow("short entries have an empty key")
-        << itemWithShortEntries() << "" << QStringList { "A" };
-}
-
-void TestAuthInf::belonglist()
-{
-    QFETCH(AUTH_INF, item);
-    QFETCH(QString, key);
-    QTEST(item.parameter_belonglist(key), "expected");
-}
-
-void TestAuthInf::randomItems_data()
-{
-    QTest::addColumn<unsigned>("seed");
-
-    for (unsigned seed = 1; seed <= 200; ++seed)
-        QTest::addRow("seed %u", seed) << seed;
-}
-
-/// Many modes and keys that are often equal, compared with the same questions asked mode by mode.
-void TestAuthInf::randomItems()
-{
-    QFETCH(unsigned, seed);
-    Dice dice(seed);
-    const QStringList names { "A", "B", "C", "D" };
-    const QStringList keys { "x", "y", "z", "" };
-    AUTH_INF item;
-    item.inner_mode_nameList = dice.someOf(names, dice.between(0, 6));
-    item.inner_mode_nameList_tr = dice.someOf(names, dice.between(0, 6));
-    for (int mode = dice.between(0, 6); mode > 0; --mode) {
-        item.inner_mode_parameterList.append(QVector<QStringList>());
-        for (int i = dice.between(0, 2); i > 0; --i)
-            item.inner_mode_parameterList.last().append(entry(dice.oneOf(keys)));
+    void defaults()
+    {
+        const AUTH_INF item;
+        QCOMPARE(item.number, 0);
+        QCOMPARE(item.name, QString("Default"));
+        QCOMPARE(item.name_tr, QString("Default"));
+        QCOMPARE(item.type, QString("undefined"));
+        QCOMPARE(item.type_tr, QString("undefined"));
+        QCOMPARE(item.group, QString("model"));
+        QCOMPARE(item.group_tr, QString("model"));
+        QCOMPARE(item.description + item.icon + item.trObjectName + item.codeFunctionName, "");
+        QCOMPARE(item.exclusive_group, false);
+        QCOMPARE(item.lib_name, QStringList());
+        QCOMPARE(item.inner_mode_count, 1);
+        QCOMPARE(item.inner_mode_description, QStringList { QString() });
+        QCOMPARE(item.inner_mode_nameList, QStringList { "Default" });
+        QCOMPARE(item.inner_mode_nameList_tr, QStringList { "Default" });
+        // No inner list, although there is one inner mode.
+        QVERIFY(item.inner_mode_parameterList.isEmpty());
+        QVERIFY(item.output_results.isEmpty());
+        QVERIFY(item.extraKey.isEmpty());
     }
 
-    for (const QString &key : keys) {
-        QStringList modes;
-        for (const QString &mode : qAsConst(item.inner_mode_nameList)) {
-            if (item.inner_mode_keylist_of(mode).contains(key))
-                modes.append(mode);
+    void findsTheKeysOfModes()
+    {
+        const AUTH_INF item = itemWithTwoModes();
+        QCOMPARE(item.inner_mode_keylist_of("A"), (QStringList { "x", "x", "y" }));
+        // A plain name wins over an equal translated one.
+        QCOMPARE(item.inner_mode_keylist_of("B"), (QStringList { "y", "z" }));
+        QCOMPARE(item.inner_mode_keylist_of("C"), (QStringList { "y", "z" }));
+        QCOMPARE(item.inner_mode_keylist_of("D"), QStringList());
+        QVERIFY(item.inner_mode_contains("C", "z"));
+        QVERIFY(!item.inner_mode_contains("B", "x"));
+        QVERIFY(item.inner_mode_contains("z"));
+        QVERIFY(!item.inner_mode_contains("w"));
+        QCOMPARE(item.parameter_belonglist("y"), (QStringList { "A", "B" }));
+        QCOMPARE(item.parameter_belonglist("x"), QStringList { "A" });
+    }
+
+    void answersLikeAWalkAlongTheLists()
+    {
+        Dice dice(1);
+        for (int round = 0; round < 500; ++round) {
+            const AUTH_INF item = randomItem(dice);
+            for (const QString &mode : { "A", "a", "B", "C", "", "D" })
+                QCOMPARE(item.inner_mode_keylist_of(mode), keysOf(item, mode));
+            for (const QString &key : { "x", "X", "y", "z", "", "x tr", "w" }) {
+                QStringList modes;
+                for (const QString &mode : item.inner_mode_nameList) {
+                    if (keysOf(item, mode).contains(key))
+                        modes.append(mode);
+                }
+                QCOMPARE(item.parameter_belonglist(key), modes);
+                QCOMPARE(item.inner_mode_contains(key), !modes.isEmpty());
+                QCOMPARE(item.inner_mode_contains("C", key), keysOf(item, "C").contains(key));
+            }
         }
-        QCOMPARE(item.parameter_belonglist(key), modes);
-        QCOMPARE(item.inner_mode_contains(key), !modes.isEmpty());
     }
-}
 
-void TestAuthInf::copiesAreIndependent()
-{
-    AUTH_INF item = itemWithTwoModes();
-    const AUTH_INF copy = item;
-    item.name = "other";
-    item.inner_mode_nameList[0] = "other";
-    item.inner_mode_parameterList[0][0][1] = "other";
-    QCOMPARE(copy.name, QString("Default"));
-    QCOMPARE(copy.inner_mode_nameList, (QStringList { "A", "B" }));
-    QCOMPARE(copy.inner_mode_keylist_of("A"), (QStringList { "x", "x", "y" }));
-}
-
-void TestAuthInf::isKnownUnderBothNames()
-{
-    const bool isOneType = std::is_same<KeltoItem, AUTH_INF>::value;
-    QVERIFY(isOneType);
-}
-
-void TestAuthInf::dataItem()
-{
-    const VDataItem empty;
-    QCOMPARE(empty.key, QString());
-    QCOMPARE(empty.value, QVariant());
-
-    const VDataItem item("key", 12);
-    QCOMPARE(item.key, QString("key"));
-    QCOMPARE(item.value, QVariant(12));
-
-    const QVector<VDataItem> items { { "a", 1 }, { "b", "text" } };
-    QCOMPARE(items[1].key, QString("b"));
-    QCOMPARE(items[1].value, QVariant("text"));
-}
+    void dataItem()
+    {
+        const VDataItem empty;
+        QCOMPARE(empty.key, QString());
+        QCOMPARE(empty.value, QVariant());
+        const QVector<VDataItem> items { { "a", 1 }, { "b", "text" } };
+        QCOMPARE(items[0].key, QString("a"));
+        QCOMPARE(items[0].value, QVariant(1));
+        QCOMPARE(items[0].value.type(), QVariant::Int);
+    }
+};
 
 QTEST_GUILESS_MAIN(TestAuthInf)
 #include "tst_auth_inf.moc"
