@@ -16,12 +16,12 @@ namespace PlainItems {
 
 inline void writeEntry(PlainSettings *store, const QStringList &entry)
 {
-    const QString key = entry.at(1);
-    store->setValue(QLatin1String("Unit/") + key, QStringList { entry.at(4), entry.at(5) });
-    store->setValue(QLatin1String("Symbol/") + key, entry.at(6));
-    store->setValue(QLatin1String("Multi/") + key, entry.at(3));
-    store->setValue(QLatin1String("ObjectName/") + key, entry.at(2));
-    store->setValue(QLatin1String("Group/") + key, entry.at(0));
+    const QString key = entry.value(1);
+    store->setValue(QLatin1String("Unit/") + key, QStringList { entry.value(4), entry.value(5) });
+    store->setValue(QLatin1String("Symbol/") + key, entry.value(6));
+    store->setValue(QLatin1String("Multi/") + key, entry.value(3));
+    store->setValue(QLatin1String("ObjectName/") + key, entry.value(2));
+    store->setValue(QLatin1String("Group/") + key, entry.value(0));
 }
 
 inline void writeFields(PlainSettings *store, const AUTH_INF &item)
@@ -47,10 +47,10 @@ inline void writeParameters(PlainSettings *store, const AUTH_INF &item)
     QStringList described;
     for (const QVector<QStringList> &entries : item.inner_mode_parameterList) {
         for (const QStringList &entry : entries) {
-            store->setValue(QLatin1String("Attribute/") + entry.at(1), QString());
-            if (described.contains(entry.at(1)))
+            store->setValue(QLatin1String("Attribute/") + entry.value(1), QString());
+            if (described.contains(entry.value(1)))
                 continue;
-            described.append(entry.at(1));
+            described.append(entry.value(1));
             writeEntry(store, entry);
         }
     }
@@ -63,6 +63,8 @@ inline void save(const AUTH_INF &item, const QString &path)
     PlainSettings store(loadWithQSettings(path));
     writeFields(&store, item);
     for (const QStringList &entry : item.output_results) {
+        if (entry.size() != 9)
+            continue;
         store.setValue(QLatin1String("Result/") + entry.at(1), QString());
         writeEntry(&store, entry);
     }
@@ -100,7 +102,8 @@ inline QStringList readEntry(const PlainSettings &store, const QString &key)
     const QString multi = store.value(QLatin1String("Multi/") + key).toString();
     const QString objectName = store.value(QLatin1String("ObjectName/") + key).toString();
     const QString group = store.value(QLatin1String("Group/") + key).toString();
-    return { group, key, objectName, multi, unit.first(), unit.last(), symbol, key, group };
+    const QString secondUnit = unit.isEmpty() ? QString() : unit.last();
+    return { group, key, objectName, multi, unit.value(0), secondUnit, symbol, key, group };
 }
 
 inline QString lastPart(const QString &key)
@@ -116,7 +119,7 @@ inline void readParameters(const PlainSettings &store, AUTH_INF *item)
         const QString key = lastPart(fullKey);
         const QStringList entry = readEntry(store, key);
         const QStringList belong = store.value(QLatin1String("Belong/") + key).toStringList();
-        for (int i = 0; i < item->inner_mode_count; ++i) {
+        for (int i = 0; i < item->inner_mode_count && i < lists.size(); ++i) {
             if (belong.contains(item->inner_mode_nameList.at(i)))
                 lists[i].append(entry);
         }
@@ -132,10 +135,9 @@ inline AUTH_INF load(const QString &path)
     readParameters(store, &item);
     item.output_results.clear();
     const int count = store.value(QStringLiteral("KeltoItem/output_results")).toStringList().size();
-    for (int i = 0; i < count; ++i) {
-        const QString key = lastPart(store.allKeys(QStringLiteral("Result")).at(i));
-        item.output_results.append(readEntry(store, key));
-    }
+    const QStringList results = store.allKeys(QStringLiteral("Result"));
+    for (int i = 0; i < count && i < results.size(); ++i)
+        item.output_results.append(readEntry(store, lastPart(results.at(i))));
     item.extraKey.clear();
     const QStringList extraKeys = store.allKeys(QStringLiteral("ExtraKey"));
     for (const QString &fullKey : extraKeys) {

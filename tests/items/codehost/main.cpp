@@ -4,19 +4,16 @@
 // All of a small host but the function with the generated items, which a test compiles and links to
 // it: prints the items as a JSON array.
 
-#include "qobjectcontext.h"
+#include "contexts.h"
 #include "support/itemjson.h"
 
 #include <QCoreApplication>
 #include <QJsonDocument>
+#include <QTextStream>
 #include <QTranslator>
-
-#include <cstdio>
 
 /// Written by the test.
 QVector<AUTH_INF> generatedItems();
-
-namespace {
 
 /// Marks the texts of one context.
 class MarkingTranslator : public QTranslator
@@ -31,17 +28,12 @@ public:
     }
 };
 
-} // namespace
-
 int main(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);
     MarkingTranslator translator;
     QCoreApplication::installTranslator(&translator);
-
-    const QByteArray text = QJsonDocument(itemsAsJson(generatedItems())).toJson();
-    return std::fwrite(text.constData(), 1, std::size_t(text.size()), stdout)
-            == std::size_t(text.size())
-        ? 0
-        : 1;
+    // In ASCII, whatever the encoding of the environment is.
+    QTextStream(stdout) << QJsonDocument(itemsAsJson(generatedItems())).toJson();
+    return 0;
 }

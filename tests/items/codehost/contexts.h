@@ -1,9 +1,10 @@
 // SPDX-FileCopyrightText: The Kelto developers
 // SPDX-License-Identifier: MIT
 
-#ifndef PLAINCONTEXT_H
-#define PLAINCONTEXT_H
+#ifndef CONTEXTS_H
+#define CONTEXTS_H
 
+#include <QObject>
 #include <QString>
 
 /// A context class of a host that translates without Qt's translators. It marks what it was asked
@@ -17,13 +18,15 @@ public:
     }
 };
 
-namespace Host {
-
 /// The same inside of a namespace.
-class Texts : public PlainContext
-{
-};
-
+namespace Host {
+using Texts = PlainContext;
 } // namespace Host
+
+/// A context class of a host that uses Qt's translators.
+class QObjectContext : public QObject
+{
+    Q_OBJECT
+};
 
 #endif
