@@ -19,6 +19,7 @@ test_packages=(
     make pkg-config          # hosts built with qmake and pkg-config
     clazy libclang-rt-14-dev # Clang with the checks of Qt code, and its sanitizers
     libbenchmark-dev clang-format-14 shellcheck codespell
+    python3 # plants faults
 )
 fuzz_packages=(clang-14 libclang-rt-14-dev llvm-14)
 

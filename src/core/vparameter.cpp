@@ -163,7 +163,7 @@ bool VParameter::isName(QString text) const
 
 bool VParameter::isEqual(const VParameter *other) const
 {
-    // Shared fields are no short cut: a value need not be equal to itself, think of NaN.
+    // Shared fields are no shortcut: a value need not equal itself, NaN for one.
     return other && d->name == other->d->name && d->unit == other->d->unit
         && d->group == other->d->group && d->value == other->d->value && d->multi == other->d->multi
         && d->parameterObjectName == other->d->parameterObjectName && d->symbol == other->d->symbol;

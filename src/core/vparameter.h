@@ -67,8 +67,8 @@ public:
     /// The current value; an invalid QVariant when none is set.
     QVariant value() const;
 
-    /// Replaces the value and nothing else. A list of texts that is to be the value has to be
-    /// handed in as a QVariant.
+    /// Replaces the value and nothing else. A list of texts has to be passed in a QVariant: as it
+    /// is, it is taken for the sets form.
     void set(QVariant value);
 
     /// Replaces all fields.
@@ -87,7 +87,7 @@ public:
     /// Replaces all fields by those of @p other.
     void set(VParameter other);
 
-    /// Empties all fields: no value, one value at most, texts of length 0. Those of the pairs are
+    /// Empties all fields: no value, isMulti() false, texts of length 0. Those of the pairs are
     /// null, symbol and object name are not.
     void clear();
 

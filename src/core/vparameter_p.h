@@ -11,7 +11,7 @@
 #include <iterator>
 
 /// A hash that is the same for all parameters that VParameter::isEqual() finds equal. The value is
-/// left out: a whole number and a text can be equal and have nothing in common to be hashed.
+/// left out: values of different types can be equal and have different hashes.
 inline uint parameterHash(const VParameter &parameter)
 {
     const QPair<QString, QString> name = parameter.name();

@@ -38,13 +38,13 @@ public:
     QString name;
     QString name_tr;
     QString description;
-    /// Icon reference, handed out as it is.
+    /// Icon reference, which Kelto does not interpret.
     QString icon;
     QString type;
     QString type_tr;
     QString group;
     QString group_tr;
-    /// Whether of all inner modes of all modules in this group only one is selected at a time.
+    /// Whether the group is exclusive: of all inner modes of its modules one is selected at a time.
     bool exclusive_group;
     QStringList lib_name;
     /// How many inner modes the module has; this number decides, not the length of the lists.
@@ -63,7 +63,7 @@ public:
     QVector<VDataItem> extraKey;
 
     /**
-     * The keys of the parameters of one inner mode, in entry order, doubles kept.
+     * The keys of the parameters of one inner mode, in entry order, duplicates kept.
      *
      * @param mode plain or translated name of the inner mode; if one mode's plain name is another
      * mode's translated name, the plain one counts.
@@ -98,19 +98,19 @@ public:
      * entries become copies of the plain ones. There is one list of parameters for each name of an
      * inner mode.
      *
-     * Parameters, results and extra keys come in the order of VIniSettings::allKeys(). Of a key
-     * that holds a "/" only its last part comes back, with what the file holds under that.
+     * Parameters, results and extra keys are in the order of VIniSettings::allKeys(). A key with a
+     * "/" is shortened to its last part, and described by what the file holds under that part.
      *
-     * As many results are read as "KeltoItem/output_results" lists elements, whatever these are.
-     * save_ini() never writes that key: results come back when it was added to the file.
+     * As many results are read as "KeltoItem/output_results" has elements, whatever these are.
+     * save_ini() never writes that key: results are read only where it was added to the file.
      */
     void load_ini(QString path);
 
     /**
      * Writes the item into the INI file at @p path, which is created where it is missing.
      *
-     * Other keys of the file stay, so that parameters and extra keys of an earlier item come back
-     * with this one. A parameter of several inner modes is described by its first entry; one with
+     * Other keys of the file stay, so that load_ini() also finds parameters and extra keys of an
+     * earlier item. A parameter of several inner modes is described by its first entry; one with
      * the key of a result replaces the description of the result. A result is left out unless its
      * entry has nine strings. Translated fields are not written.
      */

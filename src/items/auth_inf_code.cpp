@@ -80,7 +80,7 @@ void writeResults(SourceWriter &writer, const AUTH_INF &item)
     }
 }
 
-/// A text that reads as a number is to be one in the source text.
+/// A text that reads as a number becomes a number in the source text.
 QString valueOf(const VDataItem &extra)
 {
     const QString text = extra.value.toString();

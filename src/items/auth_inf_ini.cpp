@@ -148,7 +148,7 @@ void writeParameters(VIniSettings &file, const AUTH_INF &item)
 
 // --- Loading ---------------------------------------------------------------------
 
-/// What is not in the file is read as empty: nothing of an earlier content is to stay.
+/// What is not in the file is read as empty, so that nothing of an earlier content stays.
 void readFields(const VIniSettings &file, AUTH_INF &item)
 {
     const auto read = [&file](const char *field) { return file.value(fieldKey(field)); };
@@ -172,8 +172,8 @@ void readFields(const VIniSettings &file, AUTH_INF &item)
     item.inner_mode_nameList_tr = item.inner_mode_nameList;
 }
 
-/// The keys of the entries in @p section. Of a key with "/" the last part is left, and what
-/// describes the entry is looked up under that.
+/// The keys of the entries in @p section. A key with "/" is shortened to its last part, under which
+/// the rest of the entry is looked up.
 QStringList entryKeys(const VIniSettings &file, QLatin1String section)
 {
     QStringList keys = file.allKeys(section);
@@ -198,8 +198,8 @@ QStringList readEntry(const VIniSettings &file, const QString &key)
              group };
 }
 
-/// The positions of the inner modes of each name. The count in the file may be shorter than the
-/// list of names, then it decides.
+/// The positions of the inner modes of each name. The count in the file decides where it is smaller
+/// than the number of names.
 QHash<QString, QVector<int>> modePositions(const AUTH_INF &item)
 {
     QHash<QString, QVector<int>> positions;
@@ -227,8 +227,8 @@ QVector<QVector<QStringList>> readParameters(const VIniSettings &file, const AUT
     return lists;
 }
 
-/// As many results as "output_results" has elements. That list is left to whoever writes the file:
-/// saving never writes it, so that results come back only when they are asked for there.
+/// As many results as "output_results" has elements. Saving never writes that key: results are read
+/// only from files to which somebody has added it.
 QVector<QStringList> readResults(const VIniSettings &file)
 {
     const int count = file.value(fieldKey("output_results")).toStringList().size();

@@ -4,8 +4,7 @@
 #ifndef INNERMODELIMIT_P_H
 #define INNERMODELIMIT_P_H
 
-/// After this many inner modes everything ends that would go on for as long as
-/// AUTH_INF::inner_mode_count says: nothing keeps that number sensible.
+/// Loops over inner modes end here at the latest: AUTH_INF::inner_mode_count can be any number.
 constexpr int mostInnerModes = 1000000;
 
 #endif

@@ -108,6 +108,6 @@ void SourceWriter::writeList(const QString &target, const QStringList &values)
 
 void SourceWriter::write(const QString &text)
 {
-    // The += of composed texts makes room for exactly what is added, every time.
+    // += with an expression of several texts would reallocate each time.
     m_text.append(text);
 }

@@ -10,9 +10,9 @@
 /**
  * Writes the source text that declares one variable and fills its members, statement by statement.
  *
- * It knows how the text is laid out, its callers what is in it. Values are handed in as they are to
- * stand in the text; number(), word(), quoted() and translated() make them. Nothing in a value is
- * escaped: what a host pastes into its sources is to be what the record holds.
+ * It decides on the layout, its callers on the content. Values are passed as they are written, made
+ * by number(), word(), quoted() and translated(). Nothing in a value is escaped: what a host pastes
+ * into its sources is what the record holds.
  */
 class SourceWriter
 {

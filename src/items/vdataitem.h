@@ -10,7 +10,8 @@
 
 #include <utility>
 
-/// One extra key of a module item: a free key with its value. Kelto stores both and reads neither.
+/// One extra key of a module item: a free key with its value. Kelto stores both and interprets
+/// neither.
 struct VDataItem
 {
     VDataItem() = default;

@@ -119,7 +119,7 @@ QStringList KeltoItemParameterTransform::from_XDpoints(QVector<QStringList> rows
 {
     QStringList texts;
     texts.reserve(rows.size());
-    // Meant to be: each text continues the one before.
+    // Deliberately, each text continues the one before.
     QString text;
     for (const QStringList &row : qAsConst(rows)) {
         text += row.join(separator);

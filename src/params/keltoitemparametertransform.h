@@ -50,7 +50,7 @@ public:
 
     /// One text per row, which holds the cells of this row and of all rows before it: the cells of
     /// one row with "|" between them, the rows with nothing between them. Rows "a", "b" and "c",
-    /// "d" give "a|b" and "a|bc|d". Hand in one row at a time to have the rows apart.
+    /// "d" give "a|b" and "a|bc|d". Pass one row at a time to keep the rows apart.
     static QStringList from_XDpoints(QVector<QStringList> rows);
 
     /// One row of cells per text, in order. A text without "|" is a row of one cell.
@@ -74,11 +74,11 @@ public:
      *   multiplied by the first factor.
      * - Several of "QVector<QPointF>" or "QVector<QPoint>": points, each x multiplied by the first
      *   factor and each y by the second.
-     * - Several of "QVector<QStringList>": the table is not scaled. It comes back as
-     *   from_XDpoints() writes its rows.
+     * - Several of "QVector<QStringList>": the table is not scaled, only written again by
+     *   from_XDpoints().
      *
-     * Arrays, points and tables come back as a QStringList, written as floating-point numbers even
-     * where whole ones were read.
+     * Arrays, points and tables are returned as a QStringList; numbers in it are written as
+     * floating-point ones even where whole ones were read.
      *
      * @param factors a factor that is missing counts as 1.
      * @return an invalid QVariant for several values of another kind and for a null pointer.

@@ -11,7 +11,7 @@
 
 namespace {
 
-/// The keys that the values of @p entries have in a list of values.
+/// The keys under which the parameters of @p entries need a value.
 QStringList requiredKeys(const QVector<QStringList> &entries, const QSet<QString> &skipGroups)
 {
     QStringList keys;
@@ -32,7 +32,7 @@ bool KeltoItemParameterVerify::isValid(const AUTH_INF *item,
 {
     if (!item || !values)
         return false;
-    // Of a mode that is named by its translated name the position is -1, and it has no entries.
+    // Only the plain name counts: any other has the position -1 and no entries.
     const QVector<QStringList> entries
         = item->inner_mode_parameterList.value(item->inner_mode_nameList.indexOf(mode));
     if (entries.isEmpty())

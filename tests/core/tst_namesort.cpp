@@ -30,10 +30,10 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("names");
         QTest::addColumn<QVector<int>>("positions");
 
-        const auto row = [](const char *name, const QStringList &names,
-                            const QVector<int> &positions) {
-            QTest::newRow(name) << names << positions;
-        };
+        const auto row
+            = [](const char *name, const QStringList &names, const QVector<int> &positions) {
+                  QTest::newRow(name) << names << positions;
+              };
         row("nothing", {}, {});
         row("in reverse", { "c", "b", "a" }, { 2, 1, 0 });
         row("capital letters first", { "a", "Z", "b", "A" }, { 3, 1, 0, 2 });

@@ -190,8 +190,7 @@ private Q_SLOTS:
                                << QStringList { "", "", "", "false", "", "", "", "", "" };
         QTest::newRow("filled") << filled()
                                 << QStringList { "g", "n", "o", "true", "u", "U", "s", "N", "G" };
-        QTest::newRow("an unknown word is false")
-            << VParameter(entry("yes")) << entry("false");
+        QTest::newRow("an unknown word is false") << VParameter(entry("yes")) << entry("false");
         QTest::newRow("a floating-point value")
             << VParameter(2.5, "Length", "mm", "L")
             << QStringList { "", "Length", "float", "false", "mm", "mm", "L", "Length", "" };
@@ -211,6 +210,7 @@ private Q_SLOTS:
     {
         VParameter source = filled();
         VParameter moved = std::move(source);
+        QCOMPARE(fields(source), fields(filled()));
         source.clear();
         QCOMPARE(fields(source), cleared);
         QCOMPARE(fields(moved), fields(filled()));
@@ -223,10 +223,10 @@ private Q_SLOTS:
         QTest::addColumn<QString>("text");
         QTest::addColumn<bool>("expected");
 
-        const auto row = [](const char *name, const NamePair &names, const QString &text,
-                            bool expected) {
-            QTest::newRow(name) << names.first << names.second << text << expected;
-        };
+        const auto row
+            = [](const char *name, const NamePair &names, const QString &text, bool expected) {
+                  QTest::newRow(name) << names.first << names.second << text << expected;
+              };
         row("the plain name", { "a", "b" }, "a", true);
         row("the translated name", { "a", "b" }, "b", true);
         row("another name", { "a", "b" }, "c", false);

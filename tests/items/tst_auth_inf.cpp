@@ -113,9 +113,9 @@ private Q_SLOTS:
         Dice dice(1);
         for (int round = 0; round < 500; ++round) {
             const AUTH_INF item = randomItem(dice);
-            for (const QString &mode : { "A", "a", "B", "C", "", "D" })
+            for (const char *mode : { "A", "a", "B", "C", "", "D" })
                 QCOMPARE(item.inner_mode_keylist_of(mode), keysOf(item, mode));
-            for (const QString &key : { "x", "X", "y", "z", "", "x tr", "w" }) {
+            for (const char *key : { "x", "X", "y", "z", "", "x tr", "w" }) {
                 QStringList modes;
                 for (const QString &mode : item.inner_mode_nameList) {
                     if (keysOf(item, mode).contains(key))

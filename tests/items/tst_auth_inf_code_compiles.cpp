@@ -134,9 +134,9 @@ class TestAuthInfCodeCompiles : public DirectoryTest
 private Q_SLOTS:
     void compiledItemsEqualTheirOrigin()
     {
-        const QVector<Context> contexts {
-            { "PlainContext", "<>" }, { "Host::Texts", "<>" }, { "QObjectContext", "[]" }
-        };
+        const QVector<Context> contexts { { "PlainContext", "<>" },
+                                          { "Host::Texts", "<>" },
+                                          { "QObjectContext", "[]" } };
         const QVector<AUTH_INF> items { AUTH_INF(),
                                         itemWithListsOfOne(),
                                         itemWithShortEntries(1),
@@ -171,8 +171,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("type");
         QTest::addColumn<QStringList>("expected");
 
-        const QStringList always { "梁",      "Cantilever", "Bridges",
-                                   "one end", "简支",       "两端" };
+        const QStringList always { "梁", "Cantilever", "Bridges", "one end", "简支", "两端" };
         QStringList entries;
         for (const char *key : { "Load", "x", "Deflection", "应力" })
             entries += { QString("长度 ") + key, QString("分组 ") + key };
@@ -193,8 +192,8 @@ private Q_SLOTS:
         QVERIFY(texts.contains("<name>Texts</name>"));
         QStringList found;
         static const QRegularExpression element("<source>(.*)</source>");
-        for (auto source = element.globalMatch(texts); source.hasNext();)
-            found.append(source.next().captured(1));
+        for (auto match = element.globalMatch(texts); match.hasNext();)
+            found.append(match.next().captured(1));
         expected += { item.description.toHtmlEscaped().replace("'", "&apos;"), type };
         found.sort();
         expected.sort();

@@ -57,10 +57,10 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("written");
         QTest::addColumn<QStringList>("expected");
 
-        const auto numbers = [](const char *name, const Numbers &values,
-                                const QStringList &expected) {
-            QTest::newRow(name) << Transform::from_array(values) << expected;
-        };
+        const auto numbers
+            = [](const char *name, const Numbers &values, const QStringList &expected) {
+                  QTest::newRow(name) << Transform::from_array(values) << expected;
+              };
         numbers("no numbers", {}, {});
         numbers("in order, duplicates kept", { 2.5, -1, 2.5 }, { "2.5", "-1", "2.5" });
         numbers("no more digits than needed", { 0.1, 100000, 0 }, { "0.1", "100000", "0" });
@@ -174,10 +174,10 @@ private Q_SLOTS:
         QTest::addColumn<Numbers>("factors");
         QTest::addColumn<double>("expected");
 
-        const auto row = [](const char *name, const QVariant &value, const Numbers &factors,
-                            double expected) {
-            QTest::newRow(name) << value << factors << expected;
-        };
+        const auto row
+            = [](const char *name, const QVariant &value, const Numbers &factors, double expected) {
+                  QTest::newRow(name) << value << factors << expected;
+              };
         row("more digits than are ever written", 1.23456789, { 2 }, 2.46913578);
         row("a number as text", "2.5", { 2 }, 5);
         row("only the first factor counts", 2, { 3, 5, 7 }, 6);
