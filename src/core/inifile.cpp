@@ -3,6 +3,7 @@
 
 #include "core/inifile_p.h"
 
+#include "core/filecopies_p.h"
 #include "core/iniproblems_p.h"
 #include "core/typedtext_p.h"
 
@@ -26,27 +27,6 @@ public:
         setIniCodec("utf-8");
     }
 };
-
-/// Qt warns about an empty path and truncates one at a NUL.
-bool isPath(const QString &path)
-{
-    return !path.isEmpty() && !path.contains(QChar::Null);
-}
-
-/// Not so a pipe, for one: reading from it would wait for somebody to write.
-bool canBeFile(const QString &path)
-{
-    if (!isPath(path))
-        return false;
-    const QFileInfo info(path);
-    return info.isFile() || !info.exists();
-}
-
-QByteArray bytesOf(const QString &path)
-{
-    QFile file(path);
-    return canBeFile(path) && file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 bool isDirectoryWritable(const QString &path)
 {
@@ -73,41 +53,6 @@ bool isLockable(const QSettings &settings)
 {
     const QFileInfo lock(settings.fileName() + QLatin1String(".lock"));
     return !lock.exists() || (lock.isFile() && QLockFile(lock.filePath()).tryLock(longestLock));
-}
-
-/// The names for copies of the file at @p path, newest first, but for those that a directory, for
-/// example, has.
-QStringList copyPaths(const QString &path)
-{
-    QStringList paths;
-    for (const char *ending : { ".bak", ".bak2", ".bak3", ".bak4", ".bak5" }) {
-        const QString copy = path + QLatin1String(ending);
-        if (canBeFile(copy) && !QFileInfo(copy).isSymLink())
-            paths.append(copy);
-    }
-    return paths;
-}
-
-/// Makes a copy of the file at @p path, which holds @p bytes, and tells whether there is one.
-/// Earlier copies move up by one, and the oldest goes.
-bool copyAside(const QString &path, const QByteArray &bytes)
-{
-    const QStringList copies = copyPaths(path);
-    const auto isSame = [&bytes](const QString &copy) { return bytesOf(copy) == bytes; };
-    if (copies.isEmpty() || std::any_of(copies.cbegin(), copies.cend(), isSame))
-        return !copies.isEmpty();
-    // An earlier copy goes only when there is a new one.
-    const QString newest = path + QLatin1String(".bak.new");
-    QFile::remove(newest);
-    if (!QFile::copy(path, newest))
-        return false;
-    int last = 0;
-    while (last + 1 < copies.size() && QFile::exists(copies.at(last)))
-        ++last;
-    QFile::remove(copies.at(last));
-    for (; last > 0; --last)
-        QFile::rename(copies.at(last - 1), copies.at(last));
-    return QFile::rename(newest, copies.constFirst());
 }
 
 /// Whether anything of @p key is left when QSettings has dropped its superfluous slashes; of other
@@ -184,7 +129,7 @@ void writeIniFile(const QString &path, const KeyValues &entries)
         Utf8Settings settings(path);
         if (!isWritable(settings) || !isLockable(settings))
             return;
-        if (std::any_of(problems.cbegin(), problems.cend(), isLoss) && !copyAside(path, bytes))
+        if (std::any_of(problems.cbegin(), problems.cend(), isLoss) && !keepCopy(path, bytes))
             return;
         // Their memory is of use in writing.
         bytes.clear();

@@ -5,8 +5,6 @@
 
 #include "core/typedtext_p.h"
 
-#include <QTextCodec>
-
 #include <algorithm>
 #include <memory_resource>
 #include <unordered_set>
@@ -17,7 +15,7 @@ namespace {
 /// A key that is only decoded when another one has its hash: most are alone.
 struct HashedKey
 {
-    IniKey key;
+    SettingsKey key;
     std::size_t hash;
     const char *at;
 
@@ -27,60 +25,10 @@ struct HashedKey
     }
 };
 
-/// Whether @p c in a key stands for itself alone.
-bool isPlain(char c)
-{
-    return c != '/' && c != '\\' && c != '%';
-}
-
-/// Whether QSettings gives the value of the key, and writes it in a way that it reads as the same.
-/// This depends on a "/" at either end, which most keys cannot have.
-bool isReadable(const IniKey &key)
-{
-    const std::string_view front = key.section.data() ? key.section : key.name;
-    const bool hasPlainFront = !front.empty() && isPlain(front.front());
-    const bool hasPlainBack = !key.name.empty() && isPlain(key.name.back());
-    // The hexadecimal number of a "/" ends in this digit.
-    if (hasPlainFront && hasPlainBack && (key.name.back() & 0xdf) != 'F')
-        return true;
-    const QLatin1Char slash('/');
-    const QString text = key.text();
-    return !text.startsWith(slash) && !(text.endsWith(slash) && text.count(slash) > 1);
-}
-
 struct KeyHash
 {
     std::size_t operator()(const HashedKey &key) const { return key.hash; }
 };
-
-bool isUtf8(const QByteArray &bytes)
-{
-    QTextCodec::ConverterState state;
-    QTextCodec::codecForName("utf-8")->toUnicode(bytes.constData(), bytes.size(), &state);
-    return state.invalidChars == 0 && state.remainingChars == 0;
-}
-
-/// The first byte of @p text that is not UTF-8; its end when all of it is.
-const char *firstInvalidByte(std::string_view text)
-{
-    // Something in front keeps a byte order mark from being dropped.
-    const QByteArray bytes = ' ' + QByteArray(text.data(), static_cast<int>(text.size()));
-    const QByteArray again = QString::fromUtf8(bytes.constData(), bytes.size()).toUtf8();
-    const auto end = std::mismatch(bytes.cbegin(), bytes.cend(), again.cbegin(), again.cend());
-    return text.data() + (end.first - bytes.cbegin()) - 1;
-}
-
-/// Whether a "@" may be written in @p value, as it is or as an escaped number.
-bool mayHoldTypedText(std::string_view value)
-{
-    for (std::size_t at = value.find_first_of("@\\"); at < value.size();
-         at = value.find_first_of("@\\", at + 1)) {
-        const char next = at + 1 < value.size() ? value[at + 1] : ' ';
-        if (value[at] == '@' || next == 'x' || (next >= '0' && next <= '7'))
-            return true;
-    }
-    return false;
-}
 
 bool hasUnsafeElement(const QStringList &elements)
 {
@@ -154,7 +102,7 @@ private:
         const IniLine &line = m_reader.line();
         m_emptyHeader = nullptr;
         m_keys.push_back({ m_reader.key(), m_reader.keyHash(), line.text.data() });
-        if (!isReadable(m_reader.key()))
+        if (!m_reader.key().isReadable())
             m_findings.push_back({ IniProblem::UnreadableKey, line.text.data() });
         const auto isPlainText = [](char c) {
             return c != '\\' && c != '"' && c != '@' && static_cast<signed char>(c) >= 0;
@@ -166,10 +114,10 @@ private:
     void checkValue()
     {
         const std::string_view value = m_reader.line().value;
-        std::vector<IniMisspelling> misspellings;
-        const QStringList elements = iniElements(value, &misspellings);
-        for (const IniMisspelling &misspelling : misspellings) {
-            const bool isEscape = misspelling.kind == IniMisspelling::BadEscape;
+        std::vector<Misspelling> misspellings;
+        const QStringList elements = elementsOfValue(value, &misspellings);
+        for (const Misspelling &misspelling : misspellings) {
+            const bool isEscape = misspelling.kind == Misspelling::BadEscape;
             m_findings.push_back({ isEscape ? IniProblem::BadEscape : IniProblem::DroppedCharacter,
                                    misspelling.at });
         }
@@ -229,7 +177,7 @@ bool hasUnsafeIniValue(const QByteArray &bytes)
     IniReader reader(bytes);
     while (reader.next()) {
         const std::string_view value = reader.line().value;
-        if (mayHoldTypedText(value) && hasUnsafeElement(iniElements(value)))
+        if (mayHoldTypedText(value) && hasUnsafeElement(elementsOfValue(value)))
             return true;
     }
     return false;

@@ -4,11 +4,11 @@
 #ifndef INIREADER_P_H
 #define INIREADER_P_H
 
+#include "core/settingstext_p.h"
+
 #include <QByteArray>
-#include <QStringList>
 
 #include <string_view>
-#include <vector>
 
 // How QSettings of Qt 5 reads an INI file in UTF-8. Values for a host come from QSettings; this
 // tells what QSettings will make of a file, and what it will make nothing of.
@@ -23,16 +23,6 @@ struct IniLine
     std::string_view text;
     std::string_view key; ///< Of a section its name.
     std::string_view value; ///< Of a section what stands behind it.
-};
-
-/// A key as it is spelt in a file, with the section that it stands in.
-struct IniKey
-{
-    /// The key as QSettings::allKeys() gives it.
-    QString text() const;
-
-    std::string_view section; ///< A null pointer for keys without a section.
-    std::string_view name;
 };
 
 /// A place in a file. Both numbers count from 1, the column counts characters.
@@ -53,9 +43,9 @@ public:
     const IniLine &line() const { return m_line; }
 
     /// The key of an entry.
-    IniKey key() const { return { m_section, m_line.key }; }
+    SettingsKey key() const { return { m_section, m_line.key }; }
     /// A hash that is the same for all spellings of the key.
-    quint64 keyHash() const;
+    quint64 keyHash() const { return key().hash(m_sectionHash); }
 
     /// Where @p place in the bytes is. Cheap when it is behind the place that was asked for last.
     IniPosition positionOf(const char *place);
@@ -74,20 +64,5 @@ private:
     const char *m_counted;
     IniPosition m_position;
 };
-
-/// What is wrong with the spelling of a value, and where.
-struct IniMisspelling
-{
-    enum Kind { BadEscape, DroppedCharacter };
-
-    Kind kind;
-    const char *at;
-};
-
-/// What QSettings makes of the value of an entry: one text, or the elements of a list. Texts that
-/// stand for values of other types are left as they are.
-/// @param misspellings takes in what the texts do not say any more.
-QStringList iniElements(std::string_view value,
-                        std::vector<IniMisspelling> *misspellings = nullptr);
 
 #endif

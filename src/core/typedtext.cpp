@@ -460,3 +460,14 @@ bool isStorable(const QVariant &value)
 {
     return isStorable(value, 0);
 }
+
+bool mayHoldTypedText(std::string_view value)
+{
+    for (std::size_t at = value.find_first_of("@\\"); at < value.size();
+         at = value.find_first_of("@\\", at + 1)) {
+        const char next = at + 1 < value.size() ? value[at + 1] : ' ';
+        if (value[at] == '@' || next == 'x' || (next >= '0' && next <= '7'))
+            return true;
+    }
+    return false;
+}

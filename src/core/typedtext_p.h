@@ -7,6 +7,8 @@
 #include <QString>
 #include <QVariant>
 
+#include <string_view>
+
 // QSettings stores what is not text as a text such as "@Point(1 2)". Behind "@Variant(" come the
 // bytes that QDataStream makes of the value, and Qt's readers trust them: wrong ones can crash
 // them, keep them busy for minutes, or let them follow nested values until the stack ends.
@@ -17,6 +19,10 @@ bool isUnsafe(const QString &text);
 
 /// Whether reading @p text, which is not unsafe, gives less than QSettings has written.
 bool isDamaged(const QString &text);
+
+/// Whether @p value, as it is spelt in a file, may hold a text with a "@" in it, written as it is
+/// or as an escaped number. Others need not be decoded.
+bool mayHoldTypedText(std::string_view value);
 
 /// Whether QSettings can store @p value. With a pointer, for one, it would write rubbish and print
 /// a warning; a time in a time zone that does not exist would crash it.

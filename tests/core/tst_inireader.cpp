@@ -51,7 +51,7 @@ QStringList linesIn(const QByteArray &bytes)
         const bool isEntry = line.kind == IniLine::Entry;
         const QString text = QString::fromUtf8(line.text.data(), int(line.text.size()));
         const QString what
-            = isEntry ? reader.key().text() + '|' + iniElements(line.value).join('|') : text;
+            = isEntry ? reader.key().text() + '|' + elementsOfValue(line.value).join('|') : text;
         const IniPosition position = reader.positionOf(line.text.data());
         lines.append(
             QString("%1:%2 %3 ").arg(position.line).arg(position.column).arg(kinds.at(line.kind))
@@ -102,9 +102,9 @@ QMap<QString, QStringList> entriesIn(const QByteArray &bytes)
     while (reader.next()) {
         if (reader.line().kind != IniLine::Entry)
             continue;
-        const IniKey key = reader.key();
-        const QString section = IniKey { key.section, {} }.text();
-        sections[section].append({ key.text(), iniElements(reader.line().value) });
+        const SettingsKey key = reader.key();
+        const QString section = SettingsKey { key.section, {} }.text();
+        sections[section].append({ key.text(), elementsOfValue(reader.line().value) });
     }
     QMap<QString, QStringList> entries;
     for (const auto &section : qAsConst(sections)) {

@@ -1,0 +1,288 @@
+// SPDX-FileCopyrightText: The Kelto developers
+// SPDX-License-Identifier: MIT
+
+#include "core/settingstext_p.h"
+
+#include <QHash>
+#include <QTextCodec>
+
+#include <algorithm>
+
+namespace {
+
+/// The digit that @p c is in numbers of @p base; -1 when it is none.
+int digitOf(char c, int base)
+{
+    const int digit = c >= 'a' ? c - 'a' + 10 : c >= 'A' ? c - 'A' + 10 : c - '0';
+    const bool isDigit = (c >= '0' && c <= '9') || c >= 'A';
+    return isDigit && digit < base ? digit : -1;
+}
+
+/// The number that the hexadecimal digits @p spelling are to QSettings; -1 when they are none.
+int numberOf(std::string_view spelling)
+{
+    int number = 0;
+    for (const char c : spelling) {
+        const int digit = digitOf(c, 16);
+        // QByteArray also takes white space, a sign and a prefix for parts of a number.
+        if (digit < 0) {
+            bool isNumber = false;
+            number = QByteArray(spelling.data(), static_cast<int>(spelling.size()))
+                         .toInt(&isNumber, 16);
+            return isNumber ? number & 0xffff : -1;
+        }
+        number = number * 16 + digit;
+    }
+    return number;
+}
+
+/// Calls @p visit with each character that QSettings makes of @p spelling, a key or the name of a
+/// section.
+template <typename Visitor> void visitCharacters(std::string_view spelling, Visitor visit)
+{
+    const char *const end = spelling.data() + spelling.size();
+    for (const char *at = spelling.data(); at < end; ++at) {
+        if (*at != '%') {
+            visit(QLatin1Char(*at == '\\' ? '/' : *at));
+            continue;
+        }
+        const int length = at + 1 < end && at[1] == 'U' ? 6 : 3;
+        const int start = length / 3;
+        const int code = end - at < length ? -1 : numberOf(textBetween(at + start, at + length));
+        visit(code < 0 ? QLatin1Char('%') : QChar(code));
+        at += code < 0 ? 0 : length - 1;
+    }
+}
+
+/// Calls it for the name of a section and the "/" behind it; not at all where there is none.
+template <typename Visitor> void visitSection(std::string_view section, Visitor visit)
+{
+    if (!section.data())
+        return;
+    // Under this spelling the name belongs to a section like any other.
+    const bool isEscaped = isSameName(section, "%general");
+    visitCharacters(section.substr(isEscaped ? 1 : 0), visit);
+    visit(QLatin1Char('/'));
+}
+
+/// A character more in a hash. Files that are made to have equal hashes would take long to check.
+void addTo(quint64 &hash, QChar character)
+{
+    hash = (hash ^ character.unicode()) * 0x9e3779b97f4a7c15;
+    hash ^= hash >> 29;
+}
+
+class ValueDecoder
+{
+public:
+    ValueDecoder(std::string_view value, std::vector<Misspelling> *misspellings)
+        : m_at(value.data())
+        , m_end(m_at + value.size())
+        , m_misspellings(misspellings)
+    {
+    }
+
+    QStringList elements()
+    {
+        skipBlanks();
+        while (m_at < m_end) {
+            if (*m_at == '\\') {
+                takeEscape();
+            } else if (*m_at == '"') {
+                takeQuote();
+            } else if (*m_at == ',' && m_place != Place::Quoted) {
+                endElement();
+                ++m_at;
+                skipBlanks();
+            } else {
+                takePlain();
+            }
+        }
+        if (m_place == Place::Quoted)
+            report(Misspelling::DroppedCharacter, m_at);
+        endElement();
+        return m_elements;
+    }
+
+private:
+    enum class Place { Start, Plain, Quoted, Closed };
+
+    void report(Misspelling::Kind kind, const char *at)
+    {
+        if (m_misspellings)
+            m_misspellings->push_back({ kind, at });
+    }
+
+    void skipBlanks()
+    {
+        m_at = std::find_if_not(m_at, m_end, isBlank);
+        m_keptLength = m_element.size();
+    }
+
+    void endElement()
+    {
+        int size = m_element.size();
+        while (!m_hasQuotes && size > m_keptLength && isBlank(m_element.at(size - 1).toLatin1()))
+            --size;
+        m_elements.append(m_element.left(size));
+        m_element.clear();
+        m_hasQuotes = false;
+        m_place = Place::Start;
+    }
+
+    /// Quotes enclose a whole element, or QSettings drops them.
+    void takeQuote()
+    {
+        const bool isClosing = m_place == Place::Quoted;
+        if (!isClosing && m_place != Place::Start)
+            report(Misspelling::DroppedCharacter, m_at);
+        ++m_at;
+        m_hasQuotes = true;
+        m_place = isClosing ? Place::Closed : Place::Quoted;
+        if (isClosing)
+            skipBlanks();
+    }
+
+    void append(const QString &text, const char *at)
+    {
+        if (m_place == Place::Closed)
+            report(Misspelling::DroppedCharacter, at);
+        if (m_place != Place::Quoted)
+            m_place = Place::Plain;
+        m_element += text;
+    }
+
+    /// Pieces are decoded one by one: each loses a byte order mark that it begins with.
+    void takePlain()
+    {
+        const auto endsPiece = [](char c) { return c == '\\' || c == '"' || c == ','; };
+        // Characters of two units are read, but not written.
+        const auto isWide = [](char c) { return c >= '\xf0' && c <= '\xf4'; };
+        const char *const start = m_at;
+        m_at = std::find_if(m_at + 1, m_end, endsPiece);
+        static const QTextCodec *const codec = QTextCodec::codecForName("utf-8");
+        append(codec->toUnicode(start, static_cast<int>(m_at - start)), start);
+        const char *const wide = std::find_if(start, m_at, isWide);
+        if (wide != m_at)
+            report(Misspelling::DroppedCharacter, wide);
+    }
+
+    void takeEscape()
+    {
+        constexpr std::string_view letters = "abfnrtv\"?'\\";
+        constexpr std::string_view meanings = "\a\b\f\n\r\t\v\"?'\\";
+        const char *const start = m_at++;
+        const std::size_t letter = m_at < m_end ? letters.find(*m_at) : letters.npos;
+        if (m_at < m_end && isLineEnd(*m_at)) {
+            m_at = behindLineEnd(m_at, m_end);
+        } else if (letter != letters.npos) {
+            append(QChar::fromLatin1(meanings[letter]), start);
+            ++m_at;
+        } else if (m_at < m_end && digitOf(*m_at, 8) >= 0) {
+            takeNumber(start, 8);
+        } else {
+            const bool isHexadecimal = m_at < m_end && *m_at == 'x';
+            m_at = std::min(m_at + 1, m_end);
+            takeNumber(start, isHexadecimal ? 16 : 0);
+        }
+        m_keptLength = m_element.size();
+    }
+
+    void takeNumber(const char *escape, int base)
+    {
+        const char *const start = m_at;
+        uint code = 0;
+        bool fits = true;
+        for (int digit; m_at < m_end && (digit = digitOf(*m_at, base)) >= 0; ++m_at) {
+            code = code * uint(base) + uint(digit);
+            fits = fits && code <= 0xffff;
+            code &= 0xffff;
+        }
+        if (m_at > start)
+            append(QChar(code), escape);
+        if (m_at == start || !fits)
+            report(Misspelling::BadEscape, escape);
+        else if (QChar::isSurrogate(code))
+            report(Misspelling::DroppedCharacter, escape);
+    }
+
+    const char *m_at;
+    const char *const m_end;
+    std::vector<Misspelling> *const m_misspellings;
+    QStringList m_elements;
+    QString m_element;
+    Place m_place = Place::Start;
+    bool m_hasQuotes = false;
+    /// Blanks behind this length are dropped at the end of an element without quotes.
+    int m_keptLength = 0;
+};
+
+/// Whether @p c in a key stands for itself alone.
+bool isPlainInKey(char c)
+{
+    return c != '/' && c != '\\' && c != '%';
+}
+
+} // namespace
+
+bool isSameName(std::string_view a, std::string_view b)
+{
+    return a.size() == b.size() && qstrnicmp(a.data(), b.data(), a.size()) == 0;
+}
+
+QString SettingsKey::text() const
+{
+    QString text;
+    const auto append = [&text](QChar character) { text += character; };
+    visitSection(section, append);
+    visitCharacters(name, append);
+    return text;
+}
+
+quint64 SettingsKey::hashOfSection(std::string_view section)
+{
+    quint64 hash = qGlobalQHashSeed();
+    visitSection(section, [&hash](QChar character) { addTo(hash, character); });
+    return hash;
+}
+
+quint64 SettingsKey::hash(quint64 hashOfSection) const
+{
+    quint64 hash = hashOfSection;
+    visitCharacters(name, [&hash](QChar character) { addTo(hash, character); });
+    return hash;
+}
+
+bool SettingsKey::isReadable() const
+{
+    const std::string_view front = section.data() ? section : name;
+    const bool hasPlainFront = !front.empty() && isPlainInKey(front.front());
+    const bool hasPlainBack = !name.empty() && isPlainInKey(name.back());
+    // The hexadecimal number of a "/" ends in this digit.
+    if (hasPlainFront && hasPlainBack && (name.back() & 0xdf) != 'F')
+        return true;
+    const QLatin1Char slash('/');
+    const QString key = text();
+    return !key.startsWith(slash) && !(key.endsWith(slash) && key.count(slash) > 1);
+}
+
+QStringList elementsOfValue(std::string_view value, std::vector<Misspelling> *misspellings)
+{
+    return ValueDecoder(value, misspellings).elements();
+}
+
+bool isUtf8(const QByteArray &bytes)
+{
+    QTextCodec::ConverterState state;
+    QTextCodec::codecForName("utf-8")->toUnicode(bytes.constData(), bytes.size(), &state);
+    return state.invalidChars == 0 && state.remainingChars == 0;
+}
+
+const char *firstInvalidByte(std::string_view text)
+{
+    // Something in front keeps a byte order mark from being dropped.
+    const QByteArray bytes = ' ' + QByteArray(text.data(), static_cast<int>(text.size()));
+    const QByteArray again = QString::fromUtf8(bytes.constData(), bytes.size()).toUtf8();
+    const auto end = std::mismatch(bytes.cbegin(), bytes.cend(), again.cbegin(), again.cend());
+    return text.data() + (end.first - bytes.cbegin()) - 1;
+}

@@ -1,0 +1,76 @@
+// SPDX-FileCopyrightText: The Kelto developers
+// SPDX-License-Identifier: MIT
+
+#ifndef SETTINGSTEXT_P_H
+#define SETTINGSTEXT_P_H
+
+#include <QByteArray>
+#include <QStringList>
+
+#include <string_view>
+#include <vector>
+
+// Keys and values as QSettings of Qt 5 spells them in an INI file in UTF-8.
+
+inline bool isBlank(char c)
+{
+    return c == ' ' || c == '\t';
+}
+
+inline bool isLineEnd(char c)
+{
+    return c == '\n' || c == '\r';
+}
+
+/// Behind the line end at @p at; two different characters are one line end together.
+inline const char *behindLineEnd(const char *at, const char *end)
+{
+    const bool isPair = at + 1 < end && isLineEnd(at[0]) && isLineEnd(at[1]) && at[0] != at[1];
+    return at + (isPair ? 2 : 1);
+}
+
+inline std::string_view textBetween(const char *begin, const char *end)
+{
+    return { begin, static_cast<std::size_t>(end - begin) };
+}
+
+bool isUtf8(const QByteArray &bytes);
+
+/// The first byte of @p text that is not UTF-8; its end when all of it is.
+const char *firstInvalidByte(std::string_view text);
+
+/// Whether two names in headers are the same but for the case of their letters.
+bool isSameName(std::string_view a, std::string_view b);
+
+/// A key as it is spelt in a file, with the section that it stands in.
+struct SettingsKey
+{
+    /// The key as QSettings::allKeys() gives it.
+    QString text() const;
+    /// Whether QSettings gives the value of the key, and writes it in a way that it reads as the
+    /// same. This depends on a "/" at either end.
+    bool isReadable() const;
+    /// A hash that is the same for all spellings of the key, given that of its section.
+    quint64 hash(quint64 hashOfSection) const;
+    static quint64 hashOfSection(std::string_view section);
+
+    std::string_view section; ///< A null pointer for keys without a section.
+    std::string_view name;
+};
+
+/// What is wrong with the spelling of a value, and where.
+struct Misspelling
+{
+    enum Kind { BadEscape, DroppedCharacter };
+
+    Kind kind;
+    const char *at;
+};
+
+/// What QSettings makes of @p value, the value of an entry: one text, or the elements of a list.
+/// Texts that stand for values of other types are left as they are.
+/// @param misspellings takes in what the texts do not say any more.
+QStringList elementsOfValue(std::string_view value,
+                            std::vector<Misspelling> *misspellings = nullptr);
+
+#endif
