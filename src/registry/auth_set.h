@@ -355,11 +355,13 @@ public:
      */
     ///@{
 
-    /// Appends one line, local time and @p text, to filepath_log() in UTF-8, and makes the
-    /// directory "log" where it is missing. A line that cannot be written is dropped.
+    /// Appends one line to filepath_log() in UTF-8, the local time as "yyyy-MM-dd hh:mm:ss" and
+    /// @p text, and makes the directory "log" where it is missing. A line that cannot be written is
+    /// dropped.
     void log(QString text) const;
 
-    /// The log file of today (local date): "log/yyyy-MM-dd_<application name>.log".
+    /// The log file of today (local date): "log/yyyy-MM-dd_<application name>.log". The digits are
+    /// ASCII in every language, here and in the log.
     QString filepath_log() const;
 
     /// The updater script: "Update/Update.bat" on Windows, "Update/Update.sh" elsewhere.

@@ -8,12 +8,10 @@
 #include "core/inifile_p.h"
 #include "registry/auth_set_p.h"
 
-#include <QDate>
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QLocale>
-#include <QTextStream>
 
 #include <algorithm>
 #include <iterator>
@@ -23,6 +21,15 @@ namespace {
 QString logDirectory()
 {
     return QDir::currentPath() + QLatin1String("/log");
+}
+
+/// The log file for appending; not open where that cannot be.
+bool openLog(QFile &file)
+{
+    const QIODevice::OpenMode appending
+        = QIODevice::WriteOnly | QIODevice::Append | QIODevice::Text;
+    // Nearly always the directory is there, so that looking for it first would only cost time.
+    return file.open(appending) || (QDir().mkpath(logDirectory()) && file.open(appending));
 }
 
 /// @p name without the differences in which the spellings of one application name may vary.
@@ -47,25 +54,37 @@ void writeIniValue(const QString &path, const QString &key, const QString &value
 
 } // namespace
 
+QString AUTH_SETPrivate::localTime() const
+{
+    // Working it out takes as long as writing a line does, and lines come in bursts.
+    const qint64 now = QDateTime::currentSecsSinceEpoch();
+    if (now != m_localTimeSecond) {
+        m_localTimeSecond = now;
+        // QDateTime::toString() would take the digits of the system's language.
+        m_localTime = QLocale::c().toString(QDateTime::fromSecsSinceEpoch(now),
+                                            QStringLiteral("yyyy-MM-dd hh:mm:ss"));
+    }
+    return m_localTime;
+}
+
+QString AUTH_SETPrivate::logPath(const QString &time) const
+{
+    const int dateLength = 10;
+    return logDirectory() + QLatin1Char('/') + time.leftRef(dateLength) + QLatin1Char('_')
+        + applicationName + QLatin1String(".log");
+}
+
 void AUTH_SET::log(QString text) const
 {
-    const QString stamp
-        = QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd hh:mm:ss"));
-    QFile file(filepath_log());
-    if (!file.exists())
-        QDir().mkpath(logDirectory());
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Text))
-        return;
-    QTextStream stream(&file);
-    stream.setCodec("utf-8");
-    stream << stamp << ' ' << text << Qt::endl;
+    const QString time = d->localTime();
+    QFile file(d->logPath(time));
+    if (openLog(file))
+        file.write(QString(time + QLatin1Char(' ') + text + QLatin1Char('\n')).toUtf8());
 }
 
 QString AUTH_SET::filepath_log() const
 {
-    return logDirectory() + QLatin1Char('/')
-        + QDate::currentDate().toString(QStringLiteral("yyyy-MM-dd")) + QLatin1Char('_')
-        + d->applicationName + QLatin1String(".log");
+    return d->logPath(d->localTime());
 }
 
 QString AUTH_SET::filepath_updater() const

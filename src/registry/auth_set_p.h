@@ -48,6 +48,11 @@ public:
     /// Takes the set values from the configuration file of the application.
     void loadSetValues();
 
+    /// The time that it is, as the log writes it: "yyyy-MM-dd hh:mm:ss" in ASCII digits.
+    QString localTime() const;
+    /// The log file of the day of @p time.
+    QString logPath(const QString &time) const;
+
     QString applicationName;
     QString applicationVersion;
     QVector<AUTH_INF> modules;
@@ -62,6 +67,10 @@ private:
     /// The names of the modules, gathered when first asked for and continued after an append().
     mutable FirstPositions m_names;
     mutable FirstPositions m_translatedNames;
+
+    mutable QString m_localTime;
+    /// The second since 1970 that m_localTime tells.
+    mutable qint64 m_localTimeSecond = -1;
 };
 
 #endif
