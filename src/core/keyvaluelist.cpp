@@ -8,13 +8,10 @@
 
 namespace {
 
-/// An index is built when look-ups have walked past this many entries for each one in the list.
-/// Building takes about as long, so at worst it doubles the cost.
-constexpr int walksPerIndex = 16;
-/// In a list of about so many entries one question for every key is still cheaper than an index.
-constexpr int entriesPerIndex = 64;
-/// In shorter lists a walk is not slower than a hash look-up.
-constexpr int shortList = 16;
+/// A hash look-up costs about as much as walking past this many entries, and so does adding an
+/// entry to the index. So shorter lists are never indexed, and a longer one is when its look-ups
+/// have cost as much as the index will: at worst that doubles the cost.
+constexpr int walksPerHash = 16;
 
 } // namespace
 
@@ -43,7 +40,7 @@ KeyValueList::KeyValueList(const KeyValueList &other)
 KeyValues KeyValueList::copiedEntries() const
 {
     KeyValues copy = m_entries;
-    if (m_isLent)
+    if (m_hasPointers)
         copy.detach();
     return copy;
 }
@@ -55,24 +52,25 @@ void KeyValueList::replace(const KeyValues &entries)
     const auto haveOneKey = [](const KeyValue &a, const KeyValue &b) { return a.first == b.first; };
     const bool haveSameKeys = std::equal(m_entries.cbegin(), m_entries.cend(), entries.cbegin(),
                                          entries.cend(), haveOneKey);
-    // Copies of what is lent share nothing with it, so that its own copy may come back here.
-    if (m_isLent && haveSameKeys)
+    // The entries may be a copy of this very list, which copiedEntries() keeps apart from it: its
+    // values go where pointers already point.
+    if (m_hasPointers && haveSameKeys)
         std::copy(entries.cbegin(), entries.cend(), m_entries.begin());
     else
         *this = KeyValueList(entries);
 }
 
-QVariant *KeyValueList::lendValue(int index)
+QVariant *KeyValueList::valuePointer(int index)
 {
-    m_isLent = true;
+    m_hasPointers = true;
     return &m_entries[index].second;
 }
 
-KeyValues *KeyValueList::lendEntries()
+KeyValues *KeyValueList::entriesPointer()
 {
     dropIndex();
     m_entries.detach();
-    m_isLent = true;
+    m_hasPointers = true;
     m_mayIndex = false;
     return &m_entries;
 }
@@ -94,14 +92,14 @@ QStringList KeyValueList::keys() const
 
 int KeyValueList::indexOf(const QString &key) const
 {
-    if (m_entries.size() <= shortList)
+    if (m_entries.size() <= walksPerHash)
         return firstIndexOf(m_entries, key);
     if (isIndexed())
         return m_index.indexOf(key);
 
     const int index = firstIndexOf(m_entries, key);
     m_walked += index < 0 ? m_entries.size() : index;
-    if (m_mayIndex && m_walked > qint64(walksPerIndex) * (m_entries.size() + entriesPerIndex))
+    if (m_mayIndex && m_walked > qint64(walksPerHash) * m_entries.size())
         buildIndex();
     return index;
 }

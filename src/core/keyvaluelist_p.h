@@ -47,12 +47,13 @@ public:
     ~KeyValueList() = default;
 
     const KeyValues &entries() const { return m_entries; }
-    /// The entries, to be kept: what is written to lent places does not reach them.
+    /// The entries, to be kept: what is written through pointers into this list does not reach
+    /// them.
     KeyValues copiedEntries() const;
     /// Gives the entries away; the list is empty then.
     KeyValues take();
-    /// Takes @p entries over. Lent values stay valid if these are the entries that are there, or
-    /// if they have the same keys.
+    /// Takes @p entries over. Pointers into the list stay valid if these are the entries that are
+    /// there, or if they have the same keys.
     void replace(const KeyValues &entries);
     int size() const { return m_entries.size(); }
     QStringList keys() const;
@@ -64,10 +65,10 @@ public:
     QVariant value(const QString &key) const;
 
     /// The value at @p index, to be written; valid until the list is changed.
-    QVariant *lendValue(int index);
-    /// The entries, to be written, with the same validity. Their keys may change unseen, so that
-    /// the list is not indexed any more.
-    KeyValues *lendEntries();
+    QVariant *valuePointer(int index);
+    /// The entries, to be written, with the same validity. Since their keys may then change without
+    /// a call, the list is not indexed any more.
+    KeyValues *entriesPointer();
 
     void append(const QString &key, const QVariant &value);
 
@@ -92,7 +93,7 @@ private:
     mutable FirstPositions m_index;
     /// Entries that look-ups have walked past since the index was lost.
     mutable qint64 m_walked = 0;
-    bool m_isLent = false;
+    bool m_hasPointers = false;
     bool m_mayIndex = true;
 };
 

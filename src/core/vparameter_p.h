@@ -8,24 +8,14 @@
 
 #include <QHash>
 
-#include <iterator>
-
-/// A hash that is the same for all parameters that VParameter::isEqual() finds equal. The value is
-/// left out: values of different types can be equal and have different hashes.
+/// A hash that is the same for all parameters that VParameter::isEqual() finds equal. The plain
+/// name alone would do for most lists, but not where each of many modes has a parameter of one name
+/// in a sub-group of its own. The value is left out: values of different types can be equal and
+/// have different hashes.
 inline uint parameterHash(const VParameter &parameter)
 {
-    const QPair<QString, QString> name = parameter.name();
-    const QPair<QString, QString> unit = parameter.unit();
-    const QPair<QString, QString> group = parameter.group();
-    const QString texts[] = { name.first,
-                              name.second,
-                              unit.first,
-                              unit.second,
-                              group.first,
-                              group.second,
-                              parameter.parameterObjectName(),
-                              parameter.symbol() };
-    return qHashRange(std::begin(texts), std::end(texts), parameter.isMulti() ? 1U : 0U);
+    return qHash(parameter.name().first) + 31 * qHash(parameter.group().first)
+        + 961 * qHash(parameter.symbol());
 }
 
 #endif

@@ -32,6 +32,7 @@ void AUTH_SETPrivate::numberModules(int first)
 
 void AUTH_SETPrivate::takeInModules(int first)
 {
+    listsBySubGroup.clear();
     if (!groupsMatchModules) {
         rebuildGroups();
         return;
@@ -45,7 +46,6 @@ void AUTH_SETPrivate::rebuildGroups()
 {
     groups = ExclusiveGroups();
     m_names.clear();
-    m_translatedNames.clear();
     groupsMatchModules = true;
     takeInModules(0);
 }
@@ -54,30 +54,27 @@ void AUTH_SETPrivate::dropModules()
 {
     modules.clear();
     m_names.clear();
-    m_translatedNames.clear();
+    listsBySubGroup.clear();
     groups.dropModes();
     groupsMatchModules = false;
 }
 
 void AUTH_SETPrivate::gatherNames() const
 {
-    for (int i = m_names.size(); i < modules.size(); ++i) {
-        m_names.append(modules.at(i).name);
-        m_translatedNames.append(modules.at(i).name_tr);
-    }
+    for (int i = m_names.size(); i < modules.size(); ++i)
+        m_names.append(modules.at(i).name, modules.at(i).name_tr);
 }
 
 int AUTH_SETPrivate::moduleIndex(const QString &name) const
 {
     gatherNames();
-    return m_names.indexOf(name);
+    return m_names.indexOfPlain(name);
 }
 
 bool AUTH_SETPrivate::hasModule(const QString &plainOrTranslatedName) const
 {
     gatherNames();
-    return m_names.contains(plainOrTranslatedName)
-        || m_translatedNames.contains(plainOrTranslatedName);
+    return m_names.indexOfEither(plainOrTranslatedName) >= 0;
 }
 
 QString AUTH_SETPrivate::text(int index, QString AUTH_INF::*field) const

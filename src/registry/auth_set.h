@@ -139,11 +139,11 @@ public:
     /** @name Exclusive groups and modes (auth_set_groups.cpp) */
     ///@{
 
-    /// Plain names of the exclusive groups, without doubles, in order of first appearance.
+    /// Plain names of the exclusive groups, each once, in order of first appearance.
     QStringList exclusive_group_namelist() const;
 
-    /// Translated names of the exclusive groups, without doubles of their own. The list is shorter
-    /// than exclusive_group_namelist() when two groups share a translated name.
+    /// Translated names of the exclusive groups, each once, in order of first appearance. The list
+    /// is shorter than exclusive_group_namelist() when two groups share a translated name.
     QStringList exclusive_group_namelist_global() const;
 
     /// Plain and translated name of each exclusive group. Entry i pairs entry i of either name
@@ -219,8 +219,8 @@ public:
     /// order of the groups, whatever is selected.
     QVector<QPair<QString, QString>> currentModeList() const;
 
-    /// For each of @p codes, in order and with doubles kept, the plain standard name of the first
-    /// mode that has it as its plain or translated standard name; unknown codes are left out.
+    /// For each of @p codes, in order and with duplicates kept, the plain standard name of the
+    /// first mode that has it as its plain or translated standard name; unknown codes are left out.
     QStringList currentModeMatching(QStringList codes) const;
 
     /// Number of entries of currentModeMatching().
@@ -229,7 +229,7 @@ public:
     ///@}
     /** @name Default parameters and results (auth_set_defaults.cpp)
      *
-     * Every list comes back sorted by plain name, capital letters first. Where several parameters
+     * Every list is returned sorted by plain name, capital letters first. Where several parameters
      * of a list have one plain name, all their places hold copies of the one that came first.
      * "Equal" is VParameter::isEqual(). A **sub-group** is the group of a parameter; it matches in
      * either form. An entry of a module item that is not nine texts long gives an empty parameter.
@@ -238,7 +238,7 @@ public:
     ///@{
 
     /// The parameters of the mode at the position of the first name pair of @p exclusiveGroup with
-    /// @p mode as either member; doubles are kept. Empty for an unknown group or mode.
+    /// @p mode as either member; duplicates are kept. Empty for an unknown group or mode.
     QVector<VParameter> defaultParameterList(QString exclusiveGroup, QString mode) const;
 
     /// The parameters of all modes of @p exclusiveGroup, equal ones once. Modes behind the last
@@ -248,7 +248,8 @@ public:
     /// The parameters of all exclusive groups, merged in their order as mergingList() does.
     QVector<VParameter> defaultParameterList() const;
 
-    /// Those of defaultParameterList() in the sub-group @p subGroup.
+    /// Those of defaultParameterList() in the sub-group @p subGroup. The lists of all sub-groups
+    /// are made when the first is asked for and kept until the modules change; so are those below.
     QVector<VParameter> defaultParameterListBySubGroup(QString subGroup) const;
 
     /// The parameters of all modes of @p exclusiveGroup in the sub-group @p subGroup, equal ones
@@ -256,7 +257,7 @@ public:
     QVector<VParameter> defaultParameterListInSubGroup(QString exclusiveGroup,
                                                        QString subGroup) const;
 
-    /// The results of @p item, doubles kept; empty for a null pointer.
+    /// The results of @p item, duplicates kept; empty for a null pointer.
     QVector<VParameter> defaultResultList(const AUTH_INF *item) const;
 
     /// The results of the modules of @p exclusiveGroup, merged in their order as mergingList()
@@ -270,7 +271,8 @@ public:
     QVector<VParameter> mergingList(const QVector<VParameter> *first,
                                     const QVector<VParameter> *second) const;
 
-    /// The parameters of @p first that are equal to one of @p second; doubles in @p first are kept.
+    /// The parameters of @p first that are equal to one of @p second; duplicates in @p first are
+    /// kept.
     QVector<VParameter> sharingList(const QVector<VParameter> *first,
                                     const QVector<VParameter> *second) const;
 

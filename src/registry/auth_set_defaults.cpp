@@ -23,11 +23,6 @@ Parameters sortedByName(const Parameters &parameters)
                                [](const VParameter &parameter) { return parameter.name().first; });
 }
 
-bool isInSubGroup(const VParameter &parameter, const QString &subGroup)
-{
-    return parameter.group().first == subGroup || parameter.group().second == subGroup;
-}
-
 /// Entries that are not nine texts long leave the parameter empty, which is kept.
 Parameters parametersOf(const QVector<QStringList> &entries)
 {
@@ -55,11 +50,12 @@ Parameters distinct(const Parameters &first, const Parameters &second)
 }
 
 /**
- * What comes out when the first list is merged with the second, the result with the third, and so
- * on; every list has to be sorted by name.
+ * The result of merging the first list with the second, that result with the third, and so on;
+ * every list has to be sorted by name.
  *
- * Each merging leaves one record per name, the first that ever came, but for the last one, which
- * may add a second place for a name. So the lists before the last need not be merged one by one.
+ * A merging may give a name a second place, but fills it with the first bearer of the name, and the
+ * next merging drops that as a duplicate. So only the last list can leave second places, and of the
+ * others just the first bearer of each name counts.
  */
 Parameters mergedInTurn(const QVector<Parameters> &lists)
 {
@@ -79,7 +75,7 @@ Parameters mergedInTurn(const QVector<Parameters> &lists)
     return sortedByName(distinct(firstBearers, lists.last()));
 }
 
-/// The sub-groups of @p parameters, without doubles.
+/// The sub-groups of @p parameters, without duplicates.
 class SubGroups
 {
 public:
@@ -122,6 +118,34 @@ QVector<Parameters> parametersByMode(const AUTH_SET &set, const QString &group)
     return lists;
 }
 
+/// The parameters of all modes of @p group, equal ones once, not sorted.
+Parameters parametersOfGroup(const AUTH_SET &set, const QString &group)
+{
+    KnownParameters parameters;
+    const QVector<Parameters> lists = parametersByMode(set, group);
+    for (const Parameters &list : lists)
+        parameters.appendNew(list);
+    return parameters.list();
+}
+
+/// @p parameters under the plain and the translated names of their sub-groups, each list sorted by
+/// name.
+ListsBySubGroup bySubGroup(const Parameters &parameters)
+{
+    ListsBySubGroup lists;
+    for (const VParameter &parameter : parameters) {
+        const NamePair subGroup = parameter.group();
+        lists[subGroup.first].append(parameter);
+        if (subGroup.second != subGroup.first)
+            lists[subGroup.second].append(parameter);
+    }
+    for (Parameters &list : lists) {
+        if (list.size() > 1)
+            list = sortedByName(list);
+    }
+    return lists;
+}
+
 } // namespace
 
 QVector<VParameter> AUTH_SET::defaultParameterList(QString exclusiveGroup, QString mode) const
@@ -132,11 +156,7 @@ QVector<VParameter> AUTH_SET::defaultParameterList(QString exclusiveGroup, QStri
 
 QVector<VParameter> AUTH_SET::defaultParameterList(QString exclusiveGroup) const
 {
-    KnownParameters parameters;
-    const QVector<Parameters> lists = parametersByMode(*this, exclusiveGroup);
-    for (const Parameters &list : lists)
-        parameters.appendNew(list);
-    return sortedByName(parameters.list());
+    return sortedByName(parametersOfGroup(*this, exclusiveGroup));
 }
 
 QVector<VParameter> AUTH_SET::defaultParameterList() const
@@ -150,27 +170,25 @@ QVector<VParameter> AUTH_SET::defaultParameterList() const
 
 QVector<VParameter> AUTH_SET::defaultParameterListBySubGroup(QString subGroup) const
 {
-    Parameters found;
-    const Parameters parameters = defaultParameterList();
-    std::copy_if(parameters.cbegin(), parameters.cend(), std::back_inserter(found),
-                 [&subGroup](const VParameter &parameter) {
-                     return isInSubGroup(parameter, subGroup);
-                 });
-    return sortedByName(found);
+    constexpr int allGroups = -1;
+    // The names were sorted, and places of one name filled, before sub-groups are told apart.
+    if (!d->listsBySubGroup.contains(allGroups))
+        d->listsBySubGroup.insert(allGroups, bySubGroup(defaultParameterList()));
+    return d->listsBySubGroup[allGroups].value(subGroup);
 }
 
 QVector<VParameter> AUTH_SET::defaultParameterListInSubGroup(QString exclusiveGroup,
                                                              QString subGroup) const
 {
-    KnownParameters found;
-    const QVector<Parameters> lists = parametersByMode(*this, exclusiveGroup);
-    for (const Parameters &list : lists) {
-        for (const VParameter &parameter : list) {
-            if (isInSubGroup(parameter, subGroup))
-                found.appendNew(parameter);
-        }
+    const ExclusiveGroup *group = d->groups.find(exclusiveGroup);
+    if (!group)
+        return {};
+    // Here sub-groups are told apart first, so that each fills the places of its own names.
+    if (!d->listsBySubGroup.contains(group->index)) {
+        d->listsBySubGroup.insert(group->index,
+                                  bySubGroup(parametersOfGroup(*this, exclusiveGroup)));
     }
-    return sortedByName(found.list());
+    return d->listsBySubGroup[group->index].value(subGroup);
 }
 
 QVector<VParameter> AUTH_SET::defaultResultList(const AUTH_INF *item) const
@@ -180,12 +198,12 @@ QVector<VParameter> AUTH_SET::defaultResultList(const AUTH_INF *item) const
 
 QVector<VParameter> AUTH_SET::defaultResultList(QString exclusiveGroup) const
 {
-    const int index = d->groupIndex(exclusiveGroup);
-    if (index < 0)
+    const ExclusiveGroup *group = d->groups.find(exclusiveGroup);
+    if (!group)
         return {};
     QVector<Parameters> lists;
     // Unlike modes, results are not taken from modules without the flag.
-    for (int flagged : d->groups.at(index).flaggedModules())
+    for (int flagged : group->flaggedModules())
         lists.append(defaultResultList(&d->modules.at(flagged)));
     return mergedInTurn(lists);
 }
@@ -213,7 +231,7 @@ QVector<VParameter> AUTH_SET::sharingList(const QVector<VParameter> *first,
     KnownParameters others;
     for (const VParameter &parameter : *second)
         others.append(parameter);
-    // Doubles in the first list stay, unlike in mergingList().
+    // Duplicates in the first list stay, unlike in mergingList().
     Parameters shared;
     std::copy_if(first->cbegin(), first->cend(), std::back_inserter(shared),
                  [&others](const VParameter &parameter) { return others.contains(parameter); });
@@ -232,20 +250,18 @@ QVector<QPair<QString, QString>> AUTH_SET::defaultParameterSubGroupList() const
 QVector<QPair<QString, QString>> AUTH_SET::defaultParameterSubGroupList(
     QString exclusiveGroup) const
 {
-    const int index = d->groupIndex(exclusiveGroup);
-    if (index < 0)
-        return {};
-    return subGroupsOf(defaultParameterList(d->groups.names().at(index)));
+    const ExclusiveGroup *group = d->groups.find(exclusiveGroup);
+    return group ? subGroupsOf(defaultParameterList(group->name)) : NamePairs();
 }
 
 QVector<QPair<QString, QString>> AUTH_SET::defaultParameterSubGroupList(QString exclusiveGroup,
                                                                         QString mode) const
 {
-    const int index = d->groupIndex(exclusiveGroup);
-    if (index < 0 || d->groups.at(index).indexOfEitherName(d->modules, mode) < 0)
+    const ExclusiveGroup *group = d->groups.find(exclusiveGroup);
+    if (!group || group->indexOfEitherName(d->modules, mode) < 0)
         return {};
-    const QString plainMode = d->groups.at(index).findNamePair(d->modules, mode).first;
-    return subGroupsOf(defaultParameterList(d->groups.names().at(index), plainMode));
+    const QString plainMode = group->findNamePair(d->modules, mode).first;
+    return subGroupsOf(defaultParameterList(group->name, plainMode));
 }
 
 bool AUTH_SET::isParameterContains(const QVector<VParameter> *list, const VParameter *p) const

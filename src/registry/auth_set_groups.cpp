@@ -9,36 +9,33 @@
 #include "registry/auth_set_p.h"
 #include "registry/standardmodename_p.h"
 
-int AUTH_SETPrivate::groupIndexAgain(int index) const
+const ExclusiveGroup *AUTH_SETPrivate::resolveTwice(const QString &name) const
 {
-    return index < 0 ? -1 : groups.indexOf(groups.names().at(index));
+    const ExclusiveGroup *group = groups.find(name);
+    return group ? groups.find(group->name) : nullptr;
 }
 
-NamePairs AUTH_SETPrivate::namePairs(int group) const
+void AUTH_SETPrivate::select(const ExclusiveGroup *group, int position)
 {
-    return group < 0 ? NamePairs() : groups.at(group).namePairs(modules);
+    if (group && group->hasMode(position))
+        groups.selection(*group) = position;
 }
 
-void AUTH_SETPrivate::select(int group, int position)
+int AUTH_SETPrivate::indexOfMode(const ExclusiveGroup *group, const QString &mode) const
 {
-    if (group >= 0 && groups.at(group).hasMode(position))
-        groups.selection(group) = position;
-}
-
-int AUTH_SETPrivate::indexOfMode(int group, const QString &mode) const
-{
-    if (group < 0)
+    if (!group)
         return -1;
     // A mode without a plain name cannot be asked for by its translated one.
-    const QString plainName = groups.at(group).findNamePair(modules, mode).first;
-    return plainName.isEmpty() ? -1 : groups.at(group).indexOfPlainName(modules, plainName);
+    const QString plainName = group->findNamePair(modules, mode).first;
+    return plainName.isEmpty() ? -1 : group->indexOfPlainName(modules, plainName);
 }
 
-QVector<QStringList> AUTH_SETPrivate::parameterEntries(int group, int position) const
+QVector<QStringList> AUTH_SETPrivate::parameterEntries(const ExclusiveGroup *group,
+                                                       int position) const
 {
-    if (group < 0 || !groups.at(group).hasMode(position))
+    if (!group || !group->hasMode(position))
         return {};
-    const ModeOrigin mode = groups.at(group).modeAt(position);
+    const ModeOrigin mode = group->modeAt(position);
     return modules.at(mode.moduleIndex).inner_mode_parameterList.value(mode.innerMode);
 }
 
@@ -55,59 +52,59 @@ QStringList AUTH_SET::exclusive_group_namelist_global() const
 QVector<QPair<QString, QString>> AUTH_SET::currentExclusiveGroupList() const
 {
     NamePairs pairs;
-    pairs.reserve(d->groups.size());
-    for (int i = 0; i < d->groups.size(); ++i)
-        pairs.append(d->groups.namePair(i));
+    pairs.reserve(d->groups.names().size());
+    for (const ExclusiveGroup &group : d->groups.all())
+        pairs.append(d->groups.namePair(group));
     return pairs;
 }
 
 QPair<QString, QString> AUTH_SET::findExclusiveGroupName(QString name) const
 {
-    const int group = d->groupIndex(name);
-    return group < 0 ? NamePair() : d->groups.namePair(group);
+    const ExclusiveGroup *group = d->groups.find(name);
+    return group ? d->groups.namePair(*group) : NamePair();
 }
 
 int AUTH_SET::exclusive_group_mode_count(QString group) const
 {
-    const int index = d->groupIndex(group);
-    return index < 0 ? 0 : d->groups.at(index).modeCount();
+    const ExclusiveGroup *found = d->groups.find(group);
+    return found ? found->modeCount() : 0;
 }
 
 QString AUTH_SET::exclusive_group_orginal_model(QString group, int position) const
 {
-    const int index = d->groupIndex(group);
-    if (index < 0 || !d->groups.at(index).hasMode(position))
-        return {};
-    return name(d->groups.at(index).modeAt(position).moduleIndex);
+    const ExclusiveGroup *found = d->groups.find(group);
+    return found && found->hasMode(position) ? name(found->modeAt(position).moduleIndex)
+                                             : QString();
 }
 
 int AUTH_SET::exclusive_group_select(QString group) const
 {
-    const int index = d->groupIndex(group);
-    return index < 0 ? -1 : d->groups.at(index).selected;
+    const ExclusiveGroup *found = d->groups.find(group);
+    return found ? found->selected : -1;
 }
 
 int *AUTH_SET::exclusive_group_mode_pointer(QString group)
 {
-    const int index = d->groupIndex(group);
-    return index < 0 ? nullptr : &d->groups.selection(index);
+    const ExclusiveGroup *found = d->groups.find(group);
+    return found ? &d->groups.selection(*found) : nullptr;
 }
 
 void AUTH_SET::exclusive_group_set_mode(QString group, int position)
 {
-    d->select(d->groupIndex(group), position);
+    d->select(d->groups.find(group), position);
 }
 
 void AUTH_SET::exclusive_group_set_mode(QString group, QString mode)
 {
-    const int index = d->groupIndexAgain(d->groupIndex(group));
-    d->select(index, d->indexOfMode(index, mode));
+    const ExclusiveGroup *found = d->resolveTwice(group);
+    d->select(found, d->indexOfMode(found, mode));
 }
 
 QVector<QPair<QString, QString>> AUTH_SET::exclusive_group_inner_mode_namelist_at(
     QString group) const
 {
-    return d->namePairs(d->groupIndex(group));
+    const ExclusiveGroup *found = d->groups.find(group);
+    return found ? found->namePairs(d->modules) : NamePairs();
 }
 
 QVector<QPair<QString, QString>> AUTH_SET::findExclusiveGroupInnerModeList(QString group) const
@@ -117,27 +114,27 @@ QVector<QPair<QString, QString>> AUTH_SET::findExclusiveGroupInnerModeList(QStri
 
 QPair<QString, QString> AUTH_SET::findExclusiveGroupInnerModeName(QString group, QString mode) const
 {
-    const int index = d->groupIndex(group);
-    return index < 0 ? NamePair() : d->groups.at(index).findNamePair(d->modules, mode);
+    const ExclusiveGroup *found = d->groups.find(group);
+    return found ? found->findNamePair(d->modules, mode) : NamePair();
 }
 
 int AUTH_SET::exclusive_group_innerMode_index(QString group, QString mode) const
 {
-    const int index = d->groupIndex(group);
+    const ExclusiveGroup *found = d->groups.find(group);
     // A group without a name has no positions by name, though it can be selected in.
-    if (index < 0 || d->groups.names().at(index).isEmpty())
+    if (!found || found->name.isEmpty())
         return -1;
-    return d->indexOfMode(d->groupIndexAgain(index), mode);
+    return d->indexOfMode(d->groups.find(found->name), mode);
 }
 
 QVector<QPair<int, QString>> AUTH_SET::exclusive_group_mode_description(QString group) const
 {
     QVector<QPair<int, QString>> descriptions;
-    const int index = d->groupIndex(group);
-    if (index < 0)
+    const ExclusiveGroup *found = d->groups.find(group);
+    if (!found)
         return descriptions;
-    descriptions.reserve(qMin(mostInnerModes, d->groups.at(index).modeCount()));
-    d->groups.at(index).visitModes(mostInnerModes, [&](ModeOrigin mode) {
+    descriptions.reserve(qMin(mostInnerModes, found->modeCount()));
+    found->visitModes(mostInnerModes, [&](ModeOrigin mode) {
         const AUTH_INF &module = d->modules.at(mode.moduleIndex);
         descriptions.append(
             { mode.moduleIndex, module.inner_mode_description.value(mode.innerMode) });
@@ -148,24 +145,22 @@ QVector<QPair<int, QString>> AUTH_SET::exclusive_group_mode_description(QString 
 QVector<QStringList> AUTH_SET::exclusive_group_parameter_settings_origin(QString group,
                                                                          int position) const
 {
-    return d->parameterEntries(d->groupIndex(group), position);
+    return d->parameterEntries(d->groups.find(group), position);
 }
 
 QVector<QStringList> AUTH_SET::exclusive_group_parameter_settings_origin(QString group,
                                                                          QString mode) const
 {
-    const int index = d->groupIndexAgain(d->groupIndex(group));
-    if (index < 0)
-        return {};
-    return d->parameterEntries(index, d->groups.at(index).indexOfEitherName(d->modules, mode));
+    const ExclusiveGroup *found = d->resolveTwice(group);
+    return d->parameterEntries(found, found ? found->indexOfEitherName(d->modules, mode) : -1);
 }
 
 QPair<QString, QString> AUTH_SET::currentExclusiveGroupSelect(QString group) const
 {
-    const int index = d->groupIndexAgain(d->groupIndex(group));
-    if (index < 0 || !d->groups.at(index).hasMode(d->groups.at(index).selected))
+    const ExclusiveGroup *found = d->resolveTwice(group);
+    if (!found || !found->hasMode(found->selected))
         return {};
-    return d->namePairs(index).value(d->groups.at(index).selected);
+    return found->namePairs(d->modules).value(found->selected);
 }
 
 QString AUTH_SET::stdModeNameForm(QString group, QString mode) const
@@ -176,12 +171,12 @@ QString AUTH_SET::stdModeNameForm(QString group, QString mode) const
 QVector<QPair<QString, QString>> AUTH_SET::currentModeList() const
 {
     NamePairs modes;
-    for (int i = 0; i < d->groups.size(); ++i) {
-        const NamePair group = d->groups.namePair(i);
-        const NamePairs names = d->namePairs(d->groupIndexAgain(i));
-        for (const NamePair &mode : names) {
-            modes.append({ stdModeNameForm(group.first, mode.first),
-                           stdModeNameForm(group.second, mode.second) });
+    for (const ExclusiveGroup &group : d->groups.all()) {
+        const NamePair names = d->groups.namePair(group);
+        const NamePairs pairs = exclusive_group_inner_mode_namelist_at(group.name);
+        for (const NamePair &mode : pairs) {
+            modes.append({ stdModeNameForm(names.first, mode.first),
+                           stdModeNameForm(names.second, mode.second) });
         }
     }
     return modes;
@@ -190,15 +185,12 @@ QVector<QPair<QString, QString>> AUTH_SET::currentModeList() const
 QStringList AUTH_SET::currentModeMatching(QStringList codes) const
 {
     const NamePairs modes = currentModeList();
-    FirstPositions names;
-    FirstPositions translatedNames;
-    for (const NamePair &mode : modes) {
-        names.append(mode.first);
-        translatedNames.append(mode.second);
-    }
+    NamePairIndex index;
+    for (const NamePair &mode : modes)
+        index.append(mode.first, mode.second);
     QStringList matching;
     for (const QString &code : qAsConst(codes)) {
-        const int position = firstOfEither(names.indexOf(code), translatedNames.indexOf(code));
+        const int position = index.indexOfEither(code);
         if (position >= 0)
             matching.append(modes.at(position).first);
     }

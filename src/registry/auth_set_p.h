@@ -5,12 +5,16 @@
 #define AUTH_SET_P_H
 
 #include "auth_inf.h"
-#include "core/firstpositions_p.h"
 #include "registry/exclusivegroups_p.h"
+#include "registry/namepairindex_p.h"
 #include "registry/storedvalues_p.h"
+#include "vparameter.h"
 
+#include <QHash>
 #include <QString>
 #include <QVector>
+
+using ListsBySubGroup = QHash<QString, QVector<VParameter>>;
 
 class AUTH_SETPrivate
 {
@@ -31,19 +35,18 @@ public:
     /// One field of the module at @p index; empty when there is no such module.
     QString text(int index, QString AUTH_INF::*field) const;
 
-    /// Index of the exclusive group that @p name names in either form; -1 when there is none.
-    int groupIndex(const QString &name) const { return groups.indexOf(name); }
-    /// Index of the exclusive group found by the plain name of the group at @p index. Operations
-    /// that build on others look a found group up again; it is another one where the plain name of
-    /// this group is the translated name of an earlier one. -1 stays -1.
-    int groupIndexAgain(int index) const;
+    /// The exclusive group that is found by the plain name of the one that @p name finds; nullptr
+    /// when there is none. Operations that build on others look a found group up again, which leads
+    /// to another one where its plain name is the translated name of an earlier group.
+    const ExclusiveGroup *resolveTwice(const QString &name) const;
 
-    NamePairs namePairs(int group) const;
+    // A group that is nullptr has nothing in it.
+
     /// Index of the first name pair of @p group with the plain name of @p mode, which may be given
     /// in either form; -1 when there is none or when that plain name is empty.
-    int indexOfMode(int group, const QString &mode) const;
-    void select(int group, int position);
-    QVector<QStringList> parameterEntries(int group, int position) const;
+    int indexOfMode(const ExclusiveGroup *group, const QString &mode) const;
+    void select(const ExclusiveGroup *group, int position);
+    QVector<QStringList> parameterEntries(const ExclusiveGroup *group, int position) const;
 
     /// Takes the set values from the configuration file of the application.
     void loadSetValues();
@@ -58,6 +61,12 @@ public:
     QVector<AUTH_INF> modules;
     ExclusiveGroups groups;
     StoredValues values;
+    /**
+     * The default parameters by the name of their sub-group, of each exclusive group that was asked
+     * for them, by its index, and of all groups, at -1: who asks for one sub-group soon asks for
+     * the others, too. Every change of the modules empties this.
+     */
+    mutable QHash<int, ListsBySubGroup> listsBySubGroup;
     /// False from clear() on until the next rebuild: the groups then outlive their modules.
     bool groupsMatchModules = true;
 
@@ -65,8 +74,7 @@ private:
     void gatherNames() const;
 
     /// The names of the modules, gathered when first asked for and continued after an append().
-    mutable FirstPositions m_names;
-    mutable FirstPositions m_translatedNames;
+    mutable NamePairIndex m_names;
 
     mutable QString m_localTime;
     /// The second since 1970 that m_localTime tells.

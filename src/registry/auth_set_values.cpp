@@ -23,22 +23,20 @@ QString settingsPath(const QString &applicationName)
 
 /// The value of @p key for writing. A key that is not there gives the first value, which is a trap
 /// that hosts know of; an empty list gives @p nothing, so that writing it does no harm.
-QVariant *lendValue(KeyValueList &list, const QString &key, QVariant &nothing)
+QVariant *valuePointer(KeyValueList &list, const QString &key, QVariant &nothing)
 {
     if (list.size() == 0) {
         nothing = QVariant();
         return &nothing;
     }
-    return list.lendValue(qMax(list.indexOf(key), 0));
+    return list.valuePointer(qMax(list.indexOf(key), 0));
 }
 
-/// The list of the group @p group, or that of the first group, or none where there is no group.
+/// The list of the group @p group, or that of the first group; nullptr where there is no group.
 KeyValueList *groupOrFirst(StoredValues &values, const QString &group)
 {
-    if (values.groups.empty())
-        return nullptr;
-    const int index = qMax(values.groupNames.indexOf(group), 0);
-    return &values.groups[static_cast<std::size_t>(index)];
+    KeyValueList *found = values.findGroup(group);
+    return found || values.groups.empty() ? found : &values.groups.front();
 }
 
 } // namespace
@@ -60,33 +58,31 @@ QVariant AUTH_SET::value_cal(QString key) const
 
 QVector<QPair<QString, QVariant>> AUTH_SET::value_group(QString group) const
 {
-    const int index = d->values.groupNames.indexOf(group);
-    if (index < 0)
-        return {};
-    return d->values.groups[static_cast<std::size_t>(index)].copiedEntries();
+    const KeyValueList *list = d->values.findGroup(group);
+    return list ? list->copiedEntries() : KeyValues();
 }
 
 QVariant AUTH_SET::value_group_at(QString group, QString key) const
 {
-    const int index = d->values.groupNames.indexOf(group);
-    return index < 0 ? QVariant() : d->values.groups[static_cast<std::size_t>(index)].value(key);
+    const KeyValueList *list = d->values.findGroup(group);
+    return list ? list->value(key) : QVariant();
 }
 
 QVariant *AUTH_SET::value_set_p(QString key)
 {
-    return lendValue(d->values.set, key, d->values.noValue);
+    return valuePointer(d->values.set, key, d->values.noValue);
 }
 
 QVariant *AUTH_SET::value_cal_p(QString key)
 {
-    return lendValue(d->values.calculation, key, d->values.noValue);
+    return valuePointer(d->values.calculation, key, d->values.noValue);
 }
 
 QVector<QPair<QString, QVariant>> *AUTH_SET::value_group_p(QString group)
 {
     KeyValueList *list = groupOrFirst(d->values, group);
     if (list)
-        return list->lendEntries();
+        return list->entriesPointer();
     d->values.noValues.clear();
     return &d->values.noValues;
 }
@@ -95,18 +91,17 @@ QVariant *AUTH_SET::value_group_at_p(QString group, QString key)
 {
     KeyValueList nothing;
     KeyValueList *list = groupOrFirst(d->values, group);
-    return lendValue(list ? *list : nothing, key, d->values.noValue);
+    return valuePointer(list ? *list : nothing, key, d->values.noValue);
 }
 
 void AUTH_SET::setDefaultSettings(QString group, QVector<QPair<QString, QVariant>> values)
 {
-    const int index = d->values.groupNames.indexOf(group);
-    if (index < 0) {
-        d->values.groupNames.append(group);
-        d->values.groups.emplace_back(values);
+    if (KeyValueList *list = d->values.findGroup(group)) {
+        list->replace(values);
         return;
     }
-    d->values.groups[static_cast<std::size_t>(index)].replace(values);
+    d->values.groupNames.append(group);
+    d->values.groups.emplace_back(values);
 }
 
 void AUTH_SET::setValueInSet(QString key, QVariant value)
@@ -159,7 +154,7 @@ bool AUTH_SET::load(QString path, QVector<QPair<QString, QVariant>> *values) con
         return true;
     const KeyValues loaded = readIniFile(path);
     if (values->isEmpty()) {
-        // No key is twice in a file, so that none has to be looked for.
+        // A file holds each key once, so that none has to be looked for.
         *values = loaded;
         return true;
     }

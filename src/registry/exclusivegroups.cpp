@@ -6,6 +6,19 @@
 #include <algorithm>
 #include <limits>
 
+namespace {
+
+/// The first position at which either of two parallel lists has a text, given its first position
+/// in each; -1 when neither has it.
+int firstOfEither(int position, int otherPosition)
+{
+    if (position < 0 || otherPosition < 0)
+        return std::max(position, otherPosition);
+    return std::min(position, otherPosition);
+}
+
+} // namespace
+
 void ExclusiveGroup::addModule(int moduleIndex, int innerModeCount)
 {
     const int room = std::numeric_limits<int>::max() - m_modeCount;
@@ -18,7 +31,7 @@ void ExclusiveGroup::addModule(int moduleIndex, int innerModeCount)
 
 void ExclusiveGroup::dropModes()
 {
-    ExclusiveGroup bare(name);
+    ExclusiveGroup bare(name, index);
     bare.selected = selected;
     *this = bare;
 }
@@ -42,13 +55,13 @@ NamePairs ExclusiveGroup::namePairs(const QVector<AUTH_INF> &modules) const
 int ExclusiveGroup::indexOfPlainName(const QVector<AUTH_INF> &modules, const QString &mode) const
 {
     gatherNames(modules);
-    return m_plainNames.indexOf(mode);
+    return m_pairIndex.indexOfPlain(mode);
 }
 
 int ExclusiveGroup::indexOfEitherName(const QVector<AUTH_INF> &modules, const QString &mode) const
 {
     gatherNames(modules);
-    return firstOfEither(m_plainNames.indexOf(mode), m_translatedNames.indexOf(mode));
+    return m_pairIndex.indexOfEither(mode);
 }
 
 NamePair ExclusiveGroup::findNamePair(const QVector<AUTH_INF> &modules, const QString &mode) const
@@ -68,8 +81,7 @@ void ExclusiveGroup::gatherNames(const QVector<AUTH_INF> &modules) const
                 continue;
             m_knownPairs.insert(pair);
             m_namePairs.append(pair);
-            m_plainNames.append(pair.first);
-            m_translatedNames.append(pair.second);
+            m_pairIndex.append(pair.first, pair.second);
         }
     }
 }
@@ -88,22 +100,22 @@ void ExclusiveGroups::addModule(int moduleIndex, const AUTH_INF &module)
     }
     const int index = m_namePositions.indexOf(module.group);
     if (index >= 0)
-        m_groups[static_cast<std::size_t>(index)].addModule(moduleIndex, module.inner_mode_count);
+        at(index).addModule(moduleIndex, module.inner_mode_count);
     else
-        m_waiting[module.group].append({ moduleIndex, module.inner_mode_count });
+        m_unflagged[module.group].append({ moduleIndex, module.inner_mode_count });
 }
 
 ExclusiveGroup &ExclusiveGroups::ensureGroup(const QString &name)
 {
     const int index = m_namePositions.indexOf(name);
     if (index >= 0)
-        return m_groups[static_cast<std::size_t>(index)];
+        return at(index);
 
+    m_groups.emplace_back(name, m_namePositions.size());
     m_namePositions.append(name);
     m_names.append(name);
-    m_groups.emplace_back(name);
-    const QVector<Waiting> waiting = m_waiting.take(name);
-    for (const Waiting &module : waiting)
+    const QVector<UnflaggedModule> earlier = m_unflagged.take(name);
+    for (const UnflaggedModule &module : earlier)
         m_groups.back().addModule(module.moduleIndex, module.innerModeCount);
     return m_groups.back();
 }
@@ -117,11 +129,11 @@ void ExclusiveGroups::dropModes()
 void ExclusiveGroups::resetSelections()
 {
     for (int index : qAsConst(m_selectedGroups))
-        m_groups[static_cast<std::size_t>(index)].selected = 0;
+        at(index).selected = 0;
     m_selectedGroups.clear();
 }
 
-int ExclusiveGroups::indexOf(const QString &name) const
+const ExclusiveGroup *ExclusiveGroups::find(const QString &name) const
 {
     int translated = m_translatedNamePositions.indexOf(name);
     // There may be more translated names than groups, and fewer: then the missing ones are empty.
@@ -129,11 +141,12 @@ int ExclusiveGroups::indexOf(const QString &name) const
         translated = -1;
     if (translated < 0 && name.isEmpty() && m_translatedNames.size() < m_names.size())
         translated = m_translatedNames.size();
-    return firstOfEither(m_namePositions.indexOf(name), translated);
+    const int index = firstOfEither(m_namePositions.indexOf(name), translated);
+    return index < 0 ? nullptr : &m_groups[static_cast<std::size_t>(index)];
 }
 
-int &ExclusiveGroups::selection(int index)
+int &ExclusiveGroups::selection(const ExclusiveGroup &group)
 {
-    m_selectedGroups.insert(index);
-    return m_groups[static_cast<std::size_t>(index)].selected;
+    m_selectedGroups.insert(group.index);
+    return at(group.index).selected;
 }

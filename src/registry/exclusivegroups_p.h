@@ -6,6 +6,7 @@
 
 #include "auth_inf.h"
 #include "core/firstpositions_p.h"
+#include "registry/namepairindex_p.h"
 
 #include <QHash>
 #include <QPair>
@@ -35,8 +36,9 @@ struct ModeOrigin
 class ExclusiveGroup
 {
 public:
-    explicit ExclusiveGroup(const QString &groupName)
+    ExclusiveGroup(const QString &groupName, int groupIndex)
         : name(groupName)
+        , index(groupIndex)
     {
     }
 
@@ -46,7 +48,7 @@ public:
     /// Notes that a module carries the flag that makes its group an exclusive one.
     void addFlaggedModule(int moduleIndex) { m_flaggedModules.push_back(moduleIndex); }
 
-    /// Drops modes and name pairs; the name and the selection stay.
+    /// Drops modes and name pairs; name, index and selection stay.
     void dropModes();
 
     /// The modules that carry the flag, in registry order; also those without any mode.
@@ -78,6 +80,8 @@ public:
     NamePair findNamePair(const QVector<AUTH_INF> &modules, const QString &mode) const;
 
     QString name;
+    /// Position of the group among those of its registry.
+    int index;
     int selected = 0;
 
 private:
@@ -97,15 +101,14 @@ private:
     mutable std::size_t m_gatheredModules = 0;
     mutable NamePairs m_namePairs;
     mutable QSet<NamePair> m_knownPairs;
-    mutable FirstPositions m_plainNames;
-    mutable FirstPositions m_translatedNames;
+    mutable NamePairIndex m_pairIndex;
 };
 
 /// All exclusive groups of a registry.
 class ExclusiveGroups
 {
 public:
-    /// Takes in the module that stands at @p moduleIndex; modules have to come in registry order.
+    /// Takes in the module at @p moduleIndex; modules have to be given in registry order.
     void addModule(int moduleIndex, const AUTH_INF &module);
 
     /// Drops the modes of all groups; names and selections stay.
@@ -117,23 +120,23 @@ public:
     const QStringList &names() const { return m_names; }
     const QStringList &translatedNames() const { return m_translatedNames; }
 
-    /// Plain and translated name of the group at @p index; what is missing is empty.
-    NamePair namePair(int index) const
+    /// Plain and translated name of @p group; a translated name that is missing is empty.
+    NamePair namePair(const ExclusiveGroup &group) const
     {
-        return { m_names[index], m_translatedNames.value(index) };
+        return { group.name, m_translatedNames.value(group.index) };
     }
 
-    /// Index of the first group with the plain or translated name @p name; -1 when there is none.
-    int indexOf(const QString &name) const;
+    /// The first group with the plain or translated name @p name; nullptr when there is none. Valid
+    /// until a module is added.
+    const ExclusiveGroup *find(const QString &name) const;
+    const std::vector<ExclusiveGroup> &all() const { return m_groups; }
 
-    int size() const { return static_cast<int>(m_groups.size()); }
-    const ExclusiveGroup &at(int index) const { return m_groups[static_cast<std::size_t>(index)]; }
-
-    /// The selected position of the group at @p index, to be written.
-    int &selection(int index);
+    /// The selected position of @p group, to be written.
+    int &selection(const ExclusiveGroup &group);
 
 private:
     ExclusiveGroup &ensureGroup(const QString &name);
+    ExclusiveGroup &at(int index) { return m_groups[static_cast<std::size_t>(index)]; }
 
     std::vector<ExclusiveGroup> m_groups;
     QStringList m_names;
@@ -141,14 +144,14 @@ private:
     FirstPositions m_namePositions;
     FirstPositions m_translatedNamePositions;
 
-    struct Waiting
+    struct UnflaggedModule
     {
         int moduleIndex;
         int innerModeCount;
     };
-    /// Modules without the flag, by group name: they join when a later module makes their group an
-    /// exclusive one.
-    QHash<QString, QVector<Waiting>> m_waiting;
+    /// Modules without the flag, by the name of their group: they join it when a later module makes
+    /// it an exclusive one.
+    QHash<QString, QVector<UnflaggedModule>> m_unflagged;
 
     /// The groups whose selection may differ from the first mode. Resetting only these keeps the
     /// adding of one module independent of the number of groups.

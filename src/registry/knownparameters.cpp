@@ -14,28 +14,16 @@ constexpr int shortList = 16;
 
 } // namespace
 
-uint KnownParameters::hashOf(const VParameter &parameter) const
-{
-    return m_list.size() < shortList ? 0U : parameterHash(parameter);
-}
-
 bool KnownParameters::contains(const VParameter &parameter) const
 {
-    return contains(hashOf(parameter), parameter);
-}
-
-void KnownParameters::append(const VParameter &parameter)
-{
-    append(hashOf(parameter), parameter);
-}
-
-bool KnownParameters::contains(uint hash, const VParameter &parameter) const
-{
-    if (m_positions.isEmpty()) {
+    if (m_list.size() < shortList) {
         return std::any_of(m_list.cbegin(), m_list.cend(), [&parameter](const VParameter &known) {
             return known.isEqual(&parameter);
         });
     }
+    for (int i = m_positions.size(); i < m_list.size(); ++i)
+        m_positions.insert(parameterHash(m_list.at(i)), i);
+    const uint hash = parameterHash(parameter);
     for (auto it = m_positions.constFind(hash); it != m_positions.cend() && it.key() == hash;
          ++it) {
         if (m_list.at(it.value()).isEqual(&parameter))
@@ -44,28 +32,10 @@ bool KnownParameters::contains(uint hash, const VParameter &parameter) const
     return false;
 }
 
-void KnownParameters::append(uint hash, const VParameter &parameter)
-{
-    m_list.append(parameter);
-    if (m_list.size() < shortList)
-        return;
-    if (!m_positions.isEmpty()) {
-        m_positions.insert(hash, m_list.size() - 1);
-        return;
-    }
-    for (int i = 0; i < m_list.size(); ++i)
-        m_positions.insert(parameterHash(m_list.at(i)), i);
-}
-
-void KnownParameters::appendNew(const VParameter &parameter)
-{
-    const uint hash = hashOf(parameter);
-    if (!contains(hash, parameter))
-        append(hash, parameter);
-}
-
 void KnownParameters::appendNew(const QVector<VParameter> &parameters)
 {
-    for (const VParameter &parameter : parameters)
-        appendNew(parameter);
+    for (const VParameter &parameter : parameters) {
+        if (!contains(parameter))
+            append(parameter);
+    }
 }

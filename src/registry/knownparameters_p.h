@@ -19,24 +19,17 @@ public:
     /// need not be equal to the other one, so that all are asked that were appended.
     bool contains(const VParameter &parameter) const;
 
-    void append(const VParameter &parameter);
+    void append(const VParameter &parameter) { m_list.append(parameter); }
 
-    /// Appends @p parameter unless an equal one is there.
-    void appendNew(const VParameter &parameter);
+    /// Appends each of @p parameters unless an equal one is there.
     void appendNew(const QVector<VParameter> &parameters);
 
     const QVector<VParameter> &list() const { return m_list; }
 
 private:
-    /// The hash under which @p parameter is or would be found; 0 while the list is so short that
-    /// none is needed.
-    uint hashOf(const VParameter &parameter) const;
-    bool contains(uint hash, const VParameter &parameter) const;
-    void append(uint hash, const VParameter &parameter);
-
     QVector<VParameter> m_list;
-    /// Positions in the list by the hash of the parameter there; empty while the list is short.
-    QMultiHash<uint, int> m_positions;
+    /// Positions in the list by the hash of the parameter there, as far as they were needed.
+    mutable QMultiHash<uint, int> m_positions;
 };
 
 #endif
