@@ -1,16 +1,18 @@
 // SPDX-FileCopyrightText: The Kelto developers
 // SPDX-License-Identifier: MIT
 
+// The log, the paths, the update information file and the language of a registry.
+
 #include <Kelto/AUTH_SET>
 
 #include "support/directorytest.h"
 #include "support/moduleitems.h"
+#include "support/secondregistry.h"
 #include "support/testfiles.h"
 
-#include <QDate>
 #include <QDateTime>
 #include <QLocale>
-#include <QSettings>
+#include <QRegularExpression>
 #include <QTest>
 #include <QTextCodec>
 
@@ -29,47 +31,28 @@ AUTH_SET application(const QString &name)
     return AUTH_SET(name, "1.0", modulesNamed({ "a" }));
 }
 
-/// Runs @p action within one day, so that the name of today's log file holds still.
-template <typename Action> QString withinOneDay(Action action)
+/// The messages of today's log, in the current directory, after @p action has logged within one
+/// day, so that the name of the file holds still.
+template <typename Action> QStringList messagesLoggedBy(const AUTH_SET &set, Action action)
 {
-    QDate before;
-    do {
-        before = QDate::currentDate();
-        action();
-    } while (QDate::currentDate() != before);
-    return before.toString("yyyy-MM-dd");
-}
-
-QStringList logLines(const QString &path)
-{
-    QStringList lines = QString::fromUtf8(fileContent(path)).split('\n');
-    lines.removeLast();
-    return lines;
-}
-
-QStringList messages(const QStringList &lines)
-{
-    QStringList result;
-    for (const QString &line : lines)
-        result.append(line.mid(QString("yyyy-MM-dd hh:mm:ss ").size()));
-    return result;
-}
-
-/// The lines of today's log, in the current directory, after @p action has logged.
-template <typename Action> QStringList linesLoggedBy(const AUTH_SET &set, Action action)
-{
+    QString path;
     QStringList lines;
-    withinOneDay([&] {
+    do {
+        path = set.filepath_log();
         QDir("log").removeRecursively();
         action();
-        lines = logLines(set.filepath_log());
-    });
+        lines = QString::fromUtf8(fileContent(path)).split('\n');
+    } while (set.filepath_log() != path);
+    if (lines.takeLast() != QString())
+        return { "the last line has no end" };
+    for (QString &line : lines)
+        line.remove(0, QString("yyyy-MM-dd hh:mm:ss ").size());
     return lines;
 }
 
-QString currentName()
+QString now()
 {
-    return QSettings("Config/update.ini", QSettings::IniFormat).value("Current/Name").toString();
+    return QLocale::c().toString(QDateTime::currentDateTime(), "yyyy-MM-dd hh:mm:ss");
 }
 
 } // namespace
@@ -79,288 +62,204 @@ class TestAuthSetEnvironment : public DirectoryTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void paths_data();
-    void paths();
-    void pathsFollowTheCurrentDirectory();
-    void logsOneLinePerCall();
-    void stampsLinesWithLocalTime();
-    void logsAnyText_data();
-    void logsAnyText();
-    void logsWhereTheProcessIs();
-    void keepsEarlierLines();
-    void dropsWhatCannotBeLogged_data();
-    void dropsWhatCannotBeLogged();
-    void recordsTheApplication_data();
-    void recordsTheApplication();
-    void recordsAtConstruction();
-    void recordsInUtf8();
-    void keepsOtherKeysOfTheUpdateFile();
-    void survivesAnUpdateFileThatCannotBeWritten();
-    void localeOfLanguage_data();
-    void localeOfLanguage();
-    void localeOfSystem();
-    void languageOfLocale_data();
-    void languageOfLocale();
-};
-
-void TestAuthSetEnvironment::paths_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::newRow("ordinary name") << "App";
-    QTest::newRow("the name is used as it is") << "My App: 测试";
-    QTest::newRow("empty name") << "";
-}
-
-void TestAuthSetEnvironment::paths()
-{
-    QFETCH(QString, name);
-    const AUTH_SET set = application(name);
-    QString logFile;
-    const QString today = withinOneDay([&] { logFile = set.filepath_log(); });
-    QCOMPARE(logFile, m_directory->path() + "/log/" + today + '_' + name + ".log");
-    QCOMPARE(set.filepath_update_inf(), m_directory->path() + "/Config/update.ini");
+    void paths_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("ordinary name") << "App";
+        QTest::newRow("the name is used as it is") << "My App: 测试";
+        QTest::newRow("empty name") << "";
+    }
+    void paths()
+    {
+        QFETCH(QString, name);
+        const AUTH_SET set = application(name);
+        // Paths follow the process.
+        for (int i = 0; i < 2; ++i) {
+            const QString directory = QDir::currentPath();
+            const QString before = now().left(10);
+            const QString log = set.filepath_log();
+            const QString after = now().left(10);
+            QVERIFY2(log == directory + "/log/" + before + '_' + name + ".log"
+                         || log == directory + "/log/" + after + '_' + name + ".log",
+                     qPrintable(log));
+            QCOMPARE(set.filepath_update_inf(), directory + "/Config/update.ini");
 #ifdef Q_OS_WIN
-    QCOMPARE(set.filepath_updater(), m_directory->path() + "/Update/Update.bat");
+            QCOMPARE(set.filepath_updater(), directory + "/Update/Update.bat");
 #else
-    QCOMPARE(set.filepath_updater(), m_directory->path() + "/Update/Update.sh");
+            QCOMPARE(set.filepath_updater(), directory + "/Update/Update.sh");
 #endif
-    // Asking for a path makes nothing.
-    QCOMPARE(filesIn("."), QStringList());
-}
+            // Asking for a path makes nothing.
+            QCOMPARE(filesIn("."), QStringList());
+            QVERIFY(QDir().mkdir("other") && QDir::setCurrent("other"));
+        }
+    }
 
-void TestAuthSetEnvironment::pathsFollowTheCurrentDirectory()
-{
-    const AUTH_SET set = application("App");
-    QVERIFY(QDir().mkdir("other"));
-    QVERIFY(QDir::setCurrent("other"));
-    QVERIFY(set.filepath_updater().startsWith(QDir::currentPath() + '/'));
-    QVERIFY(QDir::currentPath().endsWith("/other"));
-}
+    void logsOneLinePerCall()
+    {
+        const AUTH_SET set = application("App");
+        const QStringList messages = messagesLoggedBy(set, [&] {
+            QVERIFY(writeFile(set.filepath_log(), "2000-01-01 00:00:00 from another run\n"));
+            set.log("first");
+            set.log("second");
+        });
+        QCOMPARE(messages, (QStringList { "from another run", "first", "second" }));
+        QCOMPARE(filesIn("log").size(), 1);
+    }
 
-void TestAuthSetEnvironment::logsOneLinePerCall()
-{
-    const AUTH_SET set = application("App");
-    const QString today = withinOneDay([&] {
-        QDir("log").removeRecursively();
-        set.log("first");
-        set.log("second");
-    });
-    QCOMPARE(QDir("log").entryList(QDir::Files), QStringList { today + "_App.log" });
-    QCOMPARE(messages(logLines("log/" + today + "_App.log")), (QStringList { "first", "second" }));
-}
+    void stampsLinesWithLocalTime()
+    {
+        const AUTH_SET set = application("App");
+        // In another second each time.
+        for (int i = 0; i < 2; ++i) {
+            const QString before = now();
+            QTRY_VERIFY(now() != before);
+            const QString earliest = now();
+            messagesLoggedBy(set, [&] { set.log("message"); });
+            const QString line = QString::fromUtf8(fileContent(set.filepath_log()));
+            const QString stamp = line.left(earliest.size());
+            QVERIFY2(earliest <= stamp && stamp <= now(), qPrintable(line));
+            QCOMPARE(line.mid(earliest.size()), QString(" message\n"));
+        }
+    }
 
-void TestAuthSetEnvironment::stampsLinesWithLocalTime()
-{
-    const AUTH_SET set = application("App");
-    const QString format = "yyyy-MM-dd hh:mm:ss";
-    QString before;
-    QString after;
-    const QStringList lines = linesLoggedBy(set, [&] {
-        before = QDateTime::currentDateTime().toString(format);
-        set.log("message");
-        after = QDateTime::currentDateTime().toString(format);
-    });
-    const QString line = lines.value(0);
-    const QString stamp = line.left(format.size());
-    QVERIFY2(before <= stamp && stamp <= after, qPrintable(line));
-    QVERIFY(QDateTime::fromString(stamp, format).isValid());
-    QCOMPARE(line.mid(format.size()), QString(" message"));
-}
+    void writesDatesInAsciiDigits_data()
+    {
+        QTest::addColumn<QString>("locale");
+        for (const char *locale : { "ar_EG", "fa_IR", "mr_IN", "bn_BD" })
+            QTest::newRow(locale) << QString(locale) + ".UTF-8";
+    }
+    void writesDatesInAsciiDigits()
+    {
+        QFETCH(QString, locale);
+        const SecondRegistry other({ "--application", "App", "--log", "text ٣" }, locale);
+        QCOMPARE(other.messages(), QStringList());
+        QCOMPARE(filesIn("log").size(), 1);
+        const QString name = filesIn("log").constFirst();
+        const QString line = QString::fromUtf8(fileContent("log/" + name));
+        const QString date = "[0-9]{4}-[0-9]{2}-[0-9]{2}";
+        QVERIFY2(QRegularExpression('^' + date + "_App\\.log$").match(name).hasMatch(),
+                 qPrintable(name));
+        QVERIFY2(QRegularExpression('^' + date + " [0-9]{2}:[0-9]{2}:[0-9]{2} text ٣\n$")
+                     .match(line)
+                     .hasMatch(),
+                 qPrintable(line));
+    }
 
-void TestAuthSetEnvironment::logsAnyText_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::newRow("ordinary") << "Project opened";
-    QTest::newRow("in UTF-8") << "已打开 Ω";
-    QTest::newRow("spaces are kept") << "  a  b ";
-    QTest::newRow("empty") << "";
-}
+    void logsAnyText_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::newRow("in UTF-8") << "已打开 Ω 😀";
+        QTest::newRow("spaces are kept") << "  a  b ";
+        QTest::newRow("empty") << "";
+        QTest::newRow("long") << QString(100000, 'x');
+    }
+    void logsAnyText()
+    {
+        QFETCH(QString, text);
+        const AUTH_SET set = application("App");
+        // The log is UTF-8 whatever the locale says.
+        QTextCodec *codec = QTextCodec::codecForLocale();
+        QTextCodec::setCodecForLocale(QTextCodec::codecForName("ISO-8859-1"));
+        const QStringList messages = messagesLoggedBy(set, [&] { set.log(text); });
+        QTextCodec::setCodecForLocale(codec);
+        QCOMPARE(messages, QStringList { text });
+    }
 
-void TestAuthSetEnvironment::logsAnyText()
-{
-    QFETCH(QString, text);
-    const AUTH_SET set = application("App");
-    // The log is UTF-8 whatever the locale says.
-    QTextCodec *codec = QTextCodec::codecForLocale();
-    QTextCodec::setCodecForLocale(QTextCodec::codecForName("ISO-8859-1"));
-    const QStringList lines = linesLoggedBy(set, [&] { set.log(text); });
-    QTextCodec::setCodecForLocale(codec);
-    QCOMPARE(messages(lines), QStringList { text });
-}
+    void logsWhereTheProcessIs()
+    {
+        const AUTH_SET set = application("App");
+        QCOMPARE(messagesLoggedBy(set, [&] { set.log("here"); }), QStringList { "here" });
+        QVERIFY(QDir().mkdir("other"));
+        QVERIFY(QDir::setCurrent("other"));
+        QCOMPARE(messagesLoggedBy(set, [&] { set.log("there"); }), QStringList { "there" });
+        QVERIFY(fileContent("../log/" + filesIn("../log").constFirst()).endsWith(" here\n"));
+    }
 
-void TestAuthSetEnvironment::logsWhereTheProcessIs()
-{
-    const AUTH_SET set = application("App");
-    QStringList first = linesLoggedBy(set, [&] { set.log("here"); });
-    QVERIFY(QDir().mkdir("other"));
-    QVERIFY(QDir::setCurrent("other"));
-    const QStringList second = linesLoggedBy(set, [&] { set.log("there"); });
-    QCOMPARE(messages(first), QStringList { "here" });
-    QCOMPARE(messages(second), QStringList { "there" });
-    QCOMPARE(QDir("../log").entryList(QDir::Files).size(), 1);
-}
-
-void TestAuthSetEnvironment::keepsEarlierLines()
-{
-    const AUTH_SET set = application("App");
-    const QStringList lines = linesLoggedBy(set, [&] {
-        QVERIFY(writeFile(set.filepath_log(), "2000-01-01 00:00:00 from another run\n"));
-        set.log("from this run");
-    });
-    QCOMPARE(messages(lines), (QStringList { "from another run", "from this run" }));
-}
-
-void TestAuthSetEnvironment::dropsWhatCannotBeLogged_data()
-{
-    QTest::addColumn<QString>("obstacle");
-    QTest::newRow("a file where the directory is to be") << "log";
-    QTest::newRow("a directory where the file is to be") << "log/file/";
-    QTest::newRow("a name that leads to a missing directory") << "name";
-}
-
-void TestAuthSetEnvironment::dropsWhatCannotBeLogged()
-{
-    QFETCH(QString, obstacle);
-    const AUTH_SET set = application(obstacle == "name" ? "a/b" : "App");
-    if (obstacle == "name") {
-        set.log("lost");
+    void dropsWhatCannotBeLogged()
+    {
+        application("a/b").log("a name that leads to a missing directory");
         QCOMPARE(filesIn("log"), QStringList());
-    } else if (obstacle == "log") {
-        QVERIFY(writeFile("log", "not a directory"));
-        set.log("lost");
-        QCOMPARE(fileContent("log"), QByteArray("not a directory"));
-    } else {
+        const AUTH_SET set = application("App");
         QVERIFY(QDir().mkpath(set.filepath_log()));
-        set.log("lost");
-        QCOMPARE(QFileInfo(set.filepath_log()).isDir(), true);
-        QCOMPARE(QDir(set.filepath_log()).isEmpty(), true);
+        set.log("a directory where the file is to be");
+        QVERIFY(QDir(set.filepath_log()).isEmpty());
+        QVERIFY(QDir("log").removeRecursively());
+        QVERIFY(writeFile("log", "not a directory"));
+        set.log("a file where the directory is to be");
+        QCOMPARE(fileContent("log"), QByteArray("not a directory"));
     }
-}
 
-void TestAuthSetEnvironment::recordsTheApplication_data()
-{
-    QTest::addColumn<QString>("application");
-    QTest::addColumn<QStringList>("modules");
-    QTest::addColumn<bool>("written");
-
-    QTest::newRow("with an Update module") << "App" << QStringList { "a", "Update" } << true;
-    QTest::newRow("with two of them") << "App" << QStringList { "Update", "Update" } << true;
-    QTest::newRow("without") << "App" << QStringList { "a" } << false;
-    QTest::newRow("the module's name in another case")
-        << "App" << QStringList { "update" } << false;
-    QTest::newRow("only the plain name counts") << "App" << QStringList { "Upd" } << false;
-    QTest::newRow("Member") << "Member" << QStringList { "Update" } << false;
-    QTest::newRow("Membership") << "Membership" << QStringList { "Update" } << false;
-    QTest::newRow("an empty name") << "" << QStringList { "Update" } << true;
-    QTest::newRow("MEMBER-SHIP_") << "MEMBER-SHIP_" << QStringList { "Update" } << false;
-    QTest::newRow("General") << "General" << QStringList { "Update" } << false;
-    QTest::newRow("general-_") << "general-_" << QStringList { "Update" } << false;
-    QTest::newRow("a name that only begins like one")
-        << "Generals" << QStringList { "Update" } << true;
-    QTest::newRow("spaces count") << "Gene ral" << QStringList { "Update" } << true;
-}
-
-void TestAuthSetEnvironment::recordsTheApplication()
-{
-    QFETCH(QString, application);
-    QFETCH(QStringList, modules);
-    QFETCH(bool, written);
-    QVector<AUTH_INF> items = modulesNamed(modules);
-    for (AUTH_INF &item : items) {
-        if (item.name == "Upd")
-            item.name_tr = "Update";
+    void recordsTheApplication_data()
+    {
+        QTest::addColumn<QString>("application");
+        QTest::addColumn<QStringList>("modules");
+        QTest::addColumn<bool>("written");
+        const auto row = [](const char *name, const char *application, const QStringList &modules,
+                            bool written) {
+            QTest::newRow(name) << QString(application) << modules << written;
+        };
+        row("with two Update modules", "App", { "a", "Update", "Update" }, true);
+        row("without a module of that name", "App", { "a" }, false);
+        row("the module's name in another case", "App", { "update" }, false);
+        row("only the plain name counts", "App", { "translated" }, false);
+        row("an empty name", "", { "Update" }, true);
+        row("MEMBER-SHIP_", "MEMBER-SHIP_", { "Update" }, false);
+        row("Member", "Member", { "Update" }, false);
+        row("General", "General", { "Update" }, false);
+        row("general-_", "general-_", { "Update" }, false);
+        row("a name that only begins like one", "Generals", { "Update" }, true);
+        row("spaces count", "Gene ral", { "Update" }, true);
     }
-    const AUTH_SET set(application, "2.5", items);
-    QDir("Config").removeRecursively();
-    set.write_update();
+    void recordsTheApplication()
+    {
+        QFETCH(QString, application);
+        QFETCH(QStringList, modules);
+        QFETCH(bool, written);
+        QVector<AUTH_INF> items = modulesNamed(modules);
+        items.last().name_tr = "Update";
+        const QByteArray expected = "[Current]\nName=" + application.toUtf8() + "\nVersion=2.5\n";
+        const AUTH_SET set(application, "2.5", items);
+        QCOMPARE(fileContent("Config/update.ini"), written ? expected : QByteArray());
+        QDir("Config").removeRecursively();
+        set.write_update();
+        QCOMPARE(fileContent("Config/update.ini"), written ? expected : QByteArray());
+        QCOMPARE(filesIn("."), written ? QStringList { "Config" } : QStringList());
+    }
 
-    QCOMPARE(QFile::exists("Config/update.ini"), written);
-    QSettings file("Config/update.ini", QSettings::IniFormat);
-    QCOMPARE(file.allKeys(),
-             written ? QStringList({ "Current/Name", "Current/Version" }) : QStringList());
-    QCOMPARE(file.value("Current/Name").toString(), written ? application : QString());
-    QCOMPARE(file.value("Current/Version").toString(), written ? QString("2.5") : QString());
-}
+    void keepsOtherKeysOfTheUpdateFile()
+    {
+        QVERIFY(writeFile("Config/update.ini",
+                          "[Current]\nName=Old\nServer=here\n\n[Other]\nkey=value\n"));
+        AUTH_SET set("应用", "3.0", modulesNamed({ "a" }));
+        // A module that is added later is not looked for until the host asks.
+        set.append(modulesNamed({ "Update" }));
+        QVERIFY(fileContent("Config/update.ini").contains("Name=Old"));
+        set.write_update();
+        QCOMPARE(fileContent("Config/update.ini"),
+                 QByteArray("[Current]\nName=应用\nServer=here\nVersion=3.0\n\n"
+                            "[Other]\nkey=value\n"));
+    }
 
-void TestAuthSetEnvironment::recordsAtConstruction()
-{
-    AUTH_SET set("App", "1.0", modulesNamed({ "a" }));
-    QCOMPARE(QFile::exists("Config/update.ini"), false);
-    // A module that is added later is not looked for until the host asks.
-    set.append(modulesNamed({ "Update" }));
-    QCOMPARE(QFile::exists("Config/update.ini"), false);
-    set.write_update();
-    QCOMPARE(currentName(), QString("App"));
+    void survivesAnUpdateFileThatCannotBeWritten()
+    {
+        QVERIFY(QDir().mkpath("Config/update.ini"));
+        const AUTH_SET set("App", "3.0", modulesNamed({ "Update" }));
+        QCOMPARE(set.model_count(), 1);
+        QCOMPARE(QFileInfo("Config/update.ini").isDir(), true);
+    }
 
-    const AUTH_SET other("Other", "1.0", modulesNamed({ "Update" }));
-    QCOMPARE(currentName(), QString("Other"));
-}
-
-void TestAuthSetEnvironment::recordsInUtf8()
-{
-    const AUTH_SET set("应用", "1.0", modulesNamed({ "Update" }));
-    QVERIFY2(fileContent("Config/update.ini").contains(QByteArray("Name=应用")),
-             fileContent("Config/update.ini").constData());
-}
-
-void TestAuthSetEnvironment::keepsOtherKeysOfTheUpdateFile()
-{
-    QVERIFY(
-        writeFile("Config/update.ini", "[Current]\nName=Old\nServer=here\n\n[Other]\nkey=value\n"));
-    const AUTH_SET set("App", "3.0", modulesNamed({ "Update" }));
-    QSettings settings("Config/update.ini", QSettings::IniFormat);
-    QCOMPARE(settings.value("Current/Name").toString(), QString("App"));
-    QCOMPARE(settings.value("Current/Version").toString(), QString("3.0"));
-    QCOMPARE(settings.value("Current/Server").toString(), QString("here"));
-    QCOMPARE(settings.value("Other/key").toString(), QString("value"));
-}
-
-void TestAuthSetEnvironment::survivesAnUpdateFileThatCannotBeWritten()
-{
-    QVERIFY(QDir().mkpath("Config/update.ini"));
-    const AUTH_SET set("App", "3.0", modulesNamed({ "Update" }));
-    QCOMPARE(set.model_count(), 1);
-    QCOMPARE(QFileInfo("Config/update.ini").isDir(), true);
-}
-
-void TestAuthSetEnvironment::localeOfLanguage_data()
-{
-    QTest::addColumn<int>("id");
-    QTest::addColumn<QString>("expected");
-    QTest::newRow("1 is Chinese") << 1 << "zh_CN";
-    QTest::newRow("0 is English") << 0 << "en";
-    QTest::newRow("2 is English") << 2 << "en";
-    QTest::newRow("7 is English") << 7 << "en";
-    QTest::newRow("-1 is English") << -1 << "en";
-}
-
-void TestAuthSetEnvironment::localeOfLanguage()
-{
-    QFETCH(int, id);
-    QTEST(AUTH_SET().language_local(id), "expected");
-}
-
-void TestAuthSetEnvironment::localeOfSystem()
-{
-    QCOMPARE(AUTH_SET().language_local(), QLocale::system().name());
-}
-
-void TestAuthSetEnvironment::languageOfLocale_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<int>("expected");
-    QTest::newRow("Chinese") << "zh_CN" << 1;
-    QTest::newRow("English") << "en" << 0;
-    QTest::newRow("case matters") << "zh_cn" << 0;
-    QTest::newRow("unknown") << "fr" << 0;
-    QTest::newRow("empty") << "" << 0;
-}
-
-void TestAuthSetEnvironment::languageOfLocale()
-{
-    QFETCH(QString, name);
-    QTEST(AUTH_SET().language_ID(name), "expected");
-}
+    void mapsLanguages()
+    {
+        const AUTH_SET set;
+        QCOMPARE(set.language_local(1), QString("zh_CN"));
+        for (int id : { 0, 2, 7, -1 })
+            QCOMPARE(set.language_local(id), QString("en"));
+        QCOMPARE(set.language_ID("zh_CN"), 1);
+        for (const char *name : { "en", "zh_cn", "fr", "" })
+            QCOMPARE(set.language_ID(name), 0);
+        QCOMPARE(set.language_local(), QLocale::system().name());
+    }
+};
 
 QTEST_GUILESS_MAIN(TestAuthSetEnvironment)
 #include "tst_auth_set_environment.moc"

@@ -79,54 +79,6 @@ inline Modules withSharedNames()
     };
 }
 
-/// The translated name of group G is the plain name of the other group: what is looked up as H_tr
-/// is group H, and the name H leads to group G.
-inline Modules withCrossedGroups()
-{
-    AUTH_INF first = single("P", "G", { entry("of G", "s", "T") });
-    first.group_tr = "H";
-    first.inner_mode_nameList[0] = "m";
-    AUTH_INF second = single("Q", "H", { entry("of H") });
-    second.inner_mode_nameList[0] = "m";
-    return { first, second };
-}
-
-/// The translated name of mode a is the plain name of the other mode.
-inline Modules withCrossedModes()
-{
-    AUTH_INF item
-        = moduleWith("P", "G",
-                     { { "a", { entry("of a", "s", "T") } }, { "b", { entry("of b") } } });
-    item.inner_mode_nameList_tr[0] = "b";
-    return { item };
-}
-
-/// A group and a mode without names, and others with them.
-inline Modules withNameless()
-{
-    return { moduleWith("P", "", { { "", { entry("x") } } }),
-             moduleWith("Q", "G", { { "", { entry("y") } }, { "a", { entry("z") } } }) };
-}
-
-/// Three lists of names and parameters that disagree with the inner mode count in every way.
-inline Modules withListsThatDisagree()
-{
-    AUTH_INF moreNames
-        = moduleWith("P", "more names", { { "a", { entry("x") } }, { "b", { entry("y") } } });
-    moreNames.inner_mode_count = 1;
-    AUTH_INF fewerNames
-        = moduleWith("Q", "fewer names", { { "a", { entry("x") } }, { "b", { entry("y") } } });
-    fewerNames.inner_mode_nameList.removeLast();
-    AUTH_INF fewerEntries
-        = moduleWith("R", "fewer entries", { { "a", { entry("x") } }, { "b", { entry("y") } } });
-    fewerEntries.inner_mode_parameterList.removeLast();
-    AUTH_INF negative = single("S", "negative", { entry("x") });
-    negative.inner_mode_count = -2;
-    AUTH_INF none = single("T", "none", { entry("x") });
-    none.inner_mode_count = 0;
-    return { moreNames, fewerNames, fewerEntries, negative, none };
-}
-
 /// One group per list of entries, each with one mode.
 inline Modules groupsOf(const QVector<ParameterEntries> &lists)
 {

@@ -18,9 +18,14 @@
 class SecondRegistry
 {
 public:
-    explicit SecondRegistry(const QStringList &arguments)
+    explicit SecondRegistry(const QStringList &arguments, const QString &locale = QString())
     {
         QProcess process;
+        if (!locale.isEmpty()) {
+            QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+            environment.insert(QStringLiteral("LC_ALL"), locale);
+            process.setProcessEnvironment(environment);
+        }
         process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
         process.start(QStringLiteral(KELTO_SETTINGSREADER), arguments);
         const bool isDone = process.waitForFinished(60000)

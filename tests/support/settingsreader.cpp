@@ -5,7 +5,7 @@
 // JSON. A process of its own finds the values of others in files only, and as another user it does
 // not find all of these.
 //   settingsreader [--as-user ID] [--application NAME] [--set KEY=VALUE]... [--save PATH]
-//                  [--load PATH] KEY...
+//                  [--load PATH] [--log TEXT] KEY...
 
 #include <Kelto/AUTH_SET>
 
@@ -48,7 +48,8 @@ int main(int argc, char *argv[])
                         { "application", "The name of the application.", "name" },
                         { "set", "Store a set value.", "key=value" },
                         { "save", "Save the value \"saved\" to this file.", "path" },
-                        { "load", "Load this file beside a value \"held\".", "path" } });
+                        { "load", "Load this file beside a value \"held\".", "path" },
+                        { "log", "Write a line to the log.", "text" } });
     parser.process(application);
     if (!becomeUser(parser.value("as-user")))
         return 3;
@@ -57,6 +58,8 @@ int main(int argc, char *argv[])
     const QStringList assignments = parser.values("set");
     for (const QString &assignment : assignments)
         set.setValueInSet(assignment.section('=', 0, 0), assignment.section('=', 1));
+    if (parser.isSet("log"))
+        set.log(parser.value("log"));
     Entries loaded { { "held", "old" } };
     const QJsonArray results = saveAndLoad(parser, set, &loaded);
     Entries values;
