@@ -6,8 +6,6 @@
 #include "core/typedtext_p.h"
 
 #include <algorithm>
-#include <memory_resource>
-#include <unordered_set>
 #include <utility>
 
 namespace {
@@ -23,11 +21,6 @@ struct HashedKey
     {
         return hash == other.hash && key.text() == other.key.text();
     }
-};
-
-struct KeyHash
-{
-    std::size_t operator()(const HashedKey &key) const { return key.hash; }
 };
 
 bool hasUnsafeElement(const QStringList &elements)
@@ -129,12 +122,20 @@ private:
 
     void findDuplicates()
     {
-        std::pmr::monotonic_buffer_resource memory;
-        std::pmr::unordered_set<HashedKey, KeyHash> firsts(m_keys.size(), &memory);
+        // A table of its own, in which a key goes to the next free place: a std::unordered_set
+        // takes longer than all the rest.
+        std::size_t size = 1;
+        while (size < 2 * m_keys.size())
+            size *= 2;
+        std::vector<const HashedKey *> firsts(size);
         for (const HashedKey &key : m_keys) {
-            const auto [first, isNew] = firsts.insert(key);
-            if (!isNew)
-                m_findings.push_back({ IniProblem::DuplicateKey, key.at, first->at });
+            std::size_t place = key.hash % size;
+            while (firsts[place] && !(*firsts[place] == key))
+                place = (place + 1) % size;
+            if (firsts[place])
+                m_findings.push_back({ IniProblem::DuplicateKey, key.at, firsts[place]->at });
+            else
+                firsts[place] = &key;
         }
     }
 
@@ -147,11 +148,11 @@ private:
         for (const Finding &finding : m_findings) {
             if (finding.other)
                 others.emplace_back(finding.other, problems.size());
-            problems.append({ finding.kind, m_reader.positionOf(finding.at) });
+            problems.append({ finding.kind, m_reader.positionAt(finding.at) });
         }
         std::sort(others.begin(), others.end());
         for (const auto &[other, index] : others)
-            problems[index].otherLine = m_reader.positionOf(other).line;
+            problems[index].otherLine = m_reader.positionAt(other).line;
         return problems;
     }
 

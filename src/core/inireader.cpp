@@ -48,7 +48,8 @@ IniReader::IniReader(const QByteArray &bytes)
 
 bool IniReader::next()
 {
-    m_at = std::find_if_not(m_at, m_end, isSpace);
+    while (m_at < m_end && isSpace(*m_at))
+        ++m_at;
     m_line = IniLine();
     if (m_at == m_end)
         return false;
@@ -105,7 +106,7 @@ void IniReader::enterSection()
     m_sectionHash = SettingsKey::hashOfSection(m_section);
 }
 
-IniPosition IniReader::positionOf(const char *place)
+IniPosition IniReader::positionAt(const char *place)
 {
     if (place < m_counted) {
         m_counted = m_begin;

@@ -48,7 +48,7 @@ public:
     quint64 keyHash() const { return key().hash(m_sectionHash); }
 
     /// Where @p place in the bytes is. Cheap when it is behind the place that was asked for last.
-    IniPosition positionOf(const char *place);
+    IniPosition positionAt(const char *place);
 
 private:
     void takeLine();

@@ -52,7 +52,7 @@ QStringList linesIn(const QByteArray &bytes)
         const QString text = QString::fromUtf8(line.text.data(), int(line.text.size()));
         const QString what
             = isEntry ? reader.key().text() + '|' + elementsOfValue(line.value).join('|') : text;
-        const IniPosition position = reader.positionOf(line.text.data());
+        const IniPosition position = reader.positionAt(line.text.data());
         lines.append(
             QString("%1:%2 %3 ").arg(position.line).arg(position.column).arg(kinds.at(line.kind))
             + what);
