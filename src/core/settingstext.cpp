@@ -283,6 +283,9 @@ const char *firstInvalidByte(std::string_view text)
     // Something in front keeps a byte order mark from being dropped.
     const QByteArray bytes = ' ' + QByteArray(text.data(), static_cast<int>(text.size()));
     const QByteArray again = QString::fromUtf8(bytes.constData(), bytes.size()).toUtf8();
-    const auto end = std::mismatch(bytes.cbegin(), bytes.cend(), again.cbegin(), again.cend());
-    return text.data() + (end.first - bytes.cbegin()) - 1;
+    auto [at, replaced] = std::mismatch(bytes.cbegin(), bytes.cend(), again.cbegin(), again.cend());
+    // The bytes may be those that the replacement character begins with.
+    for (; (*replaced & 0xc0) == 0x80; --replaced)
+        --at;
+    return text.data() + (at - bytes.cbegin()) - 1;
 }

@@ -201,12 +201,16 @@ private Q_SLOTS:
             { "3:1 duplicate of 1" });
         row("a key without a section, in several ways", "b=0\n[General]\nb=1\n[GENERAL]\nb=2\n",
             { "3:1 duplicate of 1", "5:1 duplicate of 1" });
-        row("a key in a section and in one with spaces", "[ a ]\nb=0\n[a]\nb=1\n",
+        row("a key in a section called general and with its name",
+            "general\\b=0\n[%general]\nb=1\n", { "3:1 duplicate of 1" });
+        row("a key in a section and in one with spaces", "[ \va\f ]\nb=0\n[a]\nb=1\n",
             { "4:1 duplicate of 2" });
         row("keys that differ in case are two", "a=1\nA=2\n", {});
         row("a key in a section called General is another", "b=0\n[%General]\nb=1\n", {});
-        row("keys that a slash begins or ends", "[/c]\nd=1\n[a]\nb%2F=2\n\\e=3\n[]\nf=4\n",
-            { "2:1 unreadable key", "4:1 unreadable key", "7:1 unreadable key" });
+        row("keys that a slash begins or ends",
+            "[/c]\nd=1\n[a]\nb%2F=2\n\\e=3\n[]\nf=4\n[a]\ng%2f=5\n",
+            { "2:1 unreadable key", "4:1 unreadable key", "7:1 unreadable key",
+              "9:1 unreadable key" });
         row("a slash at the end of a key without a section", "a%2f=1\n", {});
         row("a byte order mark in front of a key",
             "\xef\xbb\xbf"
@@ -217,9 +221,12 @@ private Q_SLOTS:
         row("escapes", "a=\\q\nb=1\\x\nc=\\x100411\nd=x\\",
             { "1:3 escape", "2:4 escape", "3:3 escape", "4:4 escape" });
         row("a path with backslashes", "a=C:\\quick\\path\n", { "1:5 escape", "1:11 escape" });
-        row("half of a character, escaped", "a=\\xd83d\n", { "1:3 dropped character" });
+        row("half of a character, escaped", "a=\\xd83d\nb=\\xde00\n",
+            { "1:3 dropped character", "2:3 dropped character" });
         row("bytes that are not UTF-8", "a=1\nb=\xe5\x80\xbc \xe4\xf6\n", { "2:5 not UTF-8" });
         row("UTF-8 that is cut off", "a=\xe5\x80", { "1:3 not UTF-8" });
+        row("bytes that a replacement character begins with", "a=x\xef\nb=\xef\xbf\nc=\xef\xbf",
+            { "1:4 not UTF-8", "2:3 not UTF-8", "3:3 not UTF-8" });
         row("bytes that are not UTF-8 in a key", "\xe4=1\n", { "1:1 not UTF-8" });
         row("characters of two units", "a=\xe5\x80\xbc\xf0\x9f\x98\x80\n",
             { "1:4 dropped character" });
@@ -227,9 +234,10 @@ private Q_SLOTS:
             { "1:4 dropped character", "2:6 dropped character" });
         row("text behind a quote", "a=\"1\"2\nb=\"1\"\\t\n",
             { "1:6 dropped character", "2:6 dropped character" });
+        row("quotes behind a quoted text", "a=\"1\"\"2\"\n", { "1:6 dropped character" });
         row("a quote that is not closed", "a=\"1\nb=2\n", { "3:1 dropped character" });
         row("values that are damaged",
-            "a=@Point(x y)\nb=1, @Variant(junk)\nc=@ByteArray(\xe5\x80\xbc)\n"
+            "a=@Point(1 y)\nb=1, @Variant(junk)\nc=@ByteArray(\xe5\x80\xbc)\n"
             "d=@Variant()\ne=@DateTime(\\0)\nf=@Variant(\\0\\0\\0\\x1\\x1\\x1)\n",
             { "1:3 damaged", "2:3 damaged", "3:3 damaged", "4:3 damaged", "5:3 damaged",
               "6:3 damaged" });
@@ -248,6 +256,18 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, bytes);
         QTEST(problemsIn(bytes), "problems");
+    }
+
+    void findsDuplicatesAmongManyKeys()
+    {
+        QByteArray bytes;
+        QStringList problems;
+        for (int i = 1; i <= 300; ++i) {
+            bytes += "key" + QByteArray::number(i % 200) + "=1\n";
+            if (i > 200)
+                problems.append(QString("%1:1 duplicate of %2").arg(i).arg(i - 200));
+        }
+        QCOMPARE(problemsIn(bytes), problems);
     }
 
     void dividesLines()
@@ -285,6 +305,15 @@ private Q_SLOTS:
         QVERIFY2(values > 300, qPrintable(QString::number(values)));
     }
 
+    void agreesWithQSettingsOnBlanks()
+    {
+        int values = 0;
+        QCOMPARE(disagreement("a=1\\t \\x20 , 2\\t\nb= \\t \nc=\"x \" \\x20 \nd=x\\t, y  \n",
+                              &values),
+                 QString());
+        QCOMPARE(values, 4);
+    }
+
     /// As they are, and with some of their bytes changed.
     void agreesWithQSettingsOnFilesOfTheSystem()
     {
@@ -309,8 +338,8 @@ private Q_SLOTS:
         for (int i = 0; i < 2000; ++i) {
             QByteArray bytes = hostileBytes(&dice);
             if (dice.chance(50))
-                bytes += "\nv=\"x\", " + QByteArray(dice.chance(50) ? "@" : "\\x40")
-                    + "Variant(\\0\\0\\0G" + (dice.chance(50) ? "\\x7f" : "\\0") + "\\0\\0\\0)\n";
+                bytes += "\nv=\"x\", " + dice.oneOf({ "@", "\\x40", "\\100" }).toLatin1()
+                    + "Variant(\\0\\0\\0G" + (dice.chance(50) ? "\\177" : "\\0") + "\\0\\0\\0)\n";
             const QVector<IniProblem> problems = iniProblems(bytes);
             const bool isListed = std::any_of(problems.cbegin(), problems.cend(), [](auto problem) {
                 return problem.kind == IniProblem::UnsafeValue;
@@ -336,6 +365,7 @@ private:
         row("no line end at the end", "[a]\nb=1");
         row("line ends of other systems", "[a]\r\nb=1\r\nc=2\rd=3\r");
         row("a byte order mark in front of a header", "\xef\xbb\xbf[a]\nb=1\n");
+        row("a byte order mark and white space in front of one", "\xef\xbb\xbf\n [a]\nb=1\n");
         row("a section in several places", "[a]\nb=1\n[c]\nd=1\n[a]\ne=1\n");
         row("keys and values in UTF-8", "[组]\n名=值 Ω, é\n");
         row("quotes around elements", "a=\"x;y\"\nb=\"x,y\" , \"\", z\nc=\"a=\\\"b\\\"\"\n");
@@ -354,7 +384,7 @@ private:
         row("typed values",
             "a=@ByteArray(x\\0\\xff)\nb=@Point(1 -2)\nc=@Size(3 4)\nd=@Rect(1 2 3 4)\n"
             "e=@Variant(\\0\\0\\0\\x1a@\\0\\0\\0\\0\\0\\0\\0@\\b\\0\\0\\0\\0\\0\\0)\n");
-        row("per cent signs that escape nothing", "a%zz=1\n100%=2\n%U12=3\n");
+        row("per cent signs that escape nothing", "a%zz=1\n100%=2\n%U12=3\n%u0062=4\nb=5\n");
     }
 };
 
