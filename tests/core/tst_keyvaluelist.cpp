@@ -272,6 +272,17 @@ private Q_SLOTS:
             QCOMPARE(list.indexOf(entry.first), plainIndexOf(entries, entry.first));
     }
 
+    void findsKeysThatWereReplaced()
+    {
+        KeyValueList list = indexedList();
+        list.valuePointer(0);
+        Entries entries = fiftyEntries();
+        entries[49].first = "other";
+        list.replace(entries);
+        QCOMPARE(list.indexOf("key 49"), -1);
+        QCOMPARE(list.indexOf("other"), 49);
+    }
+
     void isEmptyAfterTake()
     {
         KeyValueList list = indexedList();

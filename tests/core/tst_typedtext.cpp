@@ -203,6 +203,9 @@ QVector<QPair<const char *, QVariant>> drawnValues()
         { "no image", QImage() },
         { "a brush", QBrush(Qt::green, Qt::Dense3Pattern) },
         { "gradients", QVariantList { QBrush(gradient), QBrush(QConicalGradient(1, 2, 3)) } },
+        { "brushes, pens and regions behind each other",
+          QVariantList { QBrush(QConicalGradient(1, 2, 3)), pen, QPalette(Qt::red, Qt::blue),
+                         QRegion(1, 2, 3, 4), pen, 1 } },
         { "a pen", pen },
         { "a palette", QPalette(Qt::red, Qt::blue) },
         { "a polygon", QPolygon(QVector<QPoint> { { 1, 2 }, { 3, 4 } }) },
@@ -235,7 +238,8 @@ QVector<QPair<const char *, QVariant>> windowValues()
         { "a cursor", QCursor(Qt::WaitCursor) },
         { "a cursor of pixels", QCursor(pixmap, 1, 1) },
         { "a cursor of bits", QCursor(bitmap, bitmap) },
-        { "pixels in lists", QVariantList { 1, QVariantMap { { "a", pixmap } } } },
+        { "pixels in lists",
+          QVariantList { QCursor(bitmap, bitmap), QVariantMap { { "a", pixmap } } } },
     };
 }
 
@@ -315,21 +319,32 @@ private Q_SLOTS:
         hex("a polygon in a map", "00000008000000010000000200610000004700ffffff");
         hex("a brush with a count", "000000420f00ffff0000000000000000000000000fffffff");
         hex("a brush that is cut off", "000000420f00ff");
+        hex("a conical brush with a count", "000000421100ffff0000000000000000000000000fffffff");
         hex("a palette", "000000441000000006dce901d7c762d3a122215b47ffb740");
         hex("a pen with a count",
             "0000004d5240000000000000000f00ffff0000000000000000000000000fffffff");
         hex("a region with commands", "000000480000000800000003282c6378b9ab8ddc60db9f26af6f623c");
         hex("a region with a count",
             "000000480000000b0000000a190000010000000000000000000000040000f004");
+        row("a region of another size",
+            number(72) + number(8 + 16) + number(10) + number(2) + QByteArray(16, '\0'));
+        row("a region of too many rectangles",
+            number(72) + number(8 + 16 * 10001) + number(10) + number(10001)
+                + QByteArray(16 * 10001, '\0'));
         hex("a format with a polygon", "0000004f00000002000000010000000100000047ffffff");
         hex("an image of another format", "0000004600000001424d460000000000000036000000280000");
         hex("an image of a senseless size",
             "000000460000000189504e470d0a1a0a0000000d494844520001000000010000080300000061f857bb"
             "0000000049454e44ae426082");
+        QImage large(8193, 8193, QImage::Format_Mono);
+        large.fill(0);
+        row("an image of too many pixels", serialised(large, QDataStream::Qt_4_0));
         hex("an image that is cut off", "000000460000000189504e470d0a1a0a0000000d4948");
         hex("a type that no version knows", "0000005a00000000");
         row("values in values", number(0x8a).repeated(5000));
         row("lists in lists", QByteArray(number(9) + number(1)).repeated(5000));
+        row("lists one level too deep",
+            QByteArray(number(9) + number(1)).repeated(1001) + number(2) + number(5));
         row("maps in maps",
             QByteArray(number(8) + number(1) + number(2) + QByteArray(2, 'k')).repeated(5000));
         row("hashes in hashes", QByteArray(number(28) + number(1) + number(0)).repeated(5000));
@@ -344,6 +359,12 @@ private Q_SLOTS:
                          QByteArray("\0\0\0\x10\0\0oK\0\xff\0\xff\xd5\x1\0\x8b\xff\xffZ", 19));
         QTest::newRow("lists in lists that are a time")
             << typedText("@DateTime(", QByteArray(number(9) + '\0' + number(1)).repeated(5000));
+        if (hasWindows()) {
+            const QBitmap bitmap(8, 8);
+            row("a polygon behind a cursor of bits",
+                number(9) + number(2) + serialised(QCursor(bitmap, bitmap), QDataStream::Qt_4_0)
+                    + number(71) + number(0xffffffff));
+        }
         addPixels();
     }
 

@@ -807,6 +807,22 @@ private Q_SLOTS:
         QVERIFY(fileContent(path()).contains("\nafter=2\n"));
     }
 
+    void leavesOutMapsThatNest()
+    {
+        QVariant map = 1;
+        QVariant hash = 1;
+        for (int levels = 1; levels <= 1001; ++levels) {
+            map = QVariantMap { { "a", map } };
+            hash = QVariantHash { { "a", hash } };
+            if (levels >= 1000)
+                VIniSettings(Entries { { "map", map }, { "hash", hash }, { "after", 2 } })
+                    .saveLocal(labelled("nested", levels));
+        }
+        QCOMPARE(VIniSettings(labelled("nested", 1000)).allKeys(),
+                 (QStringList { "after", "hash", "map" }));
+        QCOMPARE(VIniSettings(labelled("nested", 1001)).allKeys(), QStringList { "after" });
+    }
+
     /// What is to come of random stores is told by QSettings itself, on another file.
     void writesAndReadsWhatQSettingsDoes_data()
     {

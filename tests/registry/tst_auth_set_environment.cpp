@@ -62,6 +62,9 @@ class TestAuthSetEnvironment : public DirectoryTest
     Q_OBJECT
 
 private Q_SLOTS:
+    // Where machines run on world time, local time would be no other.
+    void initTestCase() { qputenv("TZ", "XYZ-05:30"); }
+
     void paths_data()
     {
         QTest::addColumn<QString>("name");

@@ -358,6 +358,8 @@ private Q_SLOTS:
         int innerResult = -1;
         showAnd(dialog, [&] {
             comboBox(dialog)->setCurrentIndex(2);
+            // A second loop would not end.
+            failUnless(dialog.show() == 0, "show() has another result");
             dialog.setWindowState(Qt::WindowMinimized);
             innerResult = dialog.show();
             failUnless(!dialog.isMinimized(), "the dialog is still minimised");
