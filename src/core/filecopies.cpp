@@ -11,8 +11,8 @@
 
 namespace {
 
-/// The names for copies of the file at @p path, newest first, but for those that a directory, for
-/// example, has.
+/// The names for copies of the file at @p path, newest first, without those that something else has
+/// taken, a directory or a link for example.
 QStringList copyPaths(const QString &path)
 {
     QStringList paths;
@@ -51,7 +51,7 @@ bool keepCopy(const QString &path, const QByteArray &bytes)
     const auto isSame = [&bytes](const QString &copy) { return bytesOf(copy) == bytes; };
     if (copies.isEmpty() || std::any_of(copies.cbegin(), copies.cend(), isSame))
         return !copies.isEmpty();
-    // An earlier copy goes only when there is a new one.
+    // Under a name of its own first, so that no earlier copy is removed if copying fails.
     const QString newest = path + QLatin1String(".bak.new");
     QFile::remove(newest);
     if (!QFile::copy(path, newest))

@@ -7,7 +7,7 @@
 #include <QByteArray>
 #include <QString>
 
-/// Qt warns about an empty path and truncates one at a NUL.
+/// Whether Qt takes @p path as it is: it warns about an empty one and truncates one at a NUL.
 bool isPath(const QString &path);
 
 /// Whether there is a file at @p path, or nothing. Reading from a pipe, for one, would wait for
@@ -17,8 +17,9 @@ bool canBeFile(const QString &path);
 /// What the file at @p path holds; nothing when it cannot be read.
 QByteArray bytesOf(const QString &path);
 
-/// Makes a copy of the file at @p path, which holds @p bytes, beside it, and tells whether there is
-/// one. The newest of five ends in ".bak", the oldest in ".bak5" and goes when there is a new one.
+/// Copies the file at @p path, which holds @p bytes, unless a copy of the same bytes is kept
+/// already; whether there is a copy now. Copies lie beside the file: the newest of at most five
+/// ends in ".bak", the oldest in ".bak5", and a new one replaces the oldest.
 bool keepCopy(const QString &path, const QByteArray &bytes);
 
 #endif

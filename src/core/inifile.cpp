@@ -17,7 +17,8 @@
 
 namespace {
 
-/// A file is to be read in the encoding in which it was written, so all are opened through this.
+/// All files are opened through this, so that they are read in the encoding in which they were
+/// written.
 class Utf8Settings : public QSettings
 {
 public:
@@ -33,10 +34,10 @@ bool isDirectoryWritable(const QString &path)
     return path.isEmpty() || QFileInfo(QFileInfo(path).absolutePath()).isWritable();
 }
 
-/// Whether the file, the directory in which QSettings locks it, and the one in which it puts the
-/// new file together can be written; through a link these are two. If not, QSettings would still
-/// show the new values to everybody in this process. It also makes missing directories, when it is
-/// asked: that comes first.
+/// Whether the file can be written, and so can the directory in which QSettings locks it and the
+/// one in which it makes the new file; for a link these are two. Where they cannot, QSettings would
+/// still show the new values to everybody in this process. QSettings::isWritable() makes missing
+/// directories, so it is asked first.
 bool isWritable(const QSettings &settings)
 {
     const QString path = settings.fileName();
@@ -44,19 +45,19 @@ bool isWritable(const QSettings &settings)
         && isDirectoryWritable(QFileInfo(path).canonicalFilePath());
 }
 
-/// QSettings takes over a lock that nobody has touched for half a minute, so that every lock ends.
+/// In milliseconds. QSettings removes a lock that is half a minute old, so every lock ends by then.
 constexpr int longestLock = 40 * 1000;
 
-/// Whether QSettings can lock the file, now or soon. For what merely has the name of its lock, a
-/// directory for example, it would wait without end.
+/// Whether QSettings can lock the file, now or soon. Where something else has the name of the lock,
+/// a directory for example, QSettings would wait for ever.
 bool isLockable(const QSettings &settings)
 {
     const QFileInfo lock(settings.fileName() + QLatin1String(".lock"));
     return !lock.exists() || (lock.isFile() && QLockFile(lock.filePath()).tryLock(longestLock));
 }
 
-/// Whether anything of @p key is left when QSettings has dropped its superfluous slashes; of other
-/// keys it only says on the error channel that it does not take them.
+/// Whether anything of @p key is left when QSettings has dropped its superfluous slashes. QSettings
+/// refuses other keys with a warning.
 bool isKey(const QString &key)
 {
     return std::any_of(key.cbegin(), key.cend(), [](QChar c) { return c != QLatin1Char('/'); });
@@ -101,8 +102,8 @@ bool ensureFile(const QString &path)
     return file.exists() || file.open(QIODevice::ReadWrite | QIODevice::Text);
 }
 
-// A damaged value can make QSettings ask for more memory than there is, or be unsafe to read. Such
-// a file has no keys and is left alone.
+// A damaged value can be unsafe to read, or make QSettings ask for more memory than there is. A
+// file with such a value has no keys and is left alone.
 
 KeyValues readIniFile(const QString &path)
 {
@@ -131,7 +132,7 @@ void writeIniFile(const QString &path, const KeyValues &entries)
             return;
         if (std::any_of(problems.cbegin(), problems.cend(), isLoss) && !keepCopy(path, bytes))
             return;
-        // Their memory is of use in writing.
+        // QSettings needs about as much memory to write the file.
         bytes.clear();
         write(&settings, entries);
     } catch (const std::bad_alloc &) {

@@ -10,7 +10,7 @@
 
 namespace {
 
-/// A key that is only decoded when another one has its hash: most are alone.
+/// A key that is decoded only where another one has the same hash, which is rare.
 struct HashedKey
 {
     SettingsKey key;
@@ -58,6 +58,7 @@ private:
         const char *at;
         const char *other = nullptr;
     };
+
     void checkLine()
     {
         const IniLine &line = m_reader.line();
@@ -160,7 +161,7 @@ private:
     const bool m_isUtf8;
     std::vector<Finding> m_findings;
     std::vector<HashedKey> m_keys;
-    /// The header of the section, until a key is found behind it.
+    /// The header of the section while no key of it has been found.
     const char *m_emptyHeader = nullptr;
 };
 

@@ -34,7 +34,7 @@ struct IniProblem
 /// Every problem in the @p bytes of an INI file, from front to back.
 QVector<IniProblem> iniProblems(const QByteArray &bytes);
 
-/// Whether one of the problems is an UnsafeValue, which costs much less to tell.
+/// Whether one of the problems is an UnsafeValue. This costs much less than the whole list.
 bool hasUnsafeIniValue(const QByteArray &bytes);
 
 #endif

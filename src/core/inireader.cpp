@@ -13,7 +13,8 @@ bool isSpace(char c)
     return isBlank(c) || isLineEnd(c);
 }
 
-/// Whether each character means something in front of or behind a "=".
+/// For each character whether it has a meaning in keys and values, so that the others can be passed
+/// over quickly.
 constexpr std::array<bool, 256> specialCharacters()
 {
     std::array<bool, 256> special {};
@@ -39,7 +40,7 @@ IniReader::IniReader(const QByteArray &bytes)
     , m_sectionHash(SettingsKey::hashOfSection({}))
     , m_counted(m_begin)
 {
-    // QSettings passes over a byte order mark in front of a header, and of nothing else.
+    // QSettings passes over a byte order mark only where a header comes next.
     const char *const marked = m_begin + (bytes.startsWith("\xef\xbb\xbf") ? 3 : 0);
     const char *const first = std::find_if_not(marked, m_end, isSpace);
     if (first != m_end && *first == '[')

@@ -10,8 +10,8 @@
 
 #include <string_view>
 
-// How QSettings of Qt 5 reads an INI file in UTF-8. Values for a host come from QSettings; this
-// tells what QSettings will make of a file, and what it will make nothing of.
+// How QSettings of Qt 5 reads an INI file in UTF-8. Hosts get their values from QSettings; this
+// reader finds out what QSettings will make of a file, and what it will drop.
 
 /// One line, as QSettings divides a file: it ends at a ";" or a line end outside of quotes.
 struct IniLine
@@ -32,13 +32,13 @@ struct IniPosition
     int column = 1;
 };
 
-/// Walks along the lines of the bytes that it is given, which have to outlive it.
+/// Reads the lines one after the other of the bytes that it is given, which have to outlive it.
 class IniReader
 {
 public:
     explicit IniReader(const QByteArray &bytes);
 
-    /// Moves on to the next line that is not empty; false behind the last.
+    /// Moves on to the next line that is not empty; false when there is none.
     bool next();
     const IniLine &line() const { return m_line; }
 
@@ -47,7 +47,8 @@ public:
     /// A hash that is the same for all spellings of the key.
     quint64 keyHash() const { return key().hash(m_sectionHash); }
 
-    /// Where @p place in the bytes is. Cheap when it is behind the place that was asked for last.
+    /// Line and column of @p place in the bytes. Cheap when it lies behind the place that was asked
+    /// for last.
     IniPosition positionAt(const char *place);
 
 private:

@@ -10,7 +10,7 @@
 
 namespace {
 
-/// The digit that @p c is in numbers of @p base; -1 when it is none.
+/// The value of the digit @p c in numbers of @p base; -1 when it is no such digit.
 int digitOf(char c, int base)
 {
     const int digit = c >= 'a' ? c - 'a' + 10 : c >= 'A' ? c - 'A' + 10 : c - '0';
@@ -18,13 +18,13 @@ int digitOf(char c, int base)
     return isDigit && digit < base ? digit : -1;
 }
 
-/// The number that the hexadecimal digits @p spelling are to QSettings; -1 when they are none.
+/// The number that QSettings reads from the hexadecimal digits @p spelling; -1 when it reads none.
 int numberOf(std::string_view spelling)
 {
     int number = 0;
     for (const char c : spelling) {
         const int digit = digitOf(c, 16);
-        // QByteArray also takes white space, a sign and a prefix for parts of a number.
+        // QSettings converts by QByteArray, which also accepts white space, a sign and a prefix.
         if (digit < 0) {
             bool isNumber = false;
             number = QByteArray(spelling.data(), static_cast<int>(spelling.size()))
@@ -54,18 +54,20 @@ template <typename Visitor> void visitCharacters(std::string_view spelling, Visi
     }
 }
 
-/// Calls it for the name of a section and the "/" behind it; not at all where there is none.
+/// Calls @p visit with each character of the name of a section, and with the "/" behind it; not at
+/// all where there is no section.
 template <typename Visitor> void visitSection(std::string_view section, Visitor visit)
 {
     if (!section.data())
         return;
-    // Under this spelling the name belongs to a section like any other.
+    // So QSettings spells a section named General, since [General] stands for no section.
     const bool isEscaped = isSameName(section, "%general");
     visitCharacters(section.substr(isEscaped ? 1 : 0), visit);
     visit(QLatin1Char('/'));
 }
 
-/// A character more in a hash. Files that are made to have equal hashes would take long to check.
+/// Adds a character to a hash. Hashes start from a random seed: many keys with the same one would
+/// take long to check, and without it a file could be made of such keys.
 void addTo(quint64 &hash, QChar character)
 {
     hash = (hash ^ character.unicode()) * 0x9e3779b97f4a7c15;
@@ -130,7 +132,7 @@ private:
         m_place = Place::Start;
     }
 
-    /// Quotes enclose a whole element, or QSettings drops them.
+    /// QSettings writes quotes only around a whole element; it drops those that stand elsewhere.
     void takeQuote()
     {
         const bool isClosing = m_place == Place::Quoted;
@@ -152,11 +154,11 @@ private:
         m_element += text;
     }
 
-    /// Pieces are decoded one by one: each loses a byte order mark that it begins with.
+    /// Decoded piece by piece, as QSettings does: each piece loses a byte order mark in front.
     void takePlain()
     {
         const auto endsPiece = [](char c) { return c == '\\' || c == '"' || c == ','; };
-        // Characters of two units are read, but not written.
+        // QSettings reads characters that take two QChars, but does not write them.
         const auto isWide = [](char c) { return c >= '\xf0' && c <= '\xf4'; };
         const char *const start = m_at;
         m_at = std::find_if(m_at + 1, m_end, endsPiece);
@@ -217,7 +219,7 @@ private:
     int m_keptLength = 0;
 };
 
-/// Whether @p c in a key stands for itself alone.
+/// Whether @p c has no special meaning in a key.
 bool isPlainInKey(char c)
 {
     return c != '/' && c != '\\' && c != '%';
@@ -258,7 +260,7 @@ bool SettingsKey::isReadable() const
     const std::string_view front = section.data() ? section : name;
     const bool hasPlainFront = !front.empty() && isPlainInKey(front.front());
     const bool hasPlainBack = !name.empty() && isPlainInKey(name.back());
-    // The hexadecimal number of a "/" ends in this digit.
+    // An escaped "/" is %2F.
     if (hasPlainFront && hasPlainBack && (name.back() & 0xdf) != 'F')
         return true;
     const QLatin1Char slash('/');

@@ -22,7 +22,7 @@ inline bool isLineEnd(char c)
     return c == '\n' || c == '\r';
 }
 
-/// Behind the line end at @p at; two different characters are one line end together.
+/// The place behind the line end at @p at. A pair of two different characters is one line end.
 inline const char *behindLineEnd(const char *at, const char *end)
 {
     const bool isPair = at + 1 < end && isLineEnd(at[0]) && isLineEnd(at[1]) && at[0] != at[1];
@@ -47,8 +47,8 @@ struct SettingsKey
 {
     /// The key as QSettings::allKeys() gives it.
     QString text() const;
-    /// Whether QSettings gives the value of the key, and writes it in a way that it reads as the
-    /// same. This depends on a "/" at either end.
+    /// Whether QSettings can look up the value of the key, and writes the key so that it reads the
+    /// same one again. A "/" at the front or at the end can prevent both.
     bool isReadable() const;
     /// A hash that is the same for all spellings of the key, given that of its section.
     quint64 hash(quint64 hashOfSection) const;
@@ -69,7 +69,7 @@ struct Misspelling
 
 /// What QSettings makes of @p value, the value of an entry: one text, or the elements of a list.
 /// Texts that stand for values of other types are left as they are.
-/// @param misspellings takes in what the texts do not say any more.
+/// @param misspellings gets everything that is lost in the texts.
 QStringList elementsOfValue(std::string_view value,
                             std::vector<Misspelling> *misspellings = nullptr);
 

@@ -19,12 +19,12 @@
 
 namespace {
 
-/// Values nested deeper than this are nothing that a program stores. Reading and storing them takes
-/// a few hundred bytes of the stack for each level.
+/// No program stores values nested deeper than this. Reading and storing them takes a few hundred
+/// bytes of the stack for each level.
 constexpr int deepestLevel = 1000;
 /// What the readers of types that the host has registered may take of the stack.
 constexpr std::ptrdiff_t mostStack = 256 * 1024;
-/// Larger pictures and regions take Qt too much memory and time.
+/// Qt needs too much memory and time for larger pictures and regions.
 constexpr qint64 mostPixels = 1 << 26;
 constexpr int mostRectangles = 10000;
 
@@ -42,7 +42,7 @@ template <QDataStream::Version version> QVariant valueIn(const QByteArray &bytes
     return value;
 }
 
-/// Nothing can be done with a time in a zone that does not exist, not even storing it.
+/// Whether @p time can be stored: Qt crashes on a time zone that does not exist.
 bool isInValidZone(const QDateTime &time)
 {
     return time.timeSpec() != Qt::TimeZone || time.timeZone().isValid();
@@ -60,7 +60,7 @@ int typeOf(quint32 number)
     return static_cast<int>(number >= 128 && number != QMetaType::User ? number - 97 : number);
 }
 
-/// Whether Qt reads values of the type @p type without calling itself, and believes in no count.
+/// Whether Qt reads values of @p type without recursion and without trusting a count in the bytes.
 bool isFlat(int type)
 {
     switch (type) {
@@ -88,8 +88,8 @@ bool isFlat(int type)
     }
 }
 
-/// Bytes that end early for a reader that has used up its part of the stack. So readers that call
-/// themselves, for each level of what they read, come to an end.
+/// Bytes that seem to end as soon as their reader has used too much of the stack, which stops a
+/// reader that calls itself for each level of what it reads.
 class ShallowBuffer : public QBuffer
 {
 public:
@@ -109,8 +109,8 @@ private:
     bool m_isDeep = false;
 };
 
-/// Walks through serialised values as Qt 4 wrote them, which QSettings still does. Each function
-/// tells whether what comes next is safe to read, and moves behind it.
+/// Walks through serialised values in the format of Qt 4, which QSettings still writes. Each
+/// function returns whether what comes next is safe to read, and moves behind it.
 class SerialisedWalk
 {
 public:
@@ -157,7 +157,7 @@ bool SerialisedWalk::value(int level)
 {
     const qint64 start = m_buffer.pos();
     int type = typeOf(next<quint32>());
-    // Types of Qt may be named, too.
+    // A type of Qt may also be given by its name.
     if (type == QMetaType::User)
         type = QMetaType::type(next<QByteArray>().constData());
     if (level == 0 && isFlat(type))
@@ -212,7 +212,7 @@ bool SerialisedWalk::readByQt(qint64 start)
     return !m_buffer.isDeep();
 }
 
-/// Qt itself notices a list that ends before its count is reached.
+/// A list that ends before its count is reached is safe: Qt notices that itself.
 bool SerialisedWalk::values(int level, bool haveKeys)
 {
     const auto count = next<quint32>();
@@ -237,8 +237,8 @@ bool SerialisedWalk::textFormat(int level)
     return true;
 }
 
-/// Pictures are stored as PNG. Given other bytes, Qt would try the readers of all formats on them,
-/// and goes on in the middle of a picture that it cannot read to its end.
+/// Pictures are stored as PNG. On other bytes Qt would try the readers of all formats, and after a
+/// picture that it cannot read to its end it would go on in the middle of it.
 bool SerialisedWalk::image()
 {
     const qint64 start = m_buffer.pos();
@@ -337,7 +337,7 @@ bool isStorable(const QVariant &value, int depth)
         return false;
     switch (value.userType()) {
     case QMetaType::UnknownType:
-    // Most values are of these types, for which the attempt below always succeeds.
+    // Most values are of these types, and storing them, as is tried below, always succeeds.
     case QMetaType::Bool:
     case QMetaType::Int:
     case QMetaType::Double:
@@ -441,7 +441,7 @@ QString behindOpening(const QString &text, const TypedForm &form)
 bool isUnsafe(const QString &text)
 {
     const TypedForm *const form = formOf(text);
-    // QSettings hands on the last bracket, too.
+    // The closing bracket stays, because QSettings passes it to the reader as well.
     return form && !form->isSafe(behindOpening(text, *form).toLatin1());
 }
 

@@ -10,11 +10,11 @@
 #include <string_view>
 
 // QSettings stores what is not text as a text such as "@Point(1 2)". Behind "@Variant(" come the
-// bytes that QDataStream makes of the value, and Qt's readers trust them: wrong ones can crash
-// them, keep them busy for minutes, or let them follow nested values until the stack ends.
+// bytes that QDataStream makes of the value, and Qt's readers trust them: wrong bytes can crash
+// them, keep them busy for minutes, or nest values until the stack overflows.
 
-/// Whether Qt may not be given @p text, one element of a value, to read. Pixmaps, and what may
-/// contain them, can be read in programs with windows only.
+/// Whether it is unsafe to let Qt read @p text, one element of a value. Pixmaps, and what may
+/// contain them, are safe in programs with windows only.
 bool isUnsafe(const QString &text);
 
 /// Whether reading @p text, which is not unsafe, gives less than QSettings has written.

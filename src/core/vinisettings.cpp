@@ -222,7 +222,7 @@ bool VIniSettings::remove(QStringList keys)
     FirstPositions firsts;
     for (const QString &key : held)
         firsts.append(key);
-    // Where the search for the next entry of a key that is named again goes on.
+    // For each key that was found, the position from which the same key is searched next.
     QHash<QString, int> next;
     bool allFound = true;
     for (const QString &key : qAsConst(keys)) {

@@ -24,7 +24,7 @@ public:
     void assign(const KeyValues &entries);
     void merge(const KeyValues &entries);
     void set(const QString &key, const QVariant &value);
-    /// Takes in a key without an entry.
+    /// Appends a key that has no entry.
     void addKeyApart(const QString &key);
     /// Removes the key and the entry at @p index; a key apart may have no entry there.
     void removeAt(int index);
