@@ -45,11 +45,11 @@ check_components() {
     local parts=$work_dir/components
     cmake --install "$build_dir" --prefix "$parts" --component Runtime >/dev/null
     if files_below "$parts" | grep -vE '/libkelto\.so\.1(\.[0-9]+)*$'; then
-        fail "the files above are installed for programs that only run."
+        fail "the component Runtime holds the files above, and should hold the library alone."
     fi
     cmake --install "$build_dir" --prefix "$parts" --component Development >/dev/null
     diff <(files_below "$work_dir/prefix") <(files_below "$parts") ||
-        fail "the components do not hold what is installed as a whole (left)."
+        fail "the components together (right) differ from an installation without components (left)."
 }
 
 install_package() {
@@ -86,7 +86,7 @@ write_host() {
 # Runs ./host, whose dialog is accepted, and expects the line that the README promises.
 run_host() {
     LD_LIBRARY_PATH=$(library_dir) QT_QPA_PLATFORM=offscreen timeout 60 ./host >output ||
-        fail "the host did not end well."
+        fail "the host failed, or its dialog did not close within a minute."
     local expected="Host:Statics:Cantilever"
     [ "$(cat output)" = "$expected" ] || fail "expected '$expected', the host printed '$(cat output)'."
 }
@@ -124,7 +124,7 @@ check_symbols() {
     library=$(library_dir)/libkelto.so
     objdump -p "$library" | grep -q 'SONAME *libkelto\.so\.1$' || fail "the SONAME is not libkelto.so.1."
     if objdump -p "$library" | grep -E 'R(UN)?PATH'; then
-        fail "the library looks for others in the place above."
+        fail "the library holds the search path above, and should hold none."
     fi
     local public
     public=$(printf '%s\n' "$@" | grep -v '\.h$' | paste -sd '|')

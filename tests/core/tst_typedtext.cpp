@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: The Kelto developers
 // SPDX-License-Identifier: MIT
 
-// Values of all types in files, in a program with windows and in one without: what was stored comes
-// back, and no bytes end the program. The same source makes both programs.
+// Values of all types in files, in a program with windows and in one without: what was stored is
+// read again, and no bytes end the program. The same source makes both programs.
 
 #include <Kelto/VIniSettings>
 

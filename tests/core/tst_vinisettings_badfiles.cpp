@@ -56,7 +56,7 @@ QVariantMap valuesIn(const QByteArray &bytes)
     return values;
 }
 
-/// What a value says. A list of texts may have come back as a list of values that are texts.
+/// A value as text. A list of texts may have been read as a list of values that are texts.
 QString saidBy(const QVariant &value)
 {
     return described(value.userType() == QMetaType::QVariantList ? value.toStringList() : value);
@@ -73,8 +73,8 @@ QStringList marksIn(const QByteArray &bytes)
     return marks;
 }
 
-/// Which mark or value of a file is no longer in it, now that its bytes are others; empty when
-/// everything is there.
+/// A mark or a value that was in a file with the bytes @p before and is not in @p now; empty when
+/// nothing is lost.
 QString lostIn(const QByteArray &before, const QByteArray &now)
 {
     const QStringList marks = marksIn(before);

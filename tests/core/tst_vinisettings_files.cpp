@@ -409,7 +409,7 @@ private Q_SLOTS:
         QTest::newRow("other keys of the file stay")
             << stored() << Entries { { "a/x", "new" }, { "c/n", 1 } }
             << QByteArray("[General]\ntop=1\n\n[a]\nx=new\ny=two\n\n[b]\nz=three\n\n[c]\nn=1\n");
-        QTest::newRow("the last of doubles stays")
+        QTest::newRow("the last of duplicates stays")
             << QByteArray() << Entries { { "a", 1 }, { "b", 2 }, { "a", 3 } }
             << QByteArray("[General]\na=3\nb=2\n");
         QTest::newRow("an empty store leaves the file alone") << stored() << Entries() << stored();

@@ -13,8 +13,8 @@
 #include <sys/prctl.h>
 #endif
 
-/// Goes on with the rights of the user with the number @p id, as who it is where that is empty;
-/// whether it could. For the superuser, no file is without permission.
+/// Gives up all rights but those of the user with the number @p id, or none where that is empty;
+/// whether it could. The superuser needs this to test permissions, which do not bind him.
 inline bool becomeUser(const QString &id)
 {
     if (id.isEmpty())
@@ -23,7 +23,7 @@ inline bool becomeUser(const QString &id)
     if (setgid(id.toUInt()) != 0 || setuid(id.toUInt()) != 0)
         return false;
 #ifdef Q_OS_LINUX
-    // A leak checker looks at the process through this, at its end.
+    // Without this, a leak checker may not look at the process when it ends.
     prctl(PR_SET_DUMPABLE, 1);
 #endif
     return true;

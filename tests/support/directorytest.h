@@ -17,7 +17,8 @@ class DirectoryTest : public QObject
     Q_OBJECT
 
 protected Q_SLOTS:
-    /// An init() that calls this one returns when this has failed: it would work elsewhere.
+    /// An init() that calls this one has to return when this has failed: it would go on in another
+    /// directory.
     virtual void init();
     virtual void cleanup();
 

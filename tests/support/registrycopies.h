@@ -13,8 +13,8 @@
 using Change = std::function<void(AUTH_SET &)>;
 Q_DECLARE_METATYPE(Change)
 
-/// Copies @p original, assigns it to @p assigned and changes one after the other; @p state tells
-/// everything that the change could show in. Only the one that is changed is to show it.
+/// Copies @p original, assigns it to @p assigned and changes one after the other. Only the registry
+/// that is changed may differ afterwards in what @p state returns.
 template <typename State>
 void changeOneAfterTheOther(AUTH_SET original, AUTH_SET assigned, State state, const Change &change)
 {

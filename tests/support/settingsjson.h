@@ -16,8 +16,8 @@
 
 using Entries = QVector<QPair<QString, QVariant>>;
 
-// Values with their types: QVariant's own comparison holds the number 1 and the text "1" for equal,
-// and the two are what a file makes a difference of.
+// Values with their types: QVariant's own comparison finds the number 1 and the text "1" equal, but
+// a number that was stored in a file is read as a text.
 
 inline QString typeName(const QVariant &value)
 {

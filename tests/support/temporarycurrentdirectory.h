@@ -21,7 +21,7 @@ public:
 
     bool isUsable() const { return m_usable; }
 
-    /// The current path as Qt gives it, which is not the temporary one where links lead to it.
+    /// The current path as Qt gives it: unlike the temporary one, it has no links in it.
     QString path() const { return QDir::currentPath(); }
 
 private:

@@ -3,7 +3,6 @@
 
 // Uses the workbench as a person does, with the mouse and the keyboard of the X server:
 //   workbench-walk <directory for pictures and files> [option of the workbench]...
-//   workbench]...
 // Exit codes: 0 when all went well, 1 otherwise, 2 for wrong usage.
 
 #include "commandline.h"
