@@ -92,9 +92,7 @@ QString someKey(Dice *dice)
     QString key = dice->oneOf({ "", "", "a", "B ", "名", "%20", "General/", "=;" });
     if (dice->chance(60))
         key += "/" + someText(dice, 3);
-    // A "#" in front is a comment to people, and a reason for a copy.
-    key += dice->oneOf({ "a", "b", "键", "c d" });
-    return key.remove('#');
+    return key + dice->oneOf({ "a", "b", "键", "c d" });
 }
 
 QVariant someValue(Dice *dice)
