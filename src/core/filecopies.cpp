@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QStringList>
+#include <QTemporaryFile>
 
 #include <algorithm>
 
@@ -22,6 +23,32 @@ QStringList copyPaths(const QString &path)
             paths.append(copy);
     }
     return paths;
+}
+
+/// Makes @p bytes the newest copy of the file at @p path. The others move up by one, up to the one
+/// that has the same content, to the first free name, or to the last.
+bool putInFront(const QString &path, const QByteArray &bytes)
+{
+    const QStringList copies = copyPaths(path);
+    const auto endsMoving
+        = [&bytes](const QString &copy) { return !QFile::exists(copy) || bytesOf(copy) == bytes; };
+    const auto found = std::find_if(copies.cbegin(), copies.cend(), endsMoving);
+    int last = qMin(static_cast<int>(found - copies.cbegin()), copies.size() - 1);
+    if (copies.isEmpty())
+        return false;
+    if (found == copies.cbegin() && QFile::exists(*found))
+        return true;
+    // Under a name of its own first, so that no earlier copy is removed if writing fails.
+    QTemporaryFile newest(path + QLatin1String(".bak.XXXXXX"));
+    if (!newest.open() || newest.write(bytes) != bytes.size() || !newest.flush())
+        return false;
+    newest.setPermissions(QFile::permissions(path));
+    QFile::remove(copies.at(last));
+    for (; last > 0; --last)
+        QFile::rename(copies.at(last - 1), copies.at(last));
+    const bool isKept = newest.rename(copies.constFirst());
+    newest.setAutoRemove(!isKept);
+    return isKept;
 }
 
 } // namespace
@@ -47,20 +74,6 @@ QByteArray bytesOf(const QString &path)
 
 bool keepCopy(const QString &path, const QByteArray &bytes)
 {
-    const QStringList copies = copyPaths(path);
-    const auto isSame = [&bytes](const QString &copy) { return bytesOf(copy) == bytes; };
-    if (copies.isEmpty() || std::any_of(copies.cbegin(), copies.cend(), isSame))
-        return !copies.isEmpty();
-    // Under a name of its own first, so that no earlier copy is removed if copying fails.
-    const QString newest = path + QLatin1String(".bak.new");
-    QFile::remove(newest);
-    if (!QFile::copy(path, newest))
-        return false;
-    int last = 0;
-    while (last + 1 < copies.size() && QFile::exists(copies.at(last)))
-        ++last;
-    QFile::remove(copies.at(last));
-    for (; last > 0; --last)
-        QFile::rename(copies.at(last - 1), copies.at(last));
-    return QFile::rename(newest, copies.constFirst());
+    // Another program may be keeping a copy at the same time, which a second look finds.
+    return putInFront(path, bytes) || putInFront(path, bytes) || putInFront(path, bytes);
 }

@@ -53,6 +53,8 @@ constexpr int longestLock = 40 * 1000;
 bool isLockable(const QSettings &settings)
 {
     const QFileInfo lock(settings.fileName() + QLatin1String(".lock"));
+    if (lock.isSymLink())
+        return false;
     return !lock.exists() || (lock.isFile() && QLockFile(lock.filePath()).tryLock(longestLock));
 }
 

@@ -19,7 +19,12 @@ struct HashedKey
 
     bool operator==(const HashedKey &other) const
     {
-        return hash == other.hash && key.text() == other.key.text();
+        if (hash != other.hash)
+            return false;
+        // Headers can be so long that they are not to be decoded for every key.
+        if (key.section == other.key.section && !key.section.data() == !other.key.section.data())
+            return SettingsKey { {}, key.name }.text() == SettingsKey { {}, other.key.name }.text();
+        return key.text() == other.key.text();
     }
 };
 
@@ -115,10 +120,11 @@ private:
             m_findings.push_back({ isEscape ? IniProblem::BadEscape : IniProblem::DroppedCharacter,
                                    misspelling.at });
         }
+        const std::size_t start = std::min(value.find_first_not_of(" \t"), value.size());
         if (hasUnsafeElement(elements))
-            m_findings.push_back({ IniProblem::UnsafeValue, value.data() });
+            m_findings.push_back({ IniProblem::UnsafeValue, value.data() + start });
         else if (std::any_of(elements.cbegin(), elements.cend(), isDamaged))
-            m_findings.push_back({ IniProblem::DamagedValue, value.data() });
+            m_findings.push_back({ IniProblem::DamagedValue, value.data() + start });
     }
 
     void findDuplicates()

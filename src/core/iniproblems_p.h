@@ -17,7 +17,7 @@ struct IniProblem
         BrokenHeader, ///< With text behind it, or without "]".
         EmptySection, ///< Not written again, but nothing is lost with it.
         DuplicateKey, ///< Only one of the values counts; otherLine has the first.
-        UnreadableKey, ///< Its value cannot be asked for, or is lost when it is written.
+        UnreadableKey, ///< A "/" at its start or end keeps it from being read or written.
         ByteOrderMark, ///< Becomes part of the first key.
         BadEscape,
         NotUtf8,

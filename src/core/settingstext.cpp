@@ -167,6 +167,9 @@ private:
         const char *const wide = std::find_if(start, m_at, isWide);
         if (wide != m_at)
             report(Misspelling::DroppedCharacter, wide);
+        const std::size_t mark = textBetween(start, m_at).find("\xef\xbb\xbf");
+        if (mark != std::string_view::npos)
+            report(Misspelling::DroppedCharacter, start + mark);
     }
 
     void takeEscape()
@@ -204,7 +207,7 @@ private:
             append(QChar(code), escape);
         if (m_at == start || !fits)
             report(Misspelling::BadEscape, escape);
-        else if (QChar::isSurrogate(code))
+        else if (QChar::isSurrogate(code) || code == QChar::ByteOrderMark)
             report(Misspelling::DroppedCharacter, escape);
     }
 

@@ -11,6 +11,7 @@
 #include <QGuiApplication>
 #include <QImage>
 #include <QMetaType>
+#include <QTextFormat>
 #include <QTimeZone>
 
 #include <algorithm>
@@ -25,7 +26,7 @@ constexpr int deepestLevel = 1000;
 /// What the readers of types that the host has registered may take of the stack.
 constexpr std::ptrdiff_t mostStack = 256 * 1024;
 /// Qt needs too much memory and time for larger pictures and regions.
-constexpr qint64 mostPixels = 1 << 26;
+constexpr qint64 mostPixels = 1 << 25;
 constexpr int mostRectangles = 10000;
 
 /// QSettings writes all values but times as Qt 4 wrote them.
@@ -68,6 +69,7 @@ bool isFlat(int type)
     case QMetaType::QVariantMap:
     case QMetaType::QVariantHash:
     case QMetaType::QVariant:
+    case QMetaType::QRegExp:
         return false;
     case QMetaType::QFont:
     case QMetaType::QColor:
@@ -88,24 +90,45 @@ bool isFlat(int type)
     }
 }
 
+/// Whether an old regular expression is small: it is compiled as soon as it is read, with every
+/// group as often as it is repeated.
+bool isModest(const QString &pattern)
+{
+    const qint64 mostStates = 500000;
+    qint64 groups = 1;
+    qint64 single = 1;
+    for (int at = pattern.indexOf(QLatin1Char('{')); at >= 0;
+         at = pattern.indexOf(QLatin1Char('{'), at + 1)) {
+        const int end = pattern.indexOf(QLatin1Char('}'), at);
+        const QStringList counts = pattern.mid(at + 1, end - at - 1).split(QLatin1Char(','));
+        const qint64 count = qMax(counts.constFirst().toUInt(), counts.constLast().toUInt());
+        const bool isGroup = at > 0 && pattern.at(at - 1) == QLatin1Char(')');
+        groups = qMin(groups * (isGroup ? qMax<qint64>(count, 1) : 1), mostStates);
+        single = isGroup ? single : qMax(single, qMin(count, mostStates));
+    }
+    return pattern.count(QLatin1Char('(')) <= deepestLevel
+        && groups * single * pattern.size() <= mostStates;
+}
+
 /// Bytes that seem to end as soon as their reader has used too much of the stack, which stops a
 /// reader that calls itself for each level of what it reads.
 class ShallowBuffer : public QBuffer
 {
 public:
+    /// From now on, the stack is measured from @p bottom, a variable of the caller's.
+    void setBottom(const char *bottom) { m_bottom = bottom; }
     bool isDeep() const { return m_isDeep; }
 
 protected:
     qint64 readData(char *data, qint64 size) override
     {
         const char here = 0;
-        m_isDeep = m_isDeep || std::abs(&here - m_bottom) > mostStack;
+        m_isDeep = m_isDeep || (m_bottom && std::abs(&here - m_bottom) > mostStack);
         return m_isDeep ? -1 : QBuffer::readData(data, size);
     }
 
 private:
-    /// The buffer lives on the stack itself.
-    const char *const m_bottom = reinterpret_cast<const char *>(this);
+    const char *m_bottom = nullptr;
     bool m_isDeep = false;
 };
 
@@ -123,9 +146,10 @@ public:
     }
 
     bool value(int level = 0);
+    /// The same for a value without the number of its type in front.
+    bool compound(int type, int level);
 
 private:
-    bool compound(int type, int level);
     bool readByQt(qint64 start);
     bool values(int level, bool haveKeys);
     bool textFormat(int level);
@@ -151,6 +175,7 @@ private:
 
     ShallowBuffer m_buffer;
     QDataStream m_stream;
+    qint64 m_pixels = 0;
 };
 
 bool SerialisedWalk::value(int level)
@@ -179,6 +204,8 @@ bool SerialisedWalk::compound(int type, int level)
         return values(level, true);
     case QMetaType::QTextFormat:
         return textFormat(level);
+    case QMetaType::QRegExp:
+        return isModest(next<QString>()) && skip(3);
     case QMetaType::QImage:
         return image();
     case QMetaType::QPixmap:
@@ -207,8 +234,11 @@ bool SerialisedWalk::compound(int type, int level)
 bool SerialisedWalk::readByQt(qint64 start)
 {
     m_buffer.seek(start);
+    const char bottom = 0;
+    m_buffer.setBottom(&bottom);
     QVariant value;
     m_stream >> value;
+    m_buffer.setBottom(nullptr);
     return !m_buffer.isDeep();
 }
 
@@ -253,7 +283,9 @@ bool SerialisedWalk::image()
     auto size = next<quint32>();
     auto chunk = next<quint32>();
     const qint64 dimensions = m_buffer.pos();
-    if (chunk != header || next<quint32>() * qint64(next<quint32>()) > mostPixels)
+    const qint64 width = next<quint32>();
+    m_pixels += width * next<quint32>();
+    if (chunk != header || m_pixels > mostPixels)
         return false;
     m_buffer.seek(dimensions);
     while (skip(size + qint64(sizeof(quint32))) && chunk != end) {
@@ -350,14 +382,25 @@ bool isStorable(const QVariant &value, int depth)
         return areStorable(value.toMap(), depth + 1);
     case QMetaType::QVariantHash:
         return areStorable(value.toHash(), depth + 1);
+    case QMetaType::QVariant:
+        return isStorable(*static_cast<const QVariant *>(value.constData()), depth + 1);
     case QMetaType::QDateTime:
         return isInValidZone(value.toDateTime());
+    case QMetaType::QTextFormat:
+        if (!areStorable(qvariant_cast<QTextFormat>(value).properties(), depth + 1))
+            return false;
+        break;
     default:
         break;
     }
+    const int type = value.userType();
     QByteArray bytes;
     QDataStream stream(&bytes, QIODevice::WriteOnly);
-    return QMetaType::save(stream, value.userType(), value.constData());
+    stream.setVersion(variantVersion);
+    // What could not be read again would make the whole file unsafe.
+    return QMetaType::save(stream, type, value.constData())
+        && (isFlat(type) || type >= QMetaType::User
+            || SerialisedWalk(bytes).compound(type, depth + 1));
 }
 
 template <typename Values> bool areStorable(const Values &values, int depth)
@@ -393,14 +436,16 @@ bool isAlways(const QByteArray &)
     return true;
 }
 
-bool areNumbers(const QByteArray &text)
+/// Whether @p text is @p count numbers, or nothing that QSettings takes for them.
+template <int count> bool areNumbers(const QByteArray &text)
 {
     const QList<QByteArray> words = text.split(' ');
-    return std::all_of(words.cbegin(), words.cend(), [](const QByteArray &word) {
-        bool isNumber = false;
-        word.toInt(&isNumber);
-        return isNumber;
-    });
+    return words.size() != count
+        || std::all_of(words.cbegin(), words.cend(), [](const QByteArray &word) {
+               bool isNumber = false;
+               word.toInt(&isNumber);
+               return isNumber;
+           });
 }
 
 /// How QSettings writes what is not text: @p opening, bytes and ")".
@@ -417,9 +462,9 @@ const TypedForm *formOf(const QString &text)
         { "@Variant(", isSafeVariant, isWhole<variantVersion> },
         { "@DateTime(", isSafeTime, isWhole<timeVersion> },
         { "@ByteArray(", isAlways, isAlways },
-        { "@Rect(", isAlways, areNumbers },
-        { "@Point(", isAlways, areNumbers },
-        { "@Size(", isAlways, areNumbers },
+        { "@Rect(", isAlways, areNumbers<4> },
+        { "@Point(", isAlways, areNumbers<2> },
+        { "@Size(", isAlways, areNumbers<2> },
     };
     if (!text.startsWith(QLatin1Char('@')) || !text.endsWith(QLatin1Char(')')))
         return nullptr;

@@ -60,9 +60,11 @@ public:
     /// nothing changes.
     ///
     /// A file has no keys, and is never written, while one of its values is unsafe to read: nested
-    /// more than 1,000 levels deep, or bytes that would crash Qt's own readers. In programs without
-    /// windows this includes values made of pixels, such as a pixmap. Values of types that the host
-    /// has registered are read by the host's stream operators, which have to be as careful.
+    /// more than 1,000 levels deep, bytes that would crash Qt's own readers or keep them busy, a
+    /// picture of more than 33 million pixels, a region of more than 10,000 rectangles. In programs
+    /// without windows this includes values made of pixels, such as a pixmap. Values of types that
+    /// the host has registered are read by the host's stream operators, which have to be as
+    /// careful.
     void setPath(QString path);
 
     /// The file that the store is bound to; empty without one.
@@ -133,10 +135,10 @@ public:
      * only spelt otherwise then is no reason: [general], [Desktop Entry], Name[de], quotes,
      * \@default, white space, sections without keys.
      *
-     * Values that QSettings cannot store are left out: pointers, for example, times in a time zone
-     * that does not exist, and lists nested more than 1,000 levels deep. So are characters that
-     * take two QChars, such as emoji: QSettings of Qt 5 drops them from what it writes in UTF-8. A
-     * file that has no keys because a value in it is unsafe, see setPath(), is left alone.
+     * Values are left out that QSettings cannot store, such as pointers or times in a time zone
+     * that does not exist, and those that setPath() would find unsafe. So are characters that take
+     * two QChars, such as emoji: QSettings of Qt 5 drops them from what it writes in UTF-8. A file
+     * that has no keys because a value in it is unsafe is left alone.
      */
     void saveLocal(QString path) const;
     /// Writes the list into the file that the store is bound to.

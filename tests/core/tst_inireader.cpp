@@ -128,8 +128,9 @@ QString disagreement(const QByteArray &bytes, int *values = nullptr)
     QStringList keys = settings.allKeys();
     keys.sort();
     QFile::remove(name);
-    if (keys != entries.keys())
-        return "keys " + keys.join('|') + " and " + QStringList(entries.keys()).join('|');
+    const QStringList expected = entries.keys();
+    if (keys != expected)
+        return "keys " + keys.join('|') + " and " + expected.join('|');
     for (const QString &key : qAsConst(keys)) {
         const QStringList elements = entries.value(key);
         const bool isAskable
@@ -137,8 +138,8 @@ QString disagreement(const QByteArray &bytes, int *values = nullptr)
         if (!isAskable || std::any_of(elements.cbegin(), elements.cend(), isSerialised))
             continue;
         const QVariant value = settings.value(key);
-        const QVariant expected = valueOf(elements);
-        if (value != expected || value.userType() != expected.userType())
+        const QVariant readValue = valueOf(elements);
+        if (value != readValue || value.userType() != readValue.userType())
             return key + " is " + value.toString() + " and " + elements.join('|');
         if (values)
             ++*values;
@@ -223,6 +224,8 @@ private Q_SLOTS:
         row("a path with backslashes", "a=C:\\quick\\path\n", { "1:5 escape", "1:11 escape" });
         row("half of a character, escaped", "a=\\xd83d\nb=\\xde00\n",
             { "1:3 dropped character", "2:3 dropped character" });
+        row("byte order marks in values", "a=\xef\xbb\xbfy\nb=x\xef\xbb\xbf\nc=\\xfeff\n",
+            { "1:3 dropped character", "2:4 dropped character", "3:3 dropped character" });
         row("bytes that are not UTF-8", "a=1\nb=\xe5\x80\xbc \xe4\xf6\n", { "2:5 not UTF-8" });
         row("UTF-8 that is cut off", "a=\xe5\x80", { "1:3 not UTF-8" });
         row("bytes that a replacement character begins with", "a=x\xef\nb=\xef\xbf\nc=\xef\xbf",
@@ -268,6 +271,17 @@ private Q_SLOTS:
                 problems.append(QString("%1:1 duplicate of %2").arg(i).arg(i - 200));
         }
         QCOMPARE(problemsIn(bytes), problems);
+    }
+
+    /// None of them is decoded with its section, which would take long.
+    void findsManyDuplicatesInALongSection()
+    {
+        QByteArray bytes = '[' + QByteArray(100000, 'a') + "]\n";
+        for (int i = 0; i < 2000; ++i)
+            bytes += i % 2 ? "k=1\n" : "%6b=1\n";
+        const QVector<IniProblem> problems = iniProblems(bytes);
+        QCOMPARE(problems.size(), 1999);
+        QCOMPARE(problems.constLast().otherLine, 2);
     }
 
     void dividesLines()

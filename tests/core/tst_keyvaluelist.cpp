@@ -134,7 +134,8 @@ private Q_SLOTS:
             QCOMPARE(positions.indexOf("a"), -1);
             for (const QString &text : list)
                 positions.append(text);
-            for (const QString &text : list + QStringList { "A", "c", QString() }) {
+            const QStringList texts = list + QStringList { "A", "c", QString() };
+            for (const QString &text : texts) {
                 QCOMPARE(positions.indexOf(text), list.indexOf(text));
                 QCOMPARE(positions.contains(text), list.contains(text));
             }

@@ -64,11 +64,30 @@ QStringList entry(const QString &multi)
     return { "0", "1", "2", multi, "4", "5", "6", "7", "8" };
 }
 
-const QString filledTexts = "'g' 'G' 'n' 'N' 'u' 'U' 's' 'o', multi, ";
-const QString entryTexts = "'0' '8' '1' '7' '4' '5' '6' '2', ";
-const QString lengthTexts = "'' '' 'Length' 'Length' 'mm' 'mm' 'L' 'float', single, ";
-const QString cleared = "null null null null null null '' '', single, no value";
-const QString untouched = "null null null null null null null null, single, no value";
+QString filledTexts()
+{
+    return "'g' 'G' 'n' 'N' 'u' 'U' 's' 'o', multi, ";
+}
+
+QString entryTexts()
+{
+    return "'0' '8' '1' '7' '4' '5' '6' '2', ";
+}
+
+QString lengthTexts()
+{
+    return "'' '' 'Length' 'Length' 'mm' 'mm' 'L' 'float', single, ";
+}
+
+QString cleared()
+{
+    return "null null null null null null '' '', single, no value";
+}
+
+QString untouched()
+{
+    return "null null null null null null null null, single, no value";
+}
 
 } // namespace
 
@@ -84,23 +103,23 @@ private Q_SLOTS:
 
         const QString null;
         QTest::newRow("empty: pairs are null, symbol and object name are not")
-            << VParameter() << cleared;
-        QTest::newRow("seven fields") << filled() << filledTexts + "double 1.5";
+            << VParameter() << cleared();
+        QTest::newRow("seven fields") << filled() << filledTexts() + "double 1.5";
         QTest::newRow("seven null fields stay null")
-            << VParameter(QVariant(), {}, {}, null, {}, null, false) << untouched;
+            << VParameter(QVariant(), {}, {}, null, {}, null, false) << untouched();
         QTest::newRow("a floating-point value")
-            << VParameter(2.5, "Length", "mm", "L") << lengthTexts + "double 2.5";
+            << VParameter(2.5, "Length", "mm", "L") << lengthTexts() + "double 2.5";
         QTest::newRow("a whole number becomes a floating-point value")
-            << VParameter(2, "Length", "mm", "L") << lengthTexts + "double 2";
+            << VParameter(2, "Length", "mm", "L") << lengthTexts() + "double 2";
         QTest::newRow("a floating-point value without texts has no null group")
             << VParameter(0.0, null, null, null)
             << "'' '' null null null null null 'float', single, double 0";
         QTest::newRow("an entry of one value")
-            << VParameter(entry("false")) << entryTexts + "single, no value";
+            << VParameter(entry("false")) << entryTexts() + "single, no value";
         QTest::newRow("an entry of several values")
-            << VParameter(entry("true")) << entryTexts + "multi, no value";
-        QTest::newRow("an entry of eight texts") << VParameter(entry("true").mid(1)) << untouched;
-        QTest::newRow("an entry of ten texts") << VParameter(entry("true") << "9") << untouched;
+            << VParameter(entry("true")) << entryTexts() + "multi, no value";
+        QTest::newRow("an entry of eight texts") << VParameter(entry("true").mid(1)) << untouched();
+        QTest::newRow("an entry of ten texts") << VParameter(entry("true") << "9") << untouched();
     }
     void constructs()
     {
@@ -117,37 +136,37 @@ private Q_SLOTS:
             QTest::newRow(name) << change << expected;
         };
         // A literal is no truth value, and a list in a QVariant is no entry.
-        row("a number", filledTexts + "double 2.5", [](VParameter &p) { p.set(2.5); });
-        row("a truth value", filledTexts + "bool true", [](VParameter &p) { p.set(true); });
-        row("a literal", filledTexts + "QString x", [](VParameter &p) { p.set("x"); });
-        row("a text", filledTexts + "QString x", [](VParameter &p) { p.set(QString("x")); });
-        row("no value", filledTexts + "no value", [](VParameter &p) { p.set(QVariant()); });
-        row("a list of nine texts as a value", filledTexts + "QStringList 0,1,2,true,4,5,6,7,8",
+        row("a number", filledTexts() + "double 2.5", [](VParameter &p) { p.set(2.5); });
+        row("a truth value", filledTexts() + "bool true", [](VParameter &p) { p.set(true); });
+        row("a literal", filledTexts() + "QString x", [](VParameter &p) { p.set("x"); });
+        row("a text", filledTexts() + "QString x", [](VParameter &p) { p.set(QString("x")); });
+        row("no value", filledTexts() + "no value", [](VParameter &p) { p.set(QVariant()); });
+        row("a list of nine texts as a value", filledTexts() + "QStringList 0,1,2,true,4,5,6,7,8",
             [](VParameter &p) { p.set(QVariant(entry("true"))); });
 
-        row("an entry leaves the value", entryTexts + "single, double 1.5",
+        row("an entry leaves the value", entryTexts() + "single, double 1.5",
             [](VParameter &p) { p.set(entry("false")); });
-        row("an entry after clear()", entryTexts + "multi, no value",
+        row("an entry after clear()", entryTexts() + "multi, no value",
             [](VParameter &p) { p.clear(), p.set(entry("true")); });
         row("null texts of an entry stay null",
             "null null null null null null null null, multi, double 1.5",
             [](VParameter &p) { p.set(QVector<QString>(9).toList()); });
-        row("eight texts change nothing", filledTexts + "double 1.5",
+        row("eight texts change nothing", filledTexts() + "double 1.5",
             [](VParameter &p) { p.set(entry("false").mid(1)); });
-        row("ten texts change nothing", filledTexts + "double 1.5",
+        row("ten texts change nothing", filledTexts() + "double 1.5",
             [](VParameter &p) { p.set(entry("false") << "9"); });
-        row("no texts change nothing", filledTexts + "double 1.5",
+        row("no texts change nothing", filledTexts() + "double 1.5",
             [](VParameter &p) { p.set(QStringList()); });
 
         const Change setSeven = [](VParameter &p) {
             p.set(2, { "n2", "N2" }, { "u2", "U2" }, "s2", { "g2", "G2" }, "o2", false);
         };
         row("seven fields", "'g2' 'G2' 'n2' 'N2' 'u2' 'U2' 's2' 'o2', single, int 2", setSeven);
-        row("another parameter", entryTexts + "single, no value",
+        row("another parameter", entryTexts() + "single, no value",
             [](VParameter &p) { p.set(VParameter(entry("false"))); });
-        row("itself", filledTexts + "double 1.5", [](VParameter &p) { p.set(p); });
-        row("assigned", cleared, [](VParameter &p) { p = VParameter(); });
-        row("cleared", cleared, [](VParameter &p) { p.clear(); });
+        row("itself", filledTexts() + "double 1.5", [](VParameter &p) { p.set(p); });
+        row("assigned", cleared(), [](VParameter &p) { p = VParameter(); });
+        row("cleared", cleared(), [](VParameter &p) { p.clear(); });
     }
     /// Nothing that is done to a parameter reaches its copies.
     void changes()
@@ -212,7 +231,7 @@ private Q_SLOTS:
         VParameter moved = std::move(source);
         QCOMPARE(fields(source), fields(filled()));
         source.clear();
-        QCOMPARE(fields(source), cleared);
+        QCOMPARE(fields(source), cleared());
         QCOMPARE(fields(moved), fields(filled()));
     }
 

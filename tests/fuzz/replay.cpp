@@ -42,7 +42,8 @@ int main(int argc, char **argv)
     for (int i = 1; i < argc; ++i)
         inputs += runFolder(QFile::decodeName(argv[i]));
 #ifdef KELTO_FUZZ_TAKES_FILES
-    for (const LargeInput &input : largeInputs())
+    const auto largeOnes = largeInputs();
+    for (const LargeInput &input : largeOnes)
         run(QLatin1String(input.name), input.bytes);
 #endif
     // A folder that has moved is not to look like success.

@@ -378,7 +378,8 @@ private Q_SLOTS:
         bool staysOpen = false;
         showAnd(*m_dialog, [&] {
             failUnless(field->toPlainText().isEmpty(), "the text field is not empty");
-            for (const Qt::Key key : Keys(4, Qt::Key_Tab) + Keys { Qt::Key_A, Qt::Key_Return })
+            const Keys keys = Keys(4, Qt::Key_Tab) + Keys { Qt::Key_A, Qt::Key_Return };
+            for (const Qt::Key key : keys)
                 press(*m_dialog, key);
             staysOpen = m_dialog->isVisible();
             click(*m_dialog, "pushButton_Default");
