@@ -117,7 +117,7 @@ QByteArray fileWith(const QString &text)
 {
     QByteArray bytes = "before=1\nvalue=\"";
     for (const QChar c : text)
-        bytes += "\\x" + QByteArray::number(c.unicode(), 16) + "\\\n";
+        bytes.append("\\x").append(QByteArray::number(c.unicode(), 16)).append("\\\n");
     return bytes + "\"\nbehind=1\n";
 }
 
