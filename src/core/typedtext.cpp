@@ -90,6 +90,11 @@ bool isFlat(int type)
     }
 }
 
+bool hasWindows()
+{
+    return qobject_cast<QGuiApplication *>(QCoreApplication::instance());
+}
+
 /// Whether an old regular expression is small: it is compiled as soon as it is read, with every
 /// group as often as it is repeated.
 bool isModest(const QString &pattern)
@@ -107,7 +112,7 @@ bool isModest(const QString &pattern)
         single = isGroup ? single : qMax(single, qMin(count, mostStates));
     }
     return pattern.count(QLatin1Char('(')) <= deepestLevel
-        && groups * single * pattern.size() <= mostStates;
+        && qMin(groups * single, mostStates + 1) * pattern.size() <= mostStates;
 }
 
 /// Bytes that seem to end as soon as their reader has used too much of the stack, which stops a
@@ -283,8 +288,9 @@ bool SerialisedWalk::image()
     auto size = next<quint32>();
     auto chunk = next<quint32>();
     const qint64 dimensions = m_buffer.pos();
-    const qint64 width = next<quint32>();
-    m_pixels += width * next<quint32>();
+    // Limited one by one, as the product of the greatest sizes would not fit.
+    const qint64 width = qMin<qint64>(next<quint32>(), mostPixels + 1);
+    m_pixels += width * qMin<qint64>(next<quint32>(), mostPixels + 1);
     if (chunk != header || m_pixels > mostPixels)
         return false;
     m_buffer.seek(dimensions);
@@ -299,7 +305,7 @@ bool SerialisedWalk::image()
 
 bool SerialisedWalk::pixmap()
 {
-    return qobject_cast<QGuiApplication *>(QCoreApplication::instance()) && image();
+    return hasWindows() && image();
 }
 
 bool SerialisedWalk::brush()
@@ -338,7 +344,7 @@ bool SerialisedWalk::pen()
 
 bool SerialisedWalk::cursor()
 {
-    if (!qobject_cast<QGuiApplication *>(QCoreApplication::instance()))
+    if (!hasWindows())
         return false;
     if (next<qint16>() != Qt::BitmapCursor)
         return true;

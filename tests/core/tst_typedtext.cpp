@@ -354,6 +354,9 @@ private Q_SLOTS:
         QImage large(8193, 8193, QImage::Format_Mono);
         large.fill(0);
         row("an image of too many pixels", serialised(large, QDataStream::Qt_4_0));
+        hex("an image of the greatest size",
+            "000000460000000189504e470d0a1a0a0000000d49484452ffffffffffffffff080300000061f857bb"
+            "0000000049454e44ae426082");
         hex("an image that is cut off", "000000460000000189504e470d0a1a0a0000000d4948");
         hex("a type that no version knows", "0000005a00000000");
         row("values in values", number(0x8a).repeated(5000));
