@@ -17,6 +17,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <iterator>
+#include <type_traits>
 
 namespace {
 
@@ -156,8 +157,7 @@ public:
 
 private:
     bool readByQt(qint64 start);
-    bool values(int level, bool haveKeys);
-    bool textFormat(int level);
+    template <typename Key> bool values(int level);
     bool image();
     bool pixmap();
     bool brush();
@@ -197,18 +197,31 @@ bool SerialisedWalk::value(int level)
     return isFlat(type) || type >= QMetaType::User ? readByQt(start) : compound(type, level + 1);
 }
 
+/// A list that ends before its count is reached is safe: Qt notices that itself.
+template <typename Key> bool SerialisedWalk::values(int level)
+{
+    const auto count = next<quint32>();
+    for (quint32 i = 0; i < count && m_stream.status() == QDataStream::Ok; ++i) {
+        if constexpr (!std::is_void_v<Key>)
+            next<Key>();
+        if (!value(level))
+            return false;
+    }
+    return true;
+}
+
 bool SerialisedWalk::compound(int type, int level)
 {
     switch (type) {
     case QMetaType::QVariant:
         return value(level);
     case QMetaType::QVariantList:
-        return values(level, false);
+        return values<void>(level);
     case QMetaType::QVariantMap:
     case QMetaType::QVariantHash:
-        return values(level, true);
+        return values<QString>(level);
     case QMetaType::QTextFormat:
-        return textFormat(level);
+        return skip(sizeof(qint32)) && values<qint32>(level);
     case QMetaType::QRegExp:
         return isModest(next<QString>()) && skip(3);
     case QMetaType::QImage:
@@ -245,31 +258,6 @@ bool SerialisedWalk::readByQt(qint64 start)
     m_stream >> value;
     m_buffer.setBottom(nullptr);
     return !m_buffer.isDeep();
-}
-
-/// A list that ends before its count is reached is safe: Qt notices that itself.
-bool SerialisedWalk::values(int level, bool haveKeys)
-{
-    const auto count = next<quint32>();
-    for (quint32 i = 0; i < count && m_stream.status() == QDataStream::Ok; ++i) {
-        if (haveKeys)
-            next<QString>();
-        if (!value(level))
-            return false;
-    }
-    return true;
-}
-
-bool SerialisedWalk::textFormat(int level)
-{
-    if (!skip(sizeof(qint32)))
-        return false;
-    const auto count = next<quint32>();
-    for (quint32 i = 0; i < count && m_stream.status() == QDataStream::Ok; ++i) {
-        if (!skip(sizeof(qint32)) || !value(level))
-            return false;
-    }
-    return true;
 }
 
 /// Pictures are stored as PNG. On other bytes Qt would try the readers of all formats, and after a

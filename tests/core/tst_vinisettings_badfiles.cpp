@@ -212,6 +212,14 @@ private Q_SLOTS:
         QCOMPARE(fileContent("f.ini.bak3"), junk(8));
         QCOMPARE(fileContent("f.ini.bak4"), junk(7));
         QCOMPARE(filesIn(".").size(), 6);
+        QVERIFY(writeFile("f.ini", junk(10)));
+        setAndSave("f.ini", "value");
+        QCOMPARE(fileContent("f.ini.bak"), junk(10));
+        QCOMPARE(fileContent("f.ini.bak2"), junk(9));
+        QCOMPARE(fileContent("f.ini.bak3"), junk(6));
+        QCOMPARE(fileContent("f.ini.bak4"), junk(8));
+        QCOMPARE(fileContent("f.ini.bak5"), junk(7));
+        QCOMPARE(filesIn(".").size(), 6);
     }
 
     void keepsOneCopyOfTheSame()
