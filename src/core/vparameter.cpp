@@ -3,7 +3,7 @@
 
 #include "vparameter.h"
 
-#include "core/parameterentry_p.h"
+#include "keltoparameterentry.h"
 
 #include <utility>
 
@@ -130,19 +130,21 @@ void VParameter::set(QVariant value, QPair<QString, QString> name, QPair<QString
 
 void VParameter::set(QStringList sets)
 {
-    if (sets.size() != ParameterEntry::PlaceCount)
+    if (sets.size() != KeltoParameterEntry::PlaceCount)
         return;
     VParameterData &fields = *d;
-    fields.group = { sets.at(ParameterEntry::Group), sets.at(ParameterEntry::TranslatedGroup) };
-    fields.name = { sets.at(ParameterEntry::Key), sets.at(ParameterEntry::TranslatedKey) };
-    fields.unit = { sets.at(ParameterEntry::Unit), sets.at(ParameterEntry::SecondUnit) };
-    fields.parameterObjectName = sets.at(ParameterEntry::ObjectName);
+    fields.group
+        = { sets.at(KeltoParameterEntry::Group), sets.at(KeltoParameterEntry::TranslatedGroup) };
+    fields.name
+        = { sets.at(KeltoParameterEntry::Key), sets.at(KeltoParameterEntry::TranslatedKey) };
+    fields.unit = { sets.at(KeltoParameterEntry::Unit), sets.at(KeltoParameterEntry::SecondUnit) };
+    fields.parameterObjectName = sets.at(KeltoParameterEntry::ObjectName);
     // With neither word the flag stays.
-    if (sets.at(ParameterEntry::Multi) == QLatin1String("true"))
+    if (sets.at(KeltoParameterEntry::Multi) == QLatin1String("true"))
         fields.multi = true;
-    if (sets.at(ParameterEntry::Multi) == QLatin1String("false"))
+    if (sets.at(KeltoParameterEntry::Multi) == QLatin1String("false"))
         fields.multi = false;
-    fields.symbol = sets.at(ParameterEntry::Symbol);
+    fields.symbol = sets.at(KeltoParameterEntry::Symbol);
 }
 
 void VParameter::set(VParameter other)
@@ -171,7 +173,7 @@ bool VParameter::isEqual(const VParameter *other) const
 
 QStringList VParameter::toSetsForm() const
 {
-    // In the order of ParameterEntry::Place.
+    // In the order of KeltoParameterEntry::Place.
     return { d->group.first,      d->name.first,  d->parameterObjectName,
              multiWord(d->multi), d->unit.first,  d->unit.second,
              d->symbol,           d->name.second, d->group.second };

@@ -6,7 +6,7 @@
 #include "auth_inf.h"
 
 #include "core/firstpositions_p.h"
-#include "core/parameterentry_p.h"
+#include "keltoparameterentry.h"
 
 #include <algorithm>
 
@@ -23,7 +23,7 @@ QVector<QStringList> entriesOfMode(const AUTH_INF &item, const QString &mode)
 bool holdsKey(const QVector<QStringList> &entries, const QString &key)
 {
     return std::any_of(entries.cbegin(), entries.cend(), [&key](const QStringList &entry) {
-        return entry.value(ParameterEntry::Key) == key;
+        return entry.value(KeltoParameterEntry::Key) == key;
     });
 }
 
@@ -51,7 +51,7 @@ QStringList AUTH_INF::inner_mode_keylist_of(QString mode) const
     QStringList keys;
     keys.reserve(entries.size());
     for (const QStringList &entry : entries)
-        keys.append(entry.value(ParameterEntry::Key));
+        keys.append(entry.value(KeltoParameterEntry::Key));
     return keys;
 }
 

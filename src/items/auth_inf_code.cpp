@@ -5,9 +5,9 @@
 
 #include "auth_inf.h"
 
-#include "core/parameterentry_p.h"
 #include "items/innermodelimit_p.h"
 #include "items/sourcewriter_p.h"
+#include "keltoparameterentry.h"
 
 namespace {
 
@@ -49,8 +49,8 @@ QStringList valuesOf(const QStringList &entry, const SourceWriter &writer)
     QStringList values;
     values.reserve(entry.size());
     for (int place = 0; place < entry.size(); ++place) {
-        const bool isTranslated
-            = place == ParameterEntry::TranslatedKey || place == ParameterEntry::TranslatedGroup;
+        const bool isTranslated = place == KeltoParameterEntry::TranslatedKey
+            || place == KeltoParameterEntry::TranslatedGroup;
         values.append(isTranslated ? writer.translated(entry.at(place))
                                    : writer.quoted(entry.at(place)));
     }

@@ -6,7 +6,7 @@
 #include "auth_inf.h"
 
 #include "core/firstpositions_p.h"
-#include "core/parameterentry_p.h"
+#include "keltoparameterentry.h"
 #include "vinisettings.h"
 
 #include <QHash>
@@ -42,7 +42,7 @@ QString fieldKey(const char *field)
 
 QString keyOf(const QStringList &entry)
 {
-    return entry.value(ParameterEntry::Key);
+    return entry.value(KeltoParameterEntry::Key);
 }
 
 // --- Saving ----------------------------------------------------------------------
@@ -71,19 +71,19 @@ void writeFields(VIniSettings &file, const AUTH_INF &item)
 void writeEntry(VIniSettings &file, const QStringList &entry)
 {
     const QString key = keyOf(entry);
-    const QStringList units { entry.value(ParameterEntry::Unit),
-                              entry.value(ParameterEntry::SecondUnit) };
+    const QStringList units { entry.value(KeltoParameterEntry::Unit),
+                              entry.value(KeltoParameterEntry::SecondUnit) };
     file.setValue(keyIn(Section::unit, key), units);
-    file.setValue(keyIn(Section::symbol, key), entry.value(ParameterEntry::Symbol));
-    file.setValue(keyIn(Section::multi, key), entry.value(ParameterEntry::Multi));
-    file.setValue(keyIn(Section::objectName, key), entry.value(ParameterEntry::ObjectName));
-    file.setValue(keyIn(Section::group, key), entry.value(ParameterEntry::Group));
+    file.setValue(keyIn(Section::symbol, key), entry.value(KeltoParameterEntry::Symbol));
+    file.setValue(keyIn(Section::multi, key), entry.value(KeltoParameterEntry::Multi));
+    file.setValue(keyIn(Section::objectName, key), entry.value(KeltoParameterEntry::ObjectName));
+    file.setValue(keyIn(Section::group, key), entry.value(KeltoParameterEntry::Group));
 }
 
 void writeResults(VIniSettings &file, const QVector<QStringList> &results)
 {
     for (const QStringList &entry : results) {
-        if (entry.size() != ParameterEntry::PlaceCount)
+        if (entry.size() != KeltoParameterEntry::PlaceCount)
             continue;
         file.setValue(keyIn(Section::result, keyOf(entry)), QString());
         writeEntry(file, entry);
@@ -186,7 +186,7 @@ QStringList readEntry(const VIniSettings &file, const QString &key)
 {
     const QStringList units = file.value(keyIn(Section::unit, key)).toStringList();
     const QString group = file.value(keyIn(Section::group, key)).toString();
-    // In the order of ParameterEntry::Place.
+    // In the order of KeltoParameterEntry::Place.
     return { group,
              key,
              file.value(keyIn(Section::objectName, key)).toString(),

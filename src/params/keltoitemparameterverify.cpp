@@ -4,7 +4,7 @@
 #include "keltoitemparameterverify.h"
 
 #include "auth_inf.h"
-#include "core/parameterentry_p.h"
+#include "keltoparameterentry.h"
 #include "vinisettings.h"
 
 #include <QSet>
@@ -16,10 +16,10 @@ QStringList requiredKeys(const QVector<QStringList> &entries, const QSet<QString
 {
     QStringList keys;
     for (const QStringList &entry : entries) {
-        const bool isSkipped = skipGroups.contains(entry.value(ParameterEntry::Group))
-            || skipGroups.contains(entry.value(ParameterEntry::TranslatedGroup));
+        const bool isSkipped = skipGroups.contains(entry.value(KeltoParameterEntry::Group))
+            || skipGroups.contains(entry.value(KeltoParameterEntry::TranslatedGroup));
         if (!isSkipped)
-            keys.append(QLatin1String("Attribute/") + entry.value(ParameterEntry::Key));
+            keys.append(QLatin1String("Attribute/") + entry.value(KeltoParameterEntry::Key));
     }
     return keys;
 }

@@ -13,6 +13,7 @@
 #include <QVector>
 
 class AUTH_INF;
+struct KeltoItemFinding;
 
 /**
  * The check, before a calculation, that a value was entered for every parameter.
@@ -44,6 +45,49 @@ public:
     /// The same with every parameter of the mode required.
     static bool isValid(const AUTH_INF *item, const QVector<QPair<QString, QVariant>> *values,
                         QString mode);
+
+    /**
+     * The value keys that isValid() finds absent, "Attribute/" and the key of the parameter, in the
+     * order of the entries and each once.
+     *
+     * @return empty for an unknown mode, a mode without parameters and for null pointers, where
+     *         isValid() is false without any key to name; explain() tells these apart.
+     */
+    static QStringList missing(const AUTH_INF *item,
+                               const QVector<QPair<QString, QVariant>> *values, QString mode,
+                               QStringList skipGroups);
+
+    /// The same with one sub-group to skip.
+    static QStringList missing(const AUTH_INF *item,
+                               const QVector<QPair<QString, QVariant>> *values, QString mode,
+                               QString skipGroup);
+
+    /// The same with every parameter of the mode required.
+    static QStringList missing(const AUTH_INF *item,
+                               const QVector<QPair<QString, QVariant>> *values, QString mode);
+
+    /**
+     * Everything that keeps a person from calculating: what is missing, and which values do not fit
+     * the hints of the item, in the order of the entries; see KeltoItemFinding.
+     *
+     * isValid() is true exactly when no finding is an absence. Values of skipped sub-groups are not
+     * looked at, nor are those that do not count, see KeltoItemHints::counts().
+     *
+     * @return empty for null pointers.
+     */
+    static QVector<KeltoItemFinding> explain(const AUTH_INF *item,
+                                             const QVector<QPair<QString, QVariant>> *values,
+                                             QString mode, QStringList skipGroups);
+
+    /// The same with one sub-group to skip.
+    static QVector<KeltoItemFinding> explain(const AUTH_INF *item,
+                                             const QVector<QPair<QString, QVariant>> *values,
+                                             QString mode, QString skipGroup);
+
+    /// The same with every parameter of the mode required.
+    static QVector<KeltoItemFinding> explain(const AUTH_INF *item,
+                                             const QVector<QPair<QString, QVariant>> *values,
+                                             QString mode);
 };
 
 #endif

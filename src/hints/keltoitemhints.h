@@ -1,0 +1,158 @@
+// SPDX-FileCopyrightText: The Kelto developers
+// SPDX-License-Identifier: MIT
+
+#ifndef KELTOITEMHINTS_H
+#define KELTOITEMHINTS_H
+
+#include "kelto_export.h"
+
+#include <QPair>
+#include <QSharedDataPointer>
+#include <QString>
+#include <QStringList>
+#include <QVariant>
+#include <QVector>
+
+class AUTH_INF;
+class AUTH_SET;
+class KeltoItemHintsData;
+class VParameter;
+
+/**
+ * What the extra keys of a module item say about its parameters and results: with what value a
+ * form starts, which values are allowed, what may stay empty, how it is called and explained, and
+ * in which order things stand.
+ *
+ * | extra key                           | its text                                                |
+ * |-------------------------------------|---------------------------------------------------------|
+ * | `Default.key`                       | the value; several values are joined by ";"             |
+ * | `Min.key`, `Max.key`                | a number with "." as decimal sign; the limit is allowed |
+ * | `Choices.key`                       | values joined by "|", each may be "value=label"         |
+ * | `Optional.key`, `Advanced.key`      | "true" or "false"                                       |
+ * | `When.key`                          | "other=value|value", other is the key of a parameter    |
+ * | `Help.key`, `Label.key`             | text for a person, translated                           |
+ * | `Files.key`                         | name filters as QFileDialog takes them, joined by ";;"  |
+ * | `Order`                             | keys joined by "|"                                      |
+ * | `Belong.key`                        | of a result: inner modes joined by "|"                  |
+ *
+ * `key` is all that stands behind the first dot. "@" and the plain name of an inner mode behind it
+ * make a hint count for that mode only; it replaces the one without. A value has to be one text:
+ * one that a file holds as a list was not quoted.
+ *
+ * A hint that makes no sense counts as absent, and problems() lists it. Parameters and results that
+ * are unknown have no hints: every question about them has the answer that it has without a hint.
+ *
+ * Objects are values: cheap to copy, and independent of the item or registry that they were made
+ * from. Texts for persons are looked up in the item's translation context when they are asked for,
+ * so they follow a change of language.
+ */
+class KELTO_EXPORT KeltoItemHints
+{
+public:
+    /// A value that can be chosen, and how a person reads it; the value itself where it has no
+    /// label.
+    struct Choice
+    {
+        QString value;
+        QString label;
+    };
+
+    /// Something wrong with an extra key, which does not count for that reason.
+    struct KELTO_EXPORT Problem
+    {
+        enum Kind {
+            UnknownKey, ///< No parameter or result has this key.
+            UnknownMode, ///< No inner mode has the name behind "@" or in the list of a result.
+            NotOneText, ///< A list, or another value that has no text.
+            NotANumber, ///< A limit, or the default of a number.
+            NotABoolean, ///< Neither "true" nor "false".
+            EmptyLimits, ///< The minimum is above the maximum; neither counts.
+            DefaultOutsideLimits,
+            DefaultNotAChoice,
+            BadChoices, ///< None at all, or one value twice.
+            BadCondition, ///< Without "=", on an unknown parameter, or in a circle.
+            DuplicateHint, ///< An extra key that stands in the item before; the first counts.
+        };
+
+        Kind kind;
+        QString extraKey; ///< Whole, as the item has it.
+        QString value; ///< Its text.
+        /// A sentence that says what is wrong, in the language of the program.
+        QString text() const;
+    };
+
+    /// No hints.
+    KeltoItemHints();
+    /// The hints of @p item for all modes: those with "@" and a mode do not count.
+    explicit KeltoItemHints(AUTH_INF item);
+    /// The hints of @p item for the inner mode of this plain or translated name. For an unknown
+    /// mode the same as without one.
+    KeltoItemHints(AUTH_INF item, QString mode);
+    /// The hints for a mode of an exclusive group, both by plain or translated name. Where modules
+    /// of the group share the name, the first counts, as in AUTH_SET::defaultParameterList(). No
+    /// hints for an unknown group or mode and for null. @p registry is only read here.
+    KeltoItemHints(const AUTH_SET *registry, QString group, QString mode);
+    /// The same by the mode's position in its group, which tells modes of one name apart.
+    KeltoItemHints(const AUTH_SET *registry, QString group, int position);
+    KeltoItemHints(const KeltoItemHints &other);
+    KeltoItemHints(KeltoItemHints &&other) noexcept;
+    KeltoItemHints &operator=(const KeltoItemHints &other);
+    KeltoItemHints &operator=(KeltoItemHints &&other) noexcept;
+    ~KeltoItemHints();
+
+    /// Plain name of the inner mode that the hints are for; empty for all modes.
+    QString mode() const;
+
+    /// The value a form starts with, as it is stored: a QString, for several values a QStringList.
+    /// Invalid without a default.
+    QVariant defaultValue(QString key) const;
+    /// Lowest and highest number that is allowed; minus and plus infinity without a limit.
+    double minimum(QString key) const;
+    double maximum(QString key) const;
+    /// The values that can be chosen, in the order of the hint; empty where any can be entered.
+    QVector<Choice> choices(QString key) const;
+    /// Whether the parameter may stay empty; it is then stored as an empty text.
+    bool isOptional(QString key) const;
+    /// Whether a form shows the parameter on demand only.
+    bool isAdvanced(QString key) const;
+    /// Whether the parameter counts beside these @p values, whose keys begin with "Attribute/":
+    /// true without a condition, or while the parameter that it names counts and has one of the
+    /// values. What does not count is stored as an empty text.
+    bool counts(QString key, const QVector<QPair<QString, QVariant>> *values) const;
+    /// Key of the parameter on which it depends whether this one counts; empty without a condition.
+    QString conditionKey(QString key) const;
+    /// The values of that parameter with which this one counts.
+    QStringList conditionValues(QString key) const;
+    /// Name for a person in place of the key, translated; empty without one.
+    QString label(QString key) const;
+    /// A sentence or more that explains it, translated; empty without one.
+    QString help(QString key) const;
+    /// Name filters for a file dialog, one element each; empty for all files.
+    QStringList fileFilters(QString key) const;
+    /// The keys that `Order` names, in this order, without unknown ones.
+    QStringList order() const;
+    /// The plain names of the inner modes that give a result; all modes without the hint, none for
+    /// what is no result.
+    QStringList resultModes(QString key) const;
+
+    /// The same records in the order of the hint: what it names first, then the rest as before.
+    QVector<VParameter> ordered(QVector<VParameter> parameters) const;
+    /// The parameters of the mode, sorted like AUTH_SET::defaultParameterList() and then ordered().
+    /// Empty without a mode.
+    QVector<VParameter> parameters() const;
+    /// The results that the mode gives, sorted and ordered in the same way; without a mode all
+    /// results of the item.
+    QVector<VParameter> results() const;
+
+    /// @p text in the language of the program, from the item's translation context.
+    QString translated(QString text) const;
+
+    /// Everything that is wrong with the hints of the item, for all of its modes, in the order of
+    /// its extra keys.
+    QVector<Problem> problems() const;
+
+private:
+    QSharedDataPointer<KeltoItemHintsData> d;
+};
+
+#endif
