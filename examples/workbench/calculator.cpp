@@ -4,15 +4,21 @@
 #include "calculator.h"
 
 #include "calculations/beam.h"
+#include "calculations/inputcheck.h"
 #include "calculations/spring.h"
+#include "calculations/units.h"
 #include "calculations/vessel.h"
 #include "calculations/wall.h"
-#include "entry.h"
-#include "numbers.h"
 
 #include <Kelto/AUTH_INF>
+#include <Kelto/KeltoItemParameterTransform>
+#include <Kelto/KeltoParameterEntry>
+#include <Kelto/VIniSettings>
+#include <Kelto/VParameter>
 
 #include <QCoreApplication>
+#include <QLocale>
+#include <QMap>
 
 namespace {
 
@@ -21,139 +27,263 @@ struct Texts
     Q_DECLARE_TR_FUNCTIONS(Calculator)
 };
 
-/// The input of a formula, in SI units.
+QString attributeKey(const QString &key)
+{
+    return QStringLiteral("Attribute/") + key;
+}
+
+QString unitKey(const QString &key)
+{
+    return QStringLiteral("Unit/") + key;
+}
+
+/// Of a list, multiplication2D() keeps six significant digits, of a single number all.
+double scaled(double number, double factor)
+{
+    const VParameter singleNumber;
+    return KeltoItemParameterTransform::multiplication2D(&singleNumber, number, { factor })
+        .toDouble();
+}
+
+/// What an inner mode declares, by key: its parameters and the results of its module.
+using Entries = QMap<QString, QStringList>;
+
+Entries entriesOf(const AUTH_INF &module, const QString &mode)
+{
+    Entries entries;
+    const int position = module.inner_mode_nameList.indexOf(mode);
+    const auto declared = module.inner_mode_parameterList.value(position) + module.output_results;
+    for (const QStringList &entry : declared)
+        entries.insert(entry.value(KeltoParameterEntry::Key), entry);
+    return entries;
+}
+
+/// The input of a formula, in SI units. The first problem with it is kept.
 class Input
 {
 public:
-    explicit Input(const NumbersByKey &values)
-        : m_values(values)
+    Input(const Entries &entries, const Values &values)
+        : m_entries(entries)
+        , m_values(values)
     {
     }
 
-    double operator()(const char *key) const { return list(key).value(0); }
-    QVector<double> list(const char *key) const { return m_values.value(QString::fromUtf8(key)); }
+    double operator()(const char *key) { return list(key).value(0); }
+
+    /// Of a parameter that may stay empty.
+    double orZero(const char *key) { return value(key).toString().isEmpty() ? 0 : (*this)(key); }
+
+    QVector<double> list(const char *key)
+    {
+        const QVariant all = value(key);
+        const QVariantList several = all.toList(); // empty where there is no list
+        const QVariantList parts = several.isEmpty() ? QVariantList { all } : several;
+        const double factor = siFactorOf(QString::fromUtf8(key));
+        QVector<double> numbers;
+        for (const QVariant &part : parts) {
+            bool isNumber = false;
+            const double number = part.toDouble(&isNumber);
+            require(isNumber, Texts::tr("%1: enter a number."), key);
+            numbers.append(scaled(number, factor));
+        }
+        return numbers;
+    }
+
+    template <typename Choice> Choice choice(const char *key, const QMap<QString, Choice> &choices)
+    {
+        const QString chosen = value(key).toString();
+        require(choices.contains(chosen), Texts::tr("%1: choose one of the values on offer."), key);
+        return choices.value(chosen);
+    }
+
+    QString problem() const { return m_problem; }
 
 private:
-    NumbersByKey m_values;
+    QVariant value(const char *key) const
+    {
+        return m_values.value(attributeKey(QString::fromUtf8(key)));
+    }
+
+    double siFactorOf(const QString &key)
+    {
+        QString unit = m_values.value(unitKey(key)).toString();
+        if (unit.isEmpty())
+            unit = m_entries.value(key).value(KeltoParameterEntry::Unit);
+        const double factor = siFactor(unit);
+        if (factor == 0 && m_problem.isEmpty())
+            m_problem = Texts::tr("The unit \"%1\" is unknown.").arg(unit);
+        return factor;
+    }
+
+    void require(bool condition, const QString &problem, const char *key)
+    {
+        if (!condition && m_problem.isEmpty())
+            m_problem = problem.arg(InputCheck::nameOf(key));
+    }
+
+    Entries m_entries;
+    VIniSettings m_values;
+    QString m_problem;
 };
 
 /// The results of a formula, in SI units.
-class Output
+struct Output
 {
-public:
-    Output &add(const char *key, double number) { return add(key, QVector<double> { number }); }
+    QMap<QString, QVector<double>> results;
+    QVector<Curve> curves;
+
     Output &add(const char *key, const QVector<double> &numbers)
     {
-        m_values.insert(QString::fromUtf8(key), numbers);
+        results.insert(QString::fromUtf8(key), numbers);
         return *this;
     }
-    Outcome<NumbersByKey> withProblem(const QString &problem) const
-    {
-        return { m_values, problem };
-    }
-
-private:
-    NumbersByKey m_values;
+    Output &add(const char *key, double number) { return add(key, QVector<double> { number }); }
 };
 
-template <Beam::Support support> Outcome<NumbersByKey> beam(const Input &in)
+/// An outcome without results, but with what all outcomes have.
+template <typename Result> Outcome<Output> started(const Outcome<Result> &outcome)
 {
-    const auto outcome
-        = Beam::calculate(support,
-                          { in("Length"), in("Section width"), in("Section height"),
-                            in("Elastic modulus"), in("Point load"), in("Line load") });
-    return Output()
-        .add("Deflection", outcome.result.deflection)
-        .add("Slope", outcome.result.slope)
-        .add("Bending moment", outcome.result.bendingMoment)
-        .add("Bending stress", outcome.result.bendingStress)
-        .withProblem(outcome.problem);
+    return { { {}, outcome.result.curves }, outcome.problem };
 }
 
-Spring::Coil coil(const Input &in)
+// --- Which key stands for which quantity -----------------------------------------
+
+Beam::Section section(Input &in)
+{
+    using Beam::Shape;
+    Beam::Section section;
+    section.shape = in.choice<Shape>("Section",
+                                     { { QStringLiteral("rectangle"), Shape::Rectangle },
+                                       { QStringLiteral("bar"), Shape::RoundBar },
+                                       { QStringLiteral("tube"), Shape::RoundTube } });
+    if (section.shape == Shape::Rectangle) {
+        section.width = in("Section width");
+        section.height = in("Section height");
+        return section;
+    }
+    section.diameter = in("Section diameter");
+    if (section.shape == Shape::RoundTube)
+        section.tubeThickness = in("Tube wall thickness");
+    return section;
+}
+
+template <Beam::Support support> Outcome<Output> beam(Input &in)
+{
+    const auto beam = Beam::calculate(support,
+                                      { in("Length"), section(in), in("Elastic modulus"),
+                                        in.orZero("Point load"), in.orZero("Line load") });
+    auto outcome = started(beam);
+    outcome.result.add("Deflection", beam.result.deflection)
+        .add("Slope", beam.result.slope)
+        .add("Shear force", beam.result.shearForce)
+        .add("Bending moment", beam.result.bendingMoment)
+        .add("Bending stress", beam.result.bendingStress);
+    return outcome;
+}
+
+Spring::Coil coil(Input &in)
 {
     return { in("Wire diameter"), in("Mean coil diameter"), in("Active coils") };
 }
 
-Outcome<NumbersByKey> axialSpring(const Outcome<Spring::AxialResult> &outcome)
+Spring::Ends ends(Input &in)
 {
-    return Output()
-        .add("Spring rate", outcome.result.rate)
-        .add("Spring deflection", outcome.result.deflection)
-        .add("Curvature factor", outcome.result.curvatureFactor)
-        .add("Shear stress", outcome.result.shearStress)
-        .withProblem(outcome.problem);
+    using Spring::Ends;
+    return in.choice<Ends>("Spring ends",
+                           { { QStringLiteral("closed-ground"), Ends::ClosedAndGround },
+                             { QStringLiteral("closed"), Ends::Closed },
+                             { QStringLiteral("plain-ground"), Ends::PlainAndGround },
+                             { QStringLiteral("plain"), Ends::Plain } });
 }
 
-Outcome<NumbersByKey> compressionSpring(const Input &in)
+Outcome<Output> axialSpring(const Outcome<Spring::AxialResult> &spring)
 {
-    return axialSpring(
-        Spring::compression(coil(in), in("Shear modulus"), in("Force"), in("Free length")));
+    auto outcome = started(spring);
+    outcome.result.add("Spring rate", spring.result.rate)
+        .add("Spring deflection", spring.result.deflection)
+        .add("Curvature factor", spring.result.curvatureFactor)
+        .add("Shear stress", spring.result.shearStress);
+    return outcome;
 }
 
-Outcome<NumbersByKey> extensionSpring(const Input &in)
+Outcome<Output> compressionSpring(Input &in)
 {
-    return axialSpring(
-        Spring::extension(coil(in), in("Shear modulus"), in("Force"), in("Initial tension")));
+    const auto spring = Spring::compression(coil(in), ends(in), in("Shear modulus"), in("Force"),
+                                            in("Free length"));
+    auto outcome = axialSpring(spring);
+    outcome.result.add("Solid length", spring.result.solidLength);
+    return outcome;
 }
 
-Outcome<NumbersByKey> torsionSpring(const Input &in)
+Outcome<Output> extensionSpring(Input &in)
 {
-    const auto outcome = Spring::torsion(coil(in), in("Elastic modulus"), in("Torque"));
-    return Output()
-        .add("Torsional rate", outcome.result.rate)
-        .add("Angle of twist", outcome.result.angle)
-        .add("Curvature factor", outcome.result.curvatureFactor)
-        .add("Bending stress", outcome.result.bendingStress)
-        .withProblem(outcome.problem);
+    return axialSpring(Spring::extension(coil(in), in("Shear modulus"), in("Force"),
+                                         in.orZero("Initial tension")));
 }
 
-Outcome<NumbersByKey> vessel(const Outcome<Vessel::Result> &outcome)
+Outcome<Output> torsionSpring(Input &in)
 {
-    return Output()
-        .add("Hoop stress inside", outcome.result.hoop.inner)
-        .add("Hoop stress mid-wall", outcome.result.hoop.middle)
-        .add("Hoop stress outside", outcome.result.hoop.outer)
-        .add("Radial stress inside", outcome.result.radial.inner)
-        .add("Radial stress mid-wall", outcome.result.radial.middle)
-        .add("Radial stress outside", outcome.result.radial.outer)
-        .add("Axial stress", outcome.result.axial)
-        .withProblem(outcome.problem);
+    const auto spring = Spring::torsion(coil(in), in("Elastic modulus"), in("Torque"));
+    auto outcome = started(spring);
+    outcome.result.add("Torsional rate", spring.result.rate)
+        .add("Angle of twist", spring.result.angle)
+        .add("Curvature factor", spring.result.curvatureFactor)
+        .add("Bending stress", spring.result.bendingStress);
+    return outcome;
 }
 
-Outcome<NumbersByKey> thinVessel(const Input &in)
+Outcome<Output> vessel(const Outcome<Vessel::Result> &vessel)
+{
+    auto outcome = started(vessel);
+    outcome.result.add("Hoop stress inside", vessel.result.hoop.inner)
+        .add("Hoop stress mid-wall", vessel.result.hoop.middle)
+        .add("Hoop stress outside", vessel.result.hoop.outer)
+        .add("Radial stress inside", vessel.result.radial.inner)
+        .add("Radial stress mid-wall", vessel.result.radial.middle)
+        .add("Radial stress outside", vessel.result.radial.outer)
+        .add("Axial stress", vessel.result.axial)
+        .add("Diameter growth", vessel.result.diameterGrowth);
+    return outcome;
+}
+
+Vessel::Shell shell(Input &in)
+{
+    return { in("Inner diameter"), in("Wall thickness"), in("Elastic modulus"),
+             in("Poisson ratio") };
+}
+
+Outcome<Output> thinVessel(Input &in)
+{
+    return vessel(Vessel::thinWall(shell(in), in("Internal pressure")));
+}
+
+Outcome<Output> thickVessel(Input &in)
 {
     return vessel(
-        Vessel::thinWall(in("Inner diameter"), in("Wall thickness"), in("Internal pressure")));
+        Vessel::thickWall(shell(in), in("Internal pressure"), in.orZero("External pressure")));
 }
 
-Outcome<NumbersByKey> thickVessel(const Input &in)
-{
-    return vessel(Vessel::thickWall(in("Inner diameter"), in("Wall thickness"),
-                                    in("Internal pressure"), in("External pressure")));
-}
-
-Wall::Layers layers(const Input &in)
+Wall::Layers layers(Input &in)
 {
     return { in.list("Layer thickness"), in.list("Layer conductivity") };
 }
 
-Outcome<NumbersByKey> wall(const Outcome<Wall::Result> &outcome)
+Outcome<Output> wall(const Outcome<Wall::Result> &wall)
 {
-    return Output()
-        .add("Thermal resistance", outcome.result.resistance)
-        .add("Heat flux", outcome.result.heatFlux)
-        .add("Boundary temperatures", outcome.result.boundaryTemperatures)
-        .withProblem(outcome.problem);
+    auto outcome = started(wall);
+    outcome.result.add("Thermal resistance", wall.result.resistance)
+        .add("Heat flux", wall.result.heatFlux)
+        .add("Boundary temperatures", wall.result.boundaryTemperatures);
+    return outcome;
 }
 
-Outcome<NumbersByKey> steadyWall(const Input &in)
+Outcome<Output> steadyWall(Input &in)
 {
     return wall(
         Wall::steady(layers(in), in("Inner surface temperature"), in("Outer surface temperature")));
 }
 
-Outcome<NumbersByKey> convectionWall(const Input &in)
+Outcome<Output> convectionWall(Input &in)
 {
     return wall(
         Wall::withConvection(layers(in),
@@ -161,7 +291,7 @@ Outcome<NumbersByKey> convectionWall(const Input &in)
                              { in("Outer air temperature"), in("Outer film coefficient") }));
 }
 
-using Calculation = Outcome<NumbersByKey> (*)(const Input &);
+using Calculation = Outcome<Output> (*)(Input &);
 
 /// The calculation of an inner mode; null when there is none.
 Calculation calculationOf(const QString &module, const QString &mode)
@@ -182,119 +312,94 @@ Calculation calculationOf(const QString &module, const QString &mode)
     return calculations.value(name, nullptr);
 }
 
-QStringList unknownUnits(const QVector<QStringList> &entries)
+// --- From SI units to those of the entries ---------------------------------------
+
+/// The factor from SI units; 0 for what the module does not declare or for an unknown unit.
+double factorFromSi(const QStringList &entry)
 {
-    QStringList unknown;
-    for (const QStringList &entry : entries) {
-        const QString unit = entry.value(Entry::Unit);
-        if (siFactor(unit) == 0)
-            unknown.append(unit);
-    }
-    return unknown;
+    const double factor = siFactor(entry.value(KeltoParameterEntry::Unit));
+    return factor == 0 ? 0 : 1 / factor;
 }
 
-QVector<double> scaled(QVector<double> numbers, double factor)
+QVariant resultValue(const QVector<double> &numbers, const QStringList &entry)
 {
-    for (double &number : numbers)
-        number *= factor;
-    return numbers;
+    const double factor = factorFromSi(entry);
+    if (entry.value(KeltoParameterEntry::Multi) != QLatin1String("true"))
+        return scaled(numbers.value(0), factor);
+    QStringList texts;
+    for (const double number : numbers)
+        texts.append(QString::number(scaled(number, factor), 'g', QLocale::FloatingPointShortest));
+    return texts;
 }
 
-NumbersByKey inSi(const NumbersByKey &values, const QVector<QStringList> &entries)
+Values valuesOf(const Output &output, const QVector<QStringList> &entries)
 {
-    NumbersByKey si;
+    Values values;
     for (const QStringList &entry : entries) {
-        const QString key = entry.value(Entry::Key);
-        si.insert(key, scaled(values.value(key), siFactor(entry.value(Entry::Unit))));
-    }
-    return si;
-}
-
-/// Drops results that the module does not declare.
-NumbersByKey inUnits(const NumbersByKey &si, const QVector<QStringList> &entries)
-{
-    NumbersByKey values;
-    for (const QStringList &entry : entries) {
-        const QString key = entry.value(Entry::Key);
-        if (si.contains(key))
-            values.insert(key, scaled(si.value(key), 1 / siFactor(entry.value(Entry::Unit))));
+        const QString key = entry.value(KeltoParameterEntry::Key);
+        if (!output.results.contains(key))
+            continue;
+        values.append({ attributeKey(key), resultValue(output.results.value(key), entry) });
+        values.append({ unitKey(key), entry.value(KeltoParameterEntry::Unit) });
     }
     return values;
 }
 
-} // namespace
-
-QString Calculator::defaultText(const QString &key)
+QVector<Curve> inUnits(QVector<Curve> curves, const Entries &entries)
 {
-    static const QMap<QString, QString> texts {
-        { QStringLiteral("Length"), QStringLiteral("1000") },
-        { QStringLiteral("Section width"), QStringLiteral("40") },
-        { QStringLiteral("Section height"), QStringLiteral("60") },
-        { QStringLiteral("Elastic modulus"), QStringLiteral("210000") },
-        { QStringLiteral("Point load"), QStringLiteral("500") },
-        { QStringLiteral("Line load"), QStringLiteral("2") },
-        { QStringLiteral("Wire diameter"), QStringLiteral("3") },
-        { QStringLiteral("Mean coil diameter"), QStringLiteral("24") },
-        { QStringLiteral("Active coils"), QStringLiteral("8") },
-        { QStringLiteral("Free length"), QStringLiteral("80") },
-        { QStringLiteral("Shear modulus"), QStringLiteral("81500") },
-        { QStringLiteral("Force"), QStringLiteral("200") },
-        { QStringLiteral("Initial tension"), QStringLiteral("20") },
-        { QStringLiteral("Torque"), QStringLiteral("1500") },
-        { QStringLiteral("Inner diameter"), QStringLiteral("400") },
-        { QStringLiteral("Wall thickness"), QStringLiteral("16") },
-        { QStringLiteral("Internal pressure"), QStringLiteral("6") },
-        { QStringLiteral("External pressure"), QStringLiteral("0.1") },
-        { QStringLiteral("Layer thickness"), QStringLiteral("15; 240; 120; 20") },
-        { QStringLiteral("Layer conductivity"), QStringLiteral("0.7; 0.5; 0.035; 0.9") },
-        { QStringLiteral("Inner surface temperature"), QStringLiteral("20") },
-        { QStringLiteral("Outer surface temperature"), QStringLiteral("-10") },
-        { QStringLiteral("Inner air temperature"), QStringLiteral("20") },
-        { QStringLiteral("Outer air temperature"), QStringLiteral("-10") },
-        { QStringLiteral("Inner film coefficient"), QStringLiteral("7.7") },
-        { QStringLiteral("Outer film coefficient"), QStringLiteral("25") },
-    };
-    return texts.value(key);
+    for (Curve &curve : curves) {
+        const QStringList x = entries.value(curve.x.key);
+        const QStringList y = entries.value(curve.y.key);
+        curve.x.unit = x.value(KeltoParameterEntry::Unit);
+        curve.y.unit = y.value(KeltoParameterEntry::Unit);
+        for (QPointF &point : curve.points)
+            point = { scaled(point.x(), factorFromSi(x)), scaled(point.y(), factorFromSi(y)) };
+    }
+    return curves;
 }
 
-Outcome<NumbersByKey> Calculator::calculate(const AUTH_INF &module, const QString &mode,
-                                            const NumbersByKey &values)
+QString unknownUnit(const QVector<QStringList> &entries)
+{
+    for (const QStringList &entry : entries) {
+        const QString unit = entry.value(KeltoParameterEntry::Unit);
+        if (siFactor(unit) == 0)
+            return Texts::tr("The unit \"%1\" is unknown.").arg(unit);
+    }
+    return {};
+}
+
+} // namespace
+
+QString Calculator::hintText(const AUTH_INF &module, const QString &mode, const QString &hint,
+                             const QString &key)
+{
+    const QString name = hint + QLatin1Char('.') + key;
+    QString text;
+    for (const VDataItem &extra : module.extraKey) {
+        if (extra.key == name + QLatin1Char('@') + mode)
+            return extra.value.toString();
+        if (extra.key == name)
+            text = extra.value.toString();
+    }
+    return text;
+}
+
+Outcome<Computation> Calculator::calculate(const AUTH_INF &module, const QString &mode,
+                                           const Values &values)
 {
     const Calculation calculation = calculationOf(module.name, mode);
     if (!calculation)
         return { {}, Texts::tr("This task has no calculation.") };
 
-    const int modeIndex = module.inner_mode_nameList.indexOf(mode);
-    const auto parameters = module.inner_mode_parameterList.value(modeIndex);
-    for (const QStringList &entry : parameters) {
-        if (values.value(entry.value(Entry::Key)).isEmpty())
-            return { {}, Texts::tr("%1: enter a number.").arg(entry.value(Entry::TranslatedKey)) };
+    const Entries entries = entriesOf(module, mode);
+    Input input(entries, values);
+    const Outcome<Output> outcome = calculation(input);
+    for (const QString &problem :
+         { input.problem(), unknownUnit(module.output_results), outcome.problem }) {
+        if (!problem.isEmpty())
+            return { {}, problem };
     }
-    const QStringList unknown = unknownUnits(parameters) + unknownUnits(module.output_results);
-    if (!unknown.isEmpty())
-        return { {}, Texts::tr("The unit \"%1\" is unknown.").arg(unknown.first()) };
-
-    Outcome<NumbersByKey> outcome = calculation(Input(inSi(values, parameters)));
-    if (outcome.isValid())
-        outcome.result = inUnits(outcome.result, module.output_results);
-    else
-        outcome.result.clear();
-    return outcome;
-}
-
-QStringList Calculator::resultKeys(const AUTH_INF &module, const QString &mode)
-{
-    const Calculation calculation = calculationOf(module.name, mode);
-    if (!calculation)
-        return {};
-
-    // A calculation names its results even when it refuses its input, here an empty one.
-    const NumbersByKey computed = calculation(Input({})).result;
-    QStringList keys;
-    for (const QStringList &entry : module.output_results) {
-        const QString key = entry.value(Entry::Key);
-        if (computed.contains(key))
-            keys.append(key);
-    }
-    return keys;
+    return { { valuesOf(outcome.result, module.output_results),
+               inUnits(outcome.result.curves, entries) },
+             {} };
 }

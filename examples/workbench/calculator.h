@@ -4,34 +4,47 @@
 #ifndef CALCULATOR_H
 #define CALCULATOR_H
 
+#include "calculations/curve.h"
 #include "calculations/outcome.h"
 
-#include <QMap>
+#include <QPair>
 #include <QString>
-#include <QStringList>
+#include <QVariant>
 #include <QVector>
 
 class AUTH_INF;
 
-/// Numbers by the key of their parameter or result. A parameter with one value is a list of one.
-using NumbersByKey = QMap<QString, QVector<double>>;
+/// Keys and values as Kelto's stores and checks hold them: "Attribute/Length" with the value of the
+/// parameter, "Unit/Length" with its unit.
+using Values = QVector<QPair<QString, QVariant>>;
+
+/// What one calculation gives.
+struct Computation
+{
+    /// "Attribute/" and "Unit/" of each result that the module declares, in the order of the
+    /// module. The value is a number, or for a result with several a list of texts with one number
+    /// each, with as many digits as the number has.
+    Values results;
+    /// What to plot, in the units of the module's entries.
+    QVector<Curve> curves;
+};
 
 /// Joins the module descriptions to the formulas: which mode is computed by which calculation, and
 /// which key stands for which quantity. It uses plain names only and so works the same
 /// in every language.
 namespace Calculator {
 
-/// The value that a parameter starts with, as the user would type it in the unit of its entry.
-QString defaultText(const QString &key);
+/// What the module says about a parameter or result in the extra key "<hint>.<key>", or
+/// "<hint>.<key>@<mode>" where the mode differs.
+QString hintText(const AUTH_INF &module, const QString &mode, const QString &hint,
+                 const QString &key);
 
-/// Computes one inner mode of a module. Values go in and out in the units of the module's entries;
-/// every value that the mode declares must be present.
-Outcome<NumbersByKey> calculate(const AUTH_INF &module, const QString &mode,
-                                const NumbersByKey &values);
-
-/// The keys of the results that an inner mode has, out of all results that its module declares;
-/// empty for a mode without calculation.
-QStringList resultKeys(const AUTH_INF &module, const QString &mode);
+/// Computes one inner mode of a module.
+///
+/// Numbers may be given as numbers or as texts. One without a unit in @p values has the unit of its
+/// entry; results and curves have those of theirs. A parameter that may stay empty counts as 0.
+/// Limits of single values that the module states are not checked here.
+Outcome<Computation> calculate(const AUTH_INF &module, const QString &mode, const Values &values);
 
 } // namespace Calculator
 

@@ -8,6 +8,7 @@
 #include <Kelto/AUTH_SET>
 #include <Kelto/KeltoItemParameterVerify>
 #include <Kelto/UTaskSelectDialog>
+#include <Kelto/VIniSettings>
 #include <Kelto/VParameter>
 
 #include <QCoreApplication>
@@ -218,7 +219,9 @@ void MainWindow::fillParameters()
     fillTable(m_parameters, m_task.parameters, true);
     for (int row = 0; row < m_task.parameters.size(); ++row) {
         const QString key = m_task.parameters.at(row).name().first;
-        setValueText(m_parameters, row, m_enteredTexts.value(key, Calculator::defaultText(key)));
+        const QString text = Calculator::hintText(m_task.module, m_task.mode.first,
+                                                  QStringLiteral("Default"), key);
+        setValueText(m_parameters, row, m_enteredTexts.value(key, text));
     }
 }
 
@@ -240,15 +243,15 @@ void MainWindow::recalculate()
         return showProblem(entered.problem);
 
     m_registry->getCalculationLData(entered.result);
-    const Outcome<NumbersByKey> results
+    const Outcome<Computation> computed
         = Calculator::calculate(m_task.module, m_task.mode.first, valuesInRegistry());
-    if (!results.isValid())
-        return showProblem(results.problem);
-    showResults(results.result);
+    if (!computed.isValid())
+        return showProblem(computed.problem);
+    showResults(computed.result.results);
 }
 
 /// The values of the table with their units, as AUTH_SET::getCalculationLData() takes them.
-Outcome<MainWindow::Values> MainWindow::enteredValues() const
+Outcome<Values> MainWindow::enteredValues() const
 {
     Outcome<Values> values;
     QStringList missing;
@@ -259,7 +262,9 @@ Outcome<MainWindow::Values> MainWindow::enteredValues() const
             missing.append(parameter.name().second);
             continue;
         }
-        const auto value = valueFromText(text, parameter.isMulti());
+        const bool isNumber = parameter.parameterObjectName() != QLatin1String("choice");
+        const auto value
+            = isNumber ? valueFromText(text, parameter.isMulti()) : Outcome<QVariant> { text, {} };
         if (!value.isValid())
             return { {}, tr("%1: %2").arg(parameter.name().second, value.problem) };
         values.result.append({ valueKey(parameter), value.result });
@@ -271,21 +276,21 @@ Outcome<MainWindow::Values> MainWindow::enteredValues() const
     return values;
 }
 
-NumbersByKey MainWindow::valuesInRegistry() const
+Values MainWindow::valuesInRegistry() const
 {
-    NumbersByKey numbers;
-    for (const VParameter &parameter : m_task.parameters) {
-        const QVariant value = m_registry->value_cal(valueKey(parameter));
-        numbers.insert(parameter.name().first, numbersFromValue(value, parameter.isMulti()));
-    }
-    return numbers;
+    Values values;
+    for (const VParameter &parameter : m_task.parameters)
+        values.append({ valueKey(parameter), m_registry->value_cal(valueKey(parameter)) });
+    return values;
 }
 
-void MainWindow::showResults(const NumbersByKey &results)
+void MainWindow::showResults(const Values &results)
 {
+    const VIniSettings values(results);
     for (int row = 0; row < m_task.results.size(); ++row) {
-        const QString key = m_task.results.at(row).name().first;
-        setValueText(m_results, row, textFromNumbers(results.value(key)));
+        const VParameter &result = m_task.results.at(row);
+        const QVariant value = values.value(valueKey(result));
+        setValueText(m_results, row, textFromNumbers(numbersFromValue(value, result.isMulti())));
     }
     m_message->setPalette(palette());
     m_message->setText(tr("All values are valid. Change one, and the results follow."));

@@ -9,9 +9,6 @@
 
 #include <QMainWindow>
 #include <QMap>
-#include <QPair>
-#include <QVariant>
-#include <QVector>
 
 class AUTH_SET;
 class QLabel;
@@ -35,9 +32,6 @@ public:
     void showCurrentTask();
 
 private:
-    /// Values by the keys that Kelto gives them.
-    using Values = QVector<QPair<QString, QVariant>>;
-
     void createMenu();
     void createWidgets();
     void showTask();
@@ -45,8 +39,8 @@ private:
     void takeValue(int row);
     void recalculate();
     Outcome<Values> enteredValues() const;
-    NumbersByKey valuesInRegistry() const;
-    void showResults(const NumbersByKey &results);
+    Values valuesInRegistry() const;
+    void showResults(const Values &results);
     void showProblem(const QString &problem);
 
     AUTH_SET *m_registry;

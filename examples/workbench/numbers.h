@@ -10,10 +10,6 @@
 #include <QVariant>
 #include <QVector>
 
-/// The factor from @p unit to SI units, such as 0.001 for "mm"; 0 for an unknown unit.
-/// Temperatures stay in degrees Celsius.
-double siFactor(const QString &unit);
-
 /// Reads what the user typed: one number, or with @p several any number of them separated by
 /// semicolons. The decimal sign is a point in every language. The result is in the form in which
 /// Kelto keeps values: a number, or a list of texts with one number each.

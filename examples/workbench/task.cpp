@@ -21,11 +21,15 @@ QString lastTaskKey()
 /// The results that the mode has; the module declares those of all its modes.
 QVector<VParameter> resultsOf(const AUTH_SET &registry, const AUTH_INF &module, const QString &mode)
 {
-    const QStringList keys = Calculator::resultKeys(module, mode);
     const QVector<VParameter> declared = registry.defaultResultList(&module);
     QVector<VParameter> results;
     std::copy_if(declared.cbegin(), declared.cend(), std::back_inserter(results),
-                 [&keys](const VParameter &result) { return keys.contains(result.name().first); });
+                 [&](const VParameter &result) {
+                     const QString modes
+                         = Calculator::hintText(module, mode, QStringLiteral("Belong"),
+                                                result.name().first);
+                     return modes.isEmpty() || modes.split(QLatin1Char('|')).contains(mode);
+                 });
     return results;
 }
 

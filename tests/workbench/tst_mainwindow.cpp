@@ -129,7 +129,7 @@ private Q_SLOTS:
         QCOMPARE(text("description"), task.description);
         QCOMPARE(rowText(table("parameters"), 3), QString("Torque | M | 1500 | N·mm | Load"));
         QCOMPARE(rowText(table("results"), 0),
-                 QString("Angle of twist | α | 62.0856 | ° | Deformation"));
+                 QString("Angle of twist | α | 63.2911 | ° | Deformation"));
     }
 
     void unknownTaskChangesNothing_data()
@@ -373,7 +373,8 @@ private Q_SLOTS:
         show("Workbench:传热:带对流");
         QCOMPARE(text("title"), QString("传热 › 平壁 › 带对流"));
         QCOMPARE(text("description"),
-                 QString("两侧空气之间的稳态传热。请从内到外输入各层，以分号分隔。"));
+                 QString("两侧空气之间的稳态传热。各层从内到外输入，层间接触良好，无接触热阻；"
+                         "辐射已计入表面传热系数；热流密度由内向外为正。"));
         QCOMPARE(rowText(table("parameters"), 0), QString("内侧空气温度 | T₁ | 20 | °C | 温度"));
         QCOMPARE(rowText(table("results"), 2), QString("热阻 | R | 4.12209 | m²·K/W | 传热"));
         QCOMPARE(chooseTask("pushButton_cancel"), QString("Workbench:传热:带对流"));

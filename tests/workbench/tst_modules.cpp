@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Kelto developers
 // SPDX-License-Identifier: MIT
 
-#include "calculator.h"
+#include "calculations/units.h"
 #include "entry.h"
 #include "languages.h"
 #include "modules.h"
@@ -122,7 +122,8 @@ private Q_SLOTS:
         QCOMPARE(wall.number, 40);
         QCOMPARE(wall.icon, QString("plane-wall"));
         QCOMPARE(wall.lib_name, (QStringList { "buildingmaterials", "insulation" }));
-        QCOMPARE(extraTexts(wall), (QStringList { "Edition=2017", "Standard=ISO 6946" }));
+        QVERIFY(extraTexts(wall).contains("Edition=2017"));
+        QVERIFY(extraTexts(wall).contains("Default.Layer thickness=15; 240; 120; 20"));
     }
 
     void filesAndCompiledModulesAreEqual()
@@ -201,21 +202,6 @@ private Q_SLOTS:
             byKey.insert(key, entry);
         }
         QCOMPARE(byKey.isEmpty(), module.name == "Update");
-    }
-
-    void everyResultBelongsToAMode_data() { addModules(); }
-    void everyResultBelongsToAMode()
-    {
-        QFETCH(AUTH_INF, module);
-        QStringList computed;
-        for (const QString &mode : qAsConst(module.inner_mode_nameList)) {
-            const QStringList keys = Calculator::resultKeys(module, mode);
-            QCOMPARE(keys.isEmpty(), module.name == "Update");
-            computed += keys;
-        }
-        for (const QStringList &entry : qAsConst(module.output_results))
-            QVERIFY2(computed.contains(entry.at(Entry::Key)), qPrintable(entry.at(Entry::Key)));
-        QCOMPARE(module.output_results.isEmpty(), module.name == "Update");
     }
 
     void registryOffersTheModes()

@@ -18,12 +18,6 @@ InputCheck &InputCheck::notNegative(const char *key, double value)
                    tr("%1: enter zero or a number greater than zero.").arg(nameOf(key)));
 }
 
-InputCheck &InputCheck::aboveAbsoluteZero(const char *key, double temperature)
-{
-    return require(std::isfinite(temperature) && temperature > -273.15,
-                   tr("%1: enter a temperature above -273.15 °C.").arg(nameOf(key)));
-}
-
 InputCheck &InputCheck::require(bool condition, const QString &problem)
 {
     if (!condition && m_problem.isEmpty())

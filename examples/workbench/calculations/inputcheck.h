@@ -10,6 +10,9 @@
 
 /// Keeps the first problem found in the input of a calculation. Quantities are named by
 /// the key of their parameter, so that the message uses the same (translated) name as the screen.
+///
+/// Limits that a single value has to keep stand in the module files; checked here is what a formula
+/// cannot do without, and what relates several values.
 class InputCheck
 {
     Q_DECLARE_TR_FUNCTIONS(InputCheck)
@@ -17,8 +20,6 @@ class InputCheck
 public:
     InputCheck &positive(const char *key, double value);
     InputCheck &notNegative(const char *key, double value);
-    /// In degrees Celsius.
-    InputCheck &aboveAbsoluteZero(const char *key, double temperature);
     InputCheck &require(bool condition, const QString &problem);
     /// For results: input that is valid value by value may still leave the range of numbers.
     InputCheck &finite(const QVector<double> &results);

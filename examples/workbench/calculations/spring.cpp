@@ -8,6 +8,8 @@
 #include <QCoreApplication>
 #include <QtMath>
 
+using namespace Spring;
+
 namespace {
 
 struct Texts
@@ -15,7 +17,7 @@ struct Texts
     Q_DECLARE_TR_FUNCTIONS(Spring)
 };
 
-InputCheck checkedCoil(const Spring::Coil &coil)
+InputCheck checkedCoil(const Coil &coil)
 {
     InputCheck check;
     check.positive("Wire diameter", coil.wireDiameter)
@@ -32,11 +34,29 @@ double cube(double value)
     return value * value * value;
 }
 
-Spring::AxialResult axial(const Spring::Coil &coil, double shearModulus, double force)
+double solidLengthOf(const Coil &coil, Ends ends)
+{
+    double further = 0; // wire diameters beside those of the active coils
+    switch (ends) {
+    case Ends::ClosedAndGround:
+        further = 2;
+        break;
+    case Ends::Closed:
+        further = 3;
+        break;
+    case Ends::PlainAndGround:
+    case Ends::Plain:
+        further = 1;
+        break;
+    }
+    return (coil.activeCoils + further) * coil.wireDiameter;
+}
+
+AxialResult axial(const Coil &coil, double shearModulus, double force)
 {
     const double d = coil.wireDiameter;
     const double index = coil.meanDiameter / d;
-    Spring::AxialResult result;
+    AxialResult result;
     result.rate = shearModulus * d / (8 * cube(index) * coil.activeCoils);
     result.curvatureFactor = (4 * index - 1) / (4 * index - 4) + 0.615 / index;
     result.shearStress = result.curvatureFactor * 8 * force * index / (M_PI * d * d);
@@ -44,22 +64,30 @@ Spring::AxialResult axial(const Spring::Coil &coil, double shearModulus, double 
     return result;
 }
 
-QString resultProblem(const Spring::AxialResult &result)
+Curve characteristic(const char *travel, const char *load, const QVector<QPointF> &points)
 {
-    return InputCheck()
-        .finite({ result.rate, result.curvatureFactor, result.shearStress, result.deflection })
-        .problem();
+    return { QString::fromUtf8(QT_TRANSLATE_NOOP("ModuleTexts", "Spring characteristic")),
+             Quantity(travel), Quantity(load), points };
+}
+
+Outcome<AxialResult> withForces(AxialResult result, const QVector<QPointF> &points)
+{
+    result.curves = { characteristic("Spring deflection", "Force", points) };
+    return { result,
+             InputCheck()
+                 .finite(
+                     { result.rate, result.curvatureFactor, result.shearStress, result.deflection })
+                 .problem() };
 }
 
 } // namespace
 
-Outcome<Spring::AxialResult> Spring::compression(const Coil &coil, double shearModulus,
-                                                 double force, double freeLength)
+Outcome<AxialResult> Spring::compression(const Coil &coil, Ends ends, double shearModulus,
+                                         double force, double freeLength)
 {
-    const double solidLength = (coil.activeCoils + 2) * coil.wireDiameter;
+    const double solidLength = solidLengthOf(coil, ends);
     const InputCheck check = checkedCoil(coil)
                                  .positive("Shear modulus", shearModulus)
-                                 .notNegative("Force", force)
                                  .positive("Free length", freeLength)
                                  .require(freeLength >= solidLength,
                                           Texts::tr("%1: enter at least the solid length of %2 mm.")
@@ -68,7 +96,8 @@ Outcome<Spring::AxialResult> Spring::compression(const Coil &coil, double shearM
     if (!check.isPassed())
         return { {}, check.problem() };
 
-    const AxialResult result = axial(coil, shearModulus, force);
+    AxialResult result = axial(coil, shearModulus, force);
+    result.solidLength = solidLength;
     const double travel = freeLength - solidLength;
     if (result.deflection > travel)
         return { {},
@@ -76,17 +105,15 @@ Outcome<Spring::AxialResult> Spring::compression(const Coil &coil, double shearM
                            "stiffer.")
                      .arg(InputCheck::nameOf("Force"))
                      .arg(result.rate * travel) };
-    return { result, resultProblem(result) };
+    return withForces(result, { { 0, 0 }, { result.deflection, force } });
 }
 
-Outcome<Spring::AxialResult> Spring::extension(const Coil &coil, double shearModulus, double force,
-                                               double initialTension)
+Outcome<AxialResult> Spring::extension(const Coil &coil, double shearModulus, double force,
+                                       double initialTension)
 {
     const InputCheck check
         = checkedCoil(coil)
               .positive("Shear modulus", shearModulus)
-              .notNegative("Force", force)
-              .notNegative("Initial tension", initialTension)
               .require(force >= initialTension,
                        Texts::tr("%1: enter at least the initial tension; below it the coils stay "
                                  "closed.")
@@ -96,15 +123,12 @@ Outcome<Spring::AxialResult> Spring::extension(const Coil &coil, double shearMod
 
     AxialResult result = axial(coil, shearModulus, force);
     result.deflection = (force - initialTension) / result.rate;
-    return { result, resultProblem(result) };
+    return withForces(result, { { 0, 0 }, { 0, initialTension }, { result.deflection, force } });
 }
 
-Outcome<Spring::TorsionResult> Spring::torsion(const Coil &coil, double elasticModulus,
-                                               double torque)
+Outcome<TorsionResult> Spring::torsion(const Coil &coil, double elasticModulus, double torque)
 {
-    const InputCheck check = checkedCoil(coil)
-                                 .positive("Elastic modulus", elasticModulus)
-                                 .notNegative("Torque", torque);
+    const InputCheck check = checkedCoil(coil).positive("Elastic modulus", elasticModulus);
     if (!check.isPassed())
         return { {}, check.problem() };
 
@@ -115,6 +139,8 @@ Outcome<Spring::TorsionResult> Spring::torsion(const Coil &coil, double elasticM
     result.curvatureFactor = (4 * index * index - index - 1) / (4 * index * (index - 1));
     result.bendingStress = result.curvatureFactor * 32 * torque / (M_PI * cube(d));
     result.angle = torque / result.rate;
+    result.curves
+        = { characteristic("Angle of twist", "Torque", { { 0, 0 }, { result.angle, torque } }) };
     return { result,
              InputCheck()
                  .finite(

@@ -4,9 +4,11 @@
 #ifndef SPRING_H
 #define SPRING_H
 
+#include "curve.h"
 #include "outcome.h"
 
-/// Cylindrical helical springs of round wire, after the formulas of A. M. Wahl.
+/// Cylindrical helical springs of round wire, after the formulas of A. M. Wahl. Only the active
+/// coils deform; hooks and legs are left out.
 namespace Spring {
 
 struct Coil
@@ -16,6 +18,9 @@ struct Coil
     double activeCoils = 0; ///< n
 };
 
+/// How the wire ends at both sides of a compression spring.
+enum class Ends { ClosedAndGround, Closed, PlainAndGround, Plain };
+
 /// A spring that is pressed or pulled along its axis.
 struct AxialResult
 {
@@ -23,6 +28,8 @@ struct AxialResult
     double curvatureFactor = 0;
     double shearStress = 0; ///< Pa, at the inner side of the coil
     double deflection = 0; ///< m
+    double solidLength = 0; ///< m, of a compression spring
+    QVector<Curve> curves; ///< force over travel, up to the force
 };
 
 /// A spring that is twisted about its axis.
@@ -32,18 +39,21 @@ struct TorsionResult
     double curvatureFactor = 0;
     double bendingStress = 0; ///< Pa, at the inner side of the coil
     double angle = 0; ///< rad
+    QVector<Curve> curves; ///< torque over angle, up to the torque
 };
 
 /**
  * Rate G d^4 / (8 D^3 n), shear stress K 8 F D / (pi d^3) with the Wahl factor
  * K = (4C - 1) / (4C - 4) + 0.615 / C for the spring index C = D / d, deflection F / rate.
  *
+ * Solid length: (n + 2) d with ends that are closed and ground, (n + 3) d closed only, (n + 1) d
+ * plain, be they ground or not.
+ *
  * @param shearModulus G in Pa
- * @param force F in N
- * @param freeLength length without load in m; with ends that are closed and ground the spring is
- * solid at (n + 2) d, and a force that presses it further is refused.
+ * @param force F in N, not negative; one that presses the spring further than solid is refused
+ * @param freeLength length without load in m
  */
-Outcome<AxialResult> compression(const Coil &coil, double shearModulus, double force,
+Outcome<AxialResult> compression(const Coil &coil, Ends ends, double shearModulus, double force,
                                  double freeLength);
 
 /**

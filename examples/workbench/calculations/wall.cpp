@@ -43,8 +43,23 @@ QVector<double> layerResistances(const Wall::Layers &layers)
     return resistances;
 }
 
+Curve temperatureCurve(const Wall::Layers &layers, const QVector<double> &boundaryTemperatures)
+{
+    Curve curve { QStringLiteral("Temperature"),
+                  { QT_TRANSLATE_NOOP("ModuleTexts", "Depth"), "Layer thickness" },
+                  { QT_TRANSLATE_NOOP("ModuleTexts", "Temperature"), "Boundary temperatures" },
+                  {} };
+    double depth = 0;
+    for (int i = 0; i < boundaryTemperatures.size(); ++i) {
+        curve.points.append({ depth, boundaryTemperatures.at(i) });
+        depth += layers.thickness.value(i);
+    }
+    return curve;
+}
+
 /// @param film resistance between where @p warm is measured and the inner surface
-Outcome<Wall::Result> flow(const QVector<double> &layers, double film, double total, double warm,
+/// @param total resistance between where @p warm and @p cold are measured
+Outcome<Wall::Result> flow(const Wall::Layers &layers, double film, double total, double warm,
                            double cold)
 {
     Wall::Result result;
@@ -53,10 +68,12 @@ Outcome<Wall::Result> flow(const QVector<double> &layers, double film, double to
     // Divided first, so that the end of the last layer is at exactly the cold temperature.
     double passed = film;
     result.boundaryTemperatures.append(warm - (warm - cold) * (passed / total));
-    for (const double layer : layers) {
-        passed += layer;
+    const QVector<double> resistances = layerResistances(layers);
+    for (const double resistance : resistances) {
+        passed += resistance;
         result.boundaryTemperatures.append(warm - (warm - cold) * (passed / total));
     }
+    result.curves = { temperatureCurve(layers, result.boundaryTemperatures) };
     const QVector<double> scalars { result.resistance, result.heatFlux };
     const QString problem = InputCheck().finite(scalars + result.boundaryTemperatures).problem();
     return { result, problem };
@@ -71,28 +88,22 @@ double sumOf(const QVector<double> &values)
 
 Outcome<Wall::Result> Wall::steady(const Layers &layers, double innerSurface, double outerSurface)
 {
-    const InputCheck check = checkedLayers(layers)
-                                 .aboveAbsoluteZero("Inner surface temperature", innerSurface)
-                                 .aboveAbsoluteZero("Outer surface temperature", outerSurface);
+    const InputCheck check = checkedLayers(layers);
     if (!check.isPassed())
         return { {}, check.problem() };
 
-    const QVector<double> resistances = layerResistances(layers);
-    return flow(resistances, 0, sumOf(resistances), innerSurface, outerSurface);
+    return flow(layers, 0, sumOf(layerResistances(layers)), innerSurface, outerSurface);
 }
 
 Outcome<Wall::Result> Wall::withConvection(const Layers &layers, const Air &inner, const Air &outer)
 {
     const InputCheck check = checkedLayers(layers)
-                                 .aboveAbsoluteZero("Inner air temperature", inner.temperature)
-                                 .aboveAbsoluteZero("Outer air temperature", outer.temperature)
                                  .positive("Inner film coefficient", inner.filmCoefficient)
                                  .positive("Outer film coefficient", outer.filmCoefficient);
     if (!check.isPassed())
         return { {}, check.problem() };
 
-    const QVector<double> resistances = layerResistances(layers);
     const double innerFilm = 1 / inner.filmCoefficient;
-    const double total = innerFilm + sumOf(resistances) + 1 / outer.filmCoefficient;
-    return flow(resistances, innerFilm, total, inner.temperature, outer.temperature);
+    const double total = innerFilm + sumOf(layerResistances(layers)) + 1 / outer.filmCoefficient;
+    return flow(layers, innerFilm, total, inner.temperature, outer.temperature);
 }

@@ -4,11 +4,13 @@
 #ifndef WALL_H
 #define WALL_H
 
+#include "curve.h"
 #include "outcome.h"
 
 #include <QVector>
 
-/// Steady heat conduction in one dimension through a plane wall of layers.
+/// Steady heat conduction in one dimension through a plane wall of layers in perfect contact, whose
+/// conductivity does not depend on the temperature.
 namespace Wall {
 
 /// The layers from the inner to the outer side; both lists have one entry per layer.
@@ -22,7 +24,7 @@ struct Layers
 struct Air
 {
     double temperature = 0; ///< degrees Celsius
-    double filmCoefficient = 0; ///< W/(m²·K)
+    double filmCoefficient = 0; ///< W/(m²·K), of convection and radiation together
 };
 
 struct Result
@@ -31,6 +33,7 @@ struct Result
     double heatFlux = 0; ///< W/m², positive from the inner to the outer side
     /// Degrees Celsius, from the inner surface through every layer boundary to the outer surface.
     QVector<double> boundaryTemperatures;
+    QVector<Curve> curves; ///< temperature over the depth from the inner surface
 };
 
 /// Fourier's law for known surface temperatures: heat flux (T1 - T2) / sum(s / lambda).

@@ -40,13 +40,45 @@ QString functionOf(const AUTH_INF &module)
         .arg(module.codeFunctionName, module.to_code());
 }
 
+/// What a person reads of the hints in the extra keys.
+QStringList hintTexts(const AUTH_INF &module)
+{
+    QStringList texts;
+    for (const VDataItem &extra : module.extraKey) {
+        const QString hint = extra.key.section(QLatin1Char('.'), 0, 0);
+        const QString text = extra.value.toString();
+        if (hint == QLatin1String("Help") || hint == QLatin1String("Label"))
+            texts.append(text);
+        if (hint == QLatin1String("Choices")) {
+            const QStringList choices = text.split(QLatin1Char('|'));
+            for (const QString &choice : choices)
+                texts.append(choice.section(QLatin1Char('='), -1));
+        }
+    }
+    return texts;
+}
+
+/// Extra keys stand in the source text untranslated, and hints are translated when they are shown.
+/// So their texts are listed for lupdate to find.
+QString listOfTexts(const AUTH_INF &module)
+{
+    QString list;
+    const QStringList texts = hintTexts(module);
+    for (const QString &text : texts)
+        list += QStringLiteral("    QT_TRANSLATE_NOOP(\"%1\", \"%2\"),\n")
+                    .arg(module.trObjectName, text);
+    return list;
+}
+
 QString sourceText(const QStringList &moduleFiles)
 {
     QString functions;
+    QString texts;
     QStringList calls;
     for (const QString &path : moduleFiles) {
         const AUTH_INF module = readModule(path);
         functions += functionOf(module);
+        texts += listOfTexts(module);
         calls.append(module.codeFunctionName + QLatin1String("()"));
     }
     return QStringLiteral("// Generated from the module files. Change those, not this one.\n\n"
@@ -56,8 +88,8 @@ QString sourceText(const QStringList &moduleFiles)
                           "#include \"moduletexts.h\"\n\n"
                           "#include <Kelto/AUTH_INF>\n\n"
                           "namespace {\n\n")
-        + functions
-        + QStringLiteral("} // namespace\n\n"
+        + functions + QLatin1String("[[maybe_unused]] const char *const hintTexts[] = {\n") + texts
+        + QStringLiteral("    \"\"\n};\n\n} // namespace\n\n"
                          "QVector<AUTH_INF> compiledModules()\n{\n    return { ")
         + calls.join(QStringLiteral(", ")) + QStringLiteral(" };\n}\n");
 }
