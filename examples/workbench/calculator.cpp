@@ -40,7 +40,7 @@ QString unitKey(const QString &key)
 /// Of a list, multiplication2D() keeps six significant digits, of a single number all.
 double scaled(double number, double factor)
 {
-    const VParameter singleNumber;
+    static const VParameter singleNumber;
     return KeltoItemParameterTransform::multiplication2D(&singleNumber, number, { factor })
         .toDouble();
 }

@@ -81,9 +81,9 @@ void Walker::acceptFirstTask()
     clickInDialog("pushButton_accept");
     useWindow(Onlooker::mainWindow);
     expectTask(thickWall, "Vessels › Pressure vessel › Thick wall");
-    expect("parameter", "Internal pressure | p₁ | 6 | MPa | Load",
+    expect("parameter", "Internal pressure | p₁ | 40 | MPa | Load",
            [] { return Onlooker::row("parameters", "Internal pressure"); });
-    expectResult("Hoop stress inside | σₜ₁ | 76.7135 | MPa | Stress");
+    expectResult("Hoop stress inside | σₜ₁ | 155.452 | MPa | Stress");
     takePicture("thick-wall");
 }
 

@@ -17,10 +17,11 @@ inline const char *const thick = "Pressure vessel:Thick wall";
 inline const char *const steady = "Plane wall:Steady";
 inline const char *const convection = "Plane wall:With convection";
 
-inline QStringList allTasks()
+inline const QStringList &allTasks()
 {
-    return { cantilever, simple, fixedBeam, compression, extension,
-             torsion,    thin,   thick,     steady,      convection };
+    static const QStringList tasks { cantilever, simple, fixedBeam, compression, extension,
+                                     torsion,    thin,   thick,     steady,      convection };
+    return tasks;
 }
 
 /// The input in the units of the entries: N, mm and MPa, so that no formula below converts.

@@ -179,14 +179,14 @@ private Q_SLOTS:
         }
     }
 
-    /// Where 0 belongs, the rounding errors of (0.83 * R) / R and of (0.99 / R) * R would show.
+    /// Where 0 belongs, the rounding errors of (T * R) / R and of (T / R) * R would show.
     void outerSurfaceIsExact()
     {
         for (const double inner : { 0.83, 0.99 }) {
             const auto results = resultsOf(outcomeOf(steady,
                                                      { { "Inner surface temperature", inner },
                                                        { "Outer surface temperature", 0 } }));
-            QCOMPARE(results.value("Boundary temperatures").last(), 0.0);
+            QVERIFY(results.value("Boundary temperatures").last() == 0); // QCOMPARE is fuzzy
         }
     }
 

@@ -55,7 +55,7 @@ void addBeams()
 {
     QTest::addColumn<QString>("task");
     QTest::addColumn<Changes>("changes");
-    for (const QString task : { cantilever, simple, fixedBeam }) {
+    for (const QString &task : { QString(cantilever), QString(simple), QString(fixedBeam) }) {
         QTest::newRow(qPrintable(task + ", defaults")) << task << Changes();
         QTest::newRow(qPrintable(task + ", point load alone"))
             << task << Changes { { "Line load", 0 }, { "Length", 1234.5 } };
@@ -264,7 +264,7 @@ private Q_SLOTS:
             const double difference = thickResults.value(it.key()).first() - it.value().first();
             QVERIFY2(std::abs(difference) <= 1.2 * ratio * scale, qPrintable(it.key()));
         }
-        QCOMPARE(curveOf(membrane, "Radial stress").points.last().y(), 0.0);
+        QVERIFY(curveOf(membrane, "Radial stress").points.last().y() == 0);
         QVERIFY(isClose(curveOf(membrane, "Radial stress").points.first().y(), -6));
     }
 
