@@ -353,13 +353,22 @@ public:
     /** @name Log, paths and language (auth_set_environment.cpp)
      *
      * All paths are absolute and start at the current directory of the process, whatever that is
-     * at the time of the call.
+     * at the time of the call. Where it has been removed, they are empty and nothing is written,
+     * the set values neither.
      */
     ///@{
 
-    /// Appends one line to filepath_log() in UTF-8, the local time as "yyyy-MM-dd hh:mm:ss" and
-    /// @p text, and makes the directory "log" where it is missing. A line that cannot be written is
-    /// dropped.
+    /**
+     * Appends one line to filepath_log() in UTF-8, the local time as "yyyy-MM-dd hh:mm:ss" and
+     * @p text, and makes the directory "log" where it is missing. A line that cannot be written is
+     * dropped, as is every line where something other than a file, a pipe for example, has the
+     * name of the log.
+     *
+     * A line of any length is written at once, so that the lines of several processes do not mix.
+     * @p text is written as it is: line feeds in it begin new lines without a time, and control
+     * characters such as ESC and NUL reach whoever shows the file. Hosts that log the input of
+     * others replace these first.
+     */
     void log(QString text) const;
 
     /// The log file of today (local date): "log/yyyy-MM-dd_<application name>.log". The digits are

@@ -5,6 +5,7 @@
 
 #include "auth_set.h"
 
+#include "core/filecopies_p.h"
 #include "core/inifile_p.h"
 #include "registry/auth_set_p.h"
 
@@ -18,18 +19,18 @@
 
 namespace {
 
-QString logDirectory()
-{
-    return QDir::currentPath() + QLatin1String("/log");
-}
-
 /// The log file for appending; not open where that cannot be.
 bool openLog(QFile &file)
 {
+    // Opening a pipe would wait for its reader.
+    if (!canBeFile(file.fileName()))
+        return false;
+    // Without a buffer, a line of any length is one write, which no other process divides.
     const QIODevice::OpenMode appending
-        = QIODevice::WriteOnly | QIODevice::Append | QIODevice::Text;
+        = QIODevice::WriteOnly | QIODevice::Append | QIODevice::Text | QIODevice::Unbuffered;
     // Nearly always the directory is there, so that looking for it first would only cost time.
-    return file.open(appending) || (QDir().mkpath(logDirectory()) && file.open(appending));
+    return file.open(appending)
+        || (QDir().mkpath(pathBelowCurrent(QStringLiteral("log"))) && file.open(appending));
 }
 
 /// @p name without the differences in which the spellings of one application name may vary.
@@ -47,12 +48,13 @@ bool isNeverRecorded(const QString &applicationName)
                        [&name](const char *other) { return name == QLatin1String(other); });
 }
 
-void writeIniValue(const QString &path, const QString &key, const QString &value)
-{
-    writeIniFile(path, { { key, value } });
-}
-
 } // namespace
+
+QString pathBelowCurrent(const QString &relativePath)
+{
+    const QString directory = QDir::currentPath();
+    return directory.isEmpty() ? QString() : directory + QLatin1Char('/') + relativePath;
+}
 
 QString AUTH_SETPrivate::localTime() const
 {
@@ -70,8 +72,8 @@ QString AUTH_SETPrivate::localTime() const
 QString AUTH_SETPrivate::logPath(const QString &time) const
 {
     const int dateLength = 10;
-    return logDirectory() + QLatin1Char('/') + time.leftRef(dateLength) + QLatin1Char('_')
-        + applicationName + QLatin1String(".log");
+    return pathBelowCurrent(QLatin1String("log/") + time.leftRef(dateLength) + QLatin1Char('_')
+                            + applicationName + QLatin1String(".log"));
 }
 
 void AUTH_SET::log(QString text) const
@@ -90,16 +92,15 @@ QString AUTH_SET::filepath_log() const
 QString AUTH_SET::filepath_updater() const
 {
 #ifdef Q_OS_WIN
-    const QLatin1String extension(".bat");
+    return pathBelowCurrent(QStringLiteral("Update/Update.bat"));
 #else
-    const QLatin1String extension(".sh");
+    return pathBelowCurrent(QStringLiteral("Update/Update.sh"));
 #endif
-    return QDir::currentPath() + QLatin1String("/Update/Update") + extension;
 }
 
 QString AUTH_SET::filepath_update_inf() const
 {
-    return QDir::currentPath() + QLatin1String("/Config/update.ini");
+    return pathBelowCurrent(QStringLiteral("Config/update.ini"));
 }
 
 void AUTH_SET::write_update() const
@@ -108,8 +109,9 @@ void AUTH_SET::write_update() const
         return;
     if (d->moduleIndex(QStringLiteral("Update")) < 0)
         return;
-    writeIniValue(filepath_update_inf(), QStringLiteral("Current/Name"), d->applicationName);
-    writeIniValue(filepath_update_inf(), QStringLiteral("Current/Version"), d->applicationVersion);
+    writeIniFile(filepath_update_inf(),
+                 { { QStringLiteral("Current/Name"), d->applicationName },
+                   { QStringLiteral("Current/Version"), d->applicationVersion } });
 }
 
 QString AUTH_SET::language_local(int id) const

@@ -16,6 +16,10 @@
 
 using ListsBySubGroup = QHash<QString, QVector<VParameter>>;
 
+/// @p relativePath below the current directory of the process; empty where that has been removed:
+/// the path would then lead below "/", where the superuser could write it.
+QString pathBelowCurrent(const QString &relativePath);
+
 class AUTH_SETPrivate
 {
 public:

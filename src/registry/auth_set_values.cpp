@@ -9,16 +9,14 @@
 #include "registry/auth_set_p.h"
 #include "vinisettings.h"
 
-#include <QDir>
-
 #include <utility>
 
 namespace {
 
 QString settingsPath(const QString &applicationName)
 {
-    return QDir::currentPath() + QLatin1String("/Config/") + applicationName
-        + QLatin1String("_config.ini");
+    return pathBelowCurrent(QLatin1String("Config/") + applicationName
+                            + QLatin1String("_config.ini"));
 }
 
 /// The value of @p key for writing. A key that is not there gives the first value, which is a trap

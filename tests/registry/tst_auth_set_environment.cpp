@@ -16,6 +16,13 @@
 #include <QTest>
 #include <QTextCodec>
 
+#ifdef Q_OS_UNIX
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#endif
+
 namespace {
 
 QVector<AUTH_INF> modulesNamed(const QStringList &names)
@@ -41,13 +48,12 @@ template <typename Action> QStringList messagesLoggedBy(const AUTH_SET &set, Act
         path = set.filepath_log();
         QDir("log").removeRecursively();
         action();
-        lines = QString::fromUtf8(fileContent(path)).split('\n');
+        const QByteArray bytes = fileContent(path);
+        lines = QString::fromUtf8(bytes.constData(), bytes.size()).split('\n');
     } while (set.filepath_log() != path);
     if (lines.takeLast() != QString())
         return { "the last line has no end" };
-    for (QString &line : lines)
-        line.remove(0, QString("yyyy-MM-dd hh:mm:ss ").size());
-    return lines;
+    return lines.replaceInStrings(QRegularExpression("^[-0-9]{10} [:0-9]{8} "), "");
 }
 
 QString now()
@@ -155,6 +161,7 @@ private Q_SLOTS:
         QTest::newRow("spaces are kept") << "  a  b ";
         QTest::newRow("empty") << "";
         QTest::newRow("long") << QString(100000, 'x');
+        QTest::newRow("control characters") << QString("a\x1b[2J\nb\r") + QChar(0) + "c\n";
     }
     void logsAnyText()
     {
@@ -165,8 +172,72 @@ private Q_SLOTS:
         QTextCodec::setCodecForLocale(QTextCodec::codecForName("ISO-8859-1"));
         const QStringList messages = messagesLoggedBy(set, [&] { set.log(text); });
         QTextCodec::setCodecForLocale(codec);
-        QCOMPARE(messages, QStringList { text });
+        QCOMPARE(messages.join('\n'), text);
     }
+
+#ifdef Q_OS_UNIX
+    void keepsTheLinesOfSeveralProcessesWhole()
+    {
+        const AUTH_SET set = application("App");
+        const int lineCount = 25;
+        QStringList expected;
+        const QStringList messages = messagesLoggedBy(set, [&] {
+            QVector<pid_t> processes;
+            expected.clear();
+            for (const char letter : { 'a', 'b', 'c', 'd' }) {
+                const QString text(300000, QLatin1Char(letter));
+                for (int i = 0; i < lineCount; ++i)
+                    expected.append(text);
+                processes.append(fork());
+                if (processes.last() == 0) {
+                    for (int i = 0; i < lineCount; ++i)
+                        set.log(text);
+                    _exit(0);
+                }
+            }
+            for (const pid_t process : qAsConst(processes))
+                QCOMPARE(waitpid(process, nullptr, 0), process);
+        });
+        QStringList sorted = messages;
+        sorted.sort();
+        QCOMPARE(sorted.size(), expected.size());
+        QVERIFY(sorted == expected);
+    }
+
+    void writesNothingIntoAPipe()
+    {
+        const AUTH_SET set = application("App");
+        QVERIFY(QDir().mkdir("log"));
+        const QByteArray path = QFile::encodeName(set.filepath_log());
+        QCOMPARE(mkfifo(path.constData(), 0666), 0);
+        const int reader = open(path.constData(), O_RDONLY | O_NONBLOCK);
+        QVERIFY(reader >= 0);
+        set.log("with a reader");
+        char byte = 0;
+        const auto count = read(reader, &byte, 1);
+        close(reader);
+        QCOMPARE(count, 0);
+        set.log("without a reader, for whom it would have to wait");
+    }
+
+    // The superuser could write below "/".
+    void writesNothingWhereTheDirectoryIsGone()
+    {
+        AUTH_SET set("App", "1.0", modulesNamed({ "Update" }));
+        QVERIFY(QDir("Config").removeRecursively());
+        const QString gone = QDir::currentPath() + "/gone";
+        QVERIFY(QDir().mkdir(gone) && QDir::setCurrent(gone) && QDir().rmdir(gone));
+        QCOMPARE(set.filepath_log() + set.filepath_updater() + set.filepath_update_inf(), "");
+        set.log("message");
+        set.write_update();
+        set.setValueInSet("a/x", 1);
+        QCOMPARE(set.value_set("a/x"), QVariant(1));
+        QVERIFY(!QFile::exists("/log") && !QFile::exists("/Config"));
+        QCOMPARE(AUTH_SET("App", "1.0", {}).model_count(), 0);
+        QVERIFY(QDir::setCurrent(QFileInfo(gone).path()));
+        QCOMPARE(filesIn("."), QStringList());
+    }
+#endif
 
     void logsWhereTheProcessIs()
     {
