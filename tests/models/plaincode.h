@@ -20,17 +20,13 @@ public:
         const bool isCalculation = item.type == QLatin1String("calculation");
         if (isCalculation)
             code.addParameters(item);
-        code.add(QLatin1String(".trObjectName=") + quoted(item.trObjectName) + QLatin1Char(';'));
-        code.add(QLatin1String(".codeFunctionName=") + quoted(item.codeFunctionName)
-                 + QLatin1Char(';'));
+        code.assign("trObjectName", quoted(item.trObjectName));
+        code.assign("codeFunctionName", quoted(item.codeFunctionName));
         if (isCalculation)
             code.addResults(item);
         code.addExtraKeys(item);
 
-        QString text;
-        for (const QString &line : qAsConst(code.m_lines))
-            text += QString(line + QLatin1Char('\n'));
-        return text;
+        return code.m_lines.join(QLatin1Char('\n')) + QLatin1Char('\n');
     }
 
 private:
@@ -50,50 +46,44 @@ private:
     }
 
     void add(const QString &rest) { m_lines.append(m_variable + rest); }
-
-    void addList(const QString &header, const QStringList &texts, bool isTranslated)
+    void assign(const char *field, const QString &value)
     {
-        add(header + QLatin1String("QStringList{"));
-        for (int i = 0; i < texts.size(); ++i)
-            addElement(texts, i, isTranslated);
-        m_lines.append(QLatin1String("};"));
+        add(QLatin1Char('.') + QLatin1String(field) + QLatin1Char('=') + value + QLatin1Char(';'));
     }
 
-    void addEntry(const QString &header, const QStringList &entry)
+    static bool none(int) { return false; }
+    static bool all(int) { return true; }
+    static bool ofEntry(int place) { return place == 7 || place == 8; }
+
+    void addList(const QString &header, const QStringList &texts, bool (*isTranslated)(int))
     {
         add(header + QLatin1String("QStringList{"));
-        for (int i = 0; i < entry.size(); ++i)
-            addElement(entry, i, i == 7 || i == 8);
+        for (int i = 0; i < texts.size(); ++i) {
+            m_lines.append(QLatin1String("    ")
+                           + (isTranslated(i) ? translated(texts.at(i)) : quoted(texts.at(i)))
+                           + QLatin1String(i + 1 < texts.size() ? "," : ""));
+        }
         m_lines.append(QLatin1String("};"));
-    }
-
-    void addElement(const QStringList &texts, int i, bool isTranslated)
-    {
-        const QString value = isTranslated ? translated(texts.at(i)) : quoted(texts.at(i));
-        m_lines.append(QLatin1String("    ") + value
-                       + QLatin1String(i + 1 < texts.size() ? "," : ""));
     }
 
     void addFields(const AUTH_INF &item)
     {
         m_lines.append(QLatin1String("KeltoItem ") + m_variable + QLatin1Char(';'));
-        add(QLatin1String(".number=") + QString::number(item.number, 10) + QLatin1Char(';'));
-        add(QLatin1String(".name=") + quoted(item.name) + QLatin1Char(';'));
-        add(QLatin1String(".name_tr=") + translated(item.name) + QLatin1Char(';'));
-        add(QLatin1String(".description=") + translated(item.description) + QLatin1Char(';'));
-        add(QLatin1String(".icon=") + quoted(item.icon) + QLatin1Char(';'));
-        add(QLatin1String(".type=") + quoted(item.type) + QLatin1Char(';'));
-        add(QLatin1String(".type_tr=") + translated(item.type) + QLatin1Char(';'));
-        add(QLatin1String(".group=") + quoted(item.group) + QLatin1Char(';'));
-        add(QLatin1String(".group_tr=") + translated(item.group) + QLatin1Char(';'));
-        add(QLatin1String(".exclusive_group=")
-            + QLatin1String(item.exclusive_group ? "true" : "false") + QLatin1Char(';'));
-        addList(QLatin1String(".lib_name="), item.lib_name, false);
-        add(QLatin1String(".inner_mode_count=") + QString::number(item.inner_mode_count, 10)
-            + QLatin1Char(';'));
-        addList(QLatin1String(".inner_mode_description="), item.inner_mode_description, true);
-        addList(QLatin1String(".inner_mode_nameList="), item.inner_mode_nameList, false);
-        addList(QLatin1String(".inner_mode_nameList_tr="), item.inner_mode_nameList, true);
+        assign("number", QString::number(item.number));
+        assign("name", quoted(item.name));
+        assign("name_tr", translated(item.name));
+        assign("description", translated(item.description));
+        assign("icon", quoted(item.icon));
+        assign("type", quoted(item.type));
+        assign("type_tr", translated(item.type));
+        assign("group", quoted(item.group));
+        assign("group_tr", translated(item.group));
+        assign("exclusive_group", QLatin1String(item.exclusive_group ? "true" : "false"));
+        addList(QLatin1String(".lib_name="), item.lib_name, none);
+        assign("inner_mode_count", QString::number(item.inner_mode_count));
+        addList(QLatin1String(".inner_mode_description="), item.inner_mode_description, all);
+        addList(QLatin1String(".inner_mode_nameList="), item.inner_mode_nameList, none);
+        addList(QLatin1String(".inner_mode_nameList_tr="), item.inner_mode_nameList, all);
     }
 
     void addParameters(const AUTH_INF &item)
@@ -103,9 +93,9 @@ private:
             add(QLatin1String(".inner_mode_parameterList<<QVector<QStringList>();"));
             const QVector<QStringList> entries = item.inner_mode_parameterList.value(i);
             for (const QStringList &entry : entries) {
-                addEntry(QLatin1String(".inner_mode_parameterList.data()[") + QString::number(i, 10)
-                             + QLatin1String("]<<"),
-                         entry);
+                addList(QLatin1String(".inner_mode_parameterList.data()[") + QString::number(i)
+                            + QLatin1String("]<<"),
+                        entry, ofEntry);
             }
         }
     }
@@ -115,9 +105,9 @@ private:
         add(QLatin1String(".output_results.clear();"));
         for (int i = 0; i < item.output_results.size(); ++i) {
             add(QLatin1String(".output_results<<QStringList();"));
-            addEntry(QLatin1String(".output_results.data()[") + QString::number(i, 10)
-                         + QLatin1String("]="),
-                     item.output_results.at(i));
+            addList(QLatin1String(".output_results.data()[") + QString::number(i)
+                        + QLatin1String("]="),
+                    item.output_results.at(i), ofEntry);
         }
     }
 

@@ -38,25 +38,14 @@ public:
         Parameters list;
         const QVector<QStringList> entries
             = m_registry.exclusive_group_parameter_settings_origin(exclusiveGroup, mode);
-        for (const QStringList &entry : entries) {
-            VParameter parameter;
-            parameter.set(entry);
-            list.append(parameter);
-        }
+        for (const QStringList &entry : entries)
+            list.append(VParameter(entry));
         return sortedByName(list);
     }
 
     Parameters defaultParameterList(QString exclusiveGroup) const
     {
-        Parameters result;
-        const QVector<Parameters> lists = listsOfModes(exclusiveGroup);
-        for (const Parameters &list : lists) {
-            for (const VParameter &parameter : list) {
-                if (!isParameterContains(&result, &parameter))
-                    result.append(parameter);
-            }
-        }
-        return sortedByName(result);
+        return joinedModes(exclusiveGroup, [](const VParameter &) { return true; });
     }
 
     Parameters defaultParameterList() const
@@ -83,15 +72,9 @@ public:
 
     Parameters defaultParameterListInSubGroup(QString exclusiveGroup, QString subGroup) const
     {
-        Parameters result;
-        const QVector<Parameters> lists = listsOfModes(exclusiveGroup);
-        for (const Parameters &list : lists) {
-            for (const VParameter &parameter : list) {
-                if (!isParameterContains(&result, &parameter) && isInSubGroup(parameter, subGroup))
-                    result.append(parameter);
-            }
-        }
-        return sortedByName(result);
+        return joinedModes(exclusiveGroup, [&](const VParameter &parameter) {
+            return isInSubGroup(parameter, subGroup);
+        });
     }
 
     Parameters defaultResultList(const AUTH_INF *item) const
@@ -222,39 +205,28 @@ private:
         return isEither(m_registry.findExclusiveGroupInnerModeList(group), name);
     }
 
-    /// The positions at which @p names, when they are sorted, are found again.
-    static QVector<int> firstPositionsInOrder(const QStringList &names)
+    /// Every place of a name goes to the first with it.
+    template <typename List, typename NameOf> static List sortedBy(const List &list, NameOf nameOf)
     {
-        QStringList sorted = names;
-        sorted.sort(Qt::CaseSensitive);
-        QVector<int> positions;
-        for (const QString &name : qAsConst(sorted))
-            positions.append(names.indexOf(name));
-        return positions;
+        QStringList names;
+        for (const auto &element : list)
+            names.append(nameOf(element));
+        QStringList inOrder = names;
+        inOrder.sort(Qt::CaseSensitive);
+        List sorted;
+        for (const QString &name : qAsConst(inOrder))
+            sorted.append(list.at(names.indexOf(name)));
+        return sorted;
     }
 
     static Parameters sortedByName(const Parameters &list)
     {
-        QStringList names;
-        for (const VParameter &parameter : list)
-            names.append(parameter.name().first);
-        Parameters sorted;
-        const QVector<int> positions = firstPositionsInOrder(names);
-        for (int position : positions)
-            sorted.append(list.at(position));
-        return sorted;
+        return sortedBy(list, [](const VParameter &parameter) { return parameter.name().first; });
     }
 
     static NamePairs sortedByFirst(const NamePairs &pairs)
     {
-        QStringList names;
-        for (const NamePair &pair : pairs)
-            names.append(pair.first);
-        NamePairs sorted;
-        const QVector<int> positions = firstPositionsInOrder(names);
-        for (int position : positions)
-            sorted.append(pairs.at(position));
-        return sorted;
+        return sortedBy(pairs, [](const NamePair &pair) { return pair.first; });
     }
 
     static void addSubGroups(NamePairs *subGroups, const Parameters &list)
@@ -265,15 +237,21 @@ private:
         }
     }
 
-    /// One list for each mode. Modes behind the last name pair have no name and no list.
-    QVector<Parameters> listsOfModes(const QString &group) const
+    /// The wanted parameters of all modes, equal ones once. Modes behind the last name pair have no
+    /// name and no list.
+    template <typename Wanted> Parameters joinedModes(const QString &group, Wanted isWanted) const
     {
-        QVector<Parameters> lists;
+        Parameters result;
         const int count = m_registry.exclusive_group_mode_count(group);
         const NamePairs modes = m_registry.exclusive_group_inner_mode_namelist_at(group);
-        for (int i = 0; i < count && i < modes.size(); ++i)
-            lists.append(defaultParameterList(group, modes.at(i).first));
-        return lists;
+        for (int i = 0; i < count && i < modes.size(); ++i) {
+            const Parameters list = defaultParameterList(group, modes.at(i).first);
+            for (const VParameter &parameter : list) {
+                if (!isParameterContains(&result, &parameter) && isWanted(parameter))
+                    result.append(parameter);
+            }
+        }
+        return sortedByName(result);
     }
 
     const Registry &m_registry;
