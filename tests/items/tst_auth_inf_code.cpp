@@ -7,47 +7,9 @@
 #include "support/harditems.h"
 #include "support/referencefile.h"
 
-#include <Kelto/AUTH_INF>
-
 #include <QTest>
 
 #include <limits>
-
-namespace {
-
-QStringList entry(const QString &key)
-{
-    return { "g", key, "float", "false", "mm", "m", "s", key + " tr", "g tr" };
-}
-
-/// An item whose plain and translated texts differ everywhere.
-AUTH_INF fullItem()
-{
-    AUTH_INF item;
-    item.type = "calculation";
-    item.number = 7;
-    item.name = "梁";
-    item.name_tr = "Beam";
-    item.description = "弯曲 and shear";
-    item.icon = ":/icons/beam.svg";
-    item.type_tr = "计算";
-    item.group = "Bridges";
-    item.group_tr = "静力";
-    item.exclusive_group = true;
-    item.lib_name = QStringList { "beam", "solver" };
-    item.inner_mode_count = 2;
-    item.inner_mode_description = QStringList { "one end", "两端" };
-    item.inner_mode_nameList = QStringList { "Cantilever", "简支" };
-    item.inner_mode_nameList_tr = QStringList { "悬臂", "Simple" };
-    item.inner_mode_parameterList = { { entry("Load"), entry("长度") }, { entry("Load") } };
-    item.trObjectName = "BeamTexts";
-    item.codeFunctionName = "beamItem";
-    item.output_results = { entry("Deflection"), entry("应力") };
-    item.extraKey = { { "page", 12 }, { "author", "王" } };
-    return item;
-}
-
-} // namespace
 
 class TestAuthInfCode : public QObject
 {
@@ -87,17 +49,12 @@ private Q_SLOTS:
         QTest::addColumn<QString>("expected");
 
         QTest::newRow("a number") << QVariant(12) << "12";
-        QTest::newRow("a negative fraction") << QVariant(-0.5) << "-0.5";
         QTest::newRow("a text that is a number") << QVariant("1e5") << "1e5";
-        QTest::newRow("leading zeros stay") << QVariant("012") << "012";
         QTest::newRow("blanks stay") << QVariant(" 12 ") << " 12 ";
         QTest::newRow("a word that is a number") << QVariant("nan") << "nan";
-        QTest::newRow("a number with more behind it") << QVariant("12 mm") << "\"12 mm\"";
         QTest::newRow("a decimal comma") << QVariant("1,5") << "\"1,5\"";
         QTest::newRow("a hexadecimal number") << QVariant("0x10") << "\"0x10\"";
-        QTest::newRow("beyond all numbers") << QVariant("1e999") << "\"1e999\"";
         QTest::newRow("a double quote is not escaped") << QVariant("a\"b") << "\"a\"b\"";
-        QTest::newRow("true") << QVariant(true) << "\"true\"";
         QTest::newRow("an invalid value") << QVariant() << "\"\"";
         QTest::newRow("a list of one number") << QVariant(QStringList { "1" }) << "1";
         QTest::newRow("a list of two") << QVariant(QStringList { "a", "b" }) << "\"\"";

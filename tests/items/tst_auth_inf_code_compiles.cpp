@@ -5,10 +5,9 @@
 // searched for texts to translate.
 
 #include "support/directorytest.h"
+#include "support/harditems.h"
 #include "support/itemjson.h"
 #include "support/testfiles.h"
-
-#include <Kelto/AUTH_INF>
 
 #include <QProcess>
 #include <QRegularExpression>
@@ -16,39 +15,16 @@
 
 namespace {
 
-QStringList entry(const QString &key)
+AUTH_INF itemOfType(const QString &type)
 {
-    return { "sub-group of " + key, key,          "float", "false", "mm", "", "σ",
-             "长度 " + key,         "分组 " + key };
-}
-
-AUTH_INF fullItem(const QString &type)
-{
-    AUTH_INF item;
-    item.number = -7;
-    item.name = "梁";
-    item.description = "弯曲; 100 % of 'it', {and} // more /* than */";
-    item.icon = ":/icons/beam.svg";
+    AUTH_INF item = fullItem();
     item.type = type;
-    item.group = "Bridges";
-    item.exclusive_group = true;
-    item.lib_name = QStringList { "beam", "solver", "beam" };
-    item.inner_mode_count = 3;
-    item.inner_mode_description = QStringList { "one end", "两端", "" };
-    item.inner_mode_nameList = QStringList { "Cantilever", "简支", "" };
-    item.inner_mode_parameterList = { { entry("Load"), entry("x") }, {}, { entry("Load") } };
-    item.trObjectName = "Texts";
-    item.codeFunctionName = "beamItem";
-    item.output_results = { entry("Deflection"), entry("应力") };
-    item.extraKey = { { "whole", 12 },      { "negative", "-3" }, { "fraction", 0.5 },
-                      { "large", "1e+06" }, { "word", "abc" },    { "nothing", {} },
-                      { "作者", "王" },     { "truth", true },    { "list", QStringList { "a" } } };
     return item;
 }
 
 AUTH_INF itemWithListsOfOne()
 {
-    AUTH_INF item = fullItem("calculation");
+    AUTH_INF item = fullItem();
     item.lib_name = QStringList { "beam" };
     item.inner_mode_description = QStringList { "one end" };
     item.inner_mode_nameList = QStringList { "Cantilever" };
@@ -60,7 +36,7 @@ AUTH_INF itemWithListsOfOne()
 
 AUTH_INF itemWithShortEntries(int count)
 {
-    AUTH_INF item = fullItem("calculation");
+    AUTH_INF item = fullItem();
     item.inner_mode_count = count;
     // Lists of two texts, which could also be read as a range of characters.
     item.inner_mode_parameterList = { { entry("Load").mid(0, 2), QStringList() }, { entry("x") } };
@@ -142,8 +118,8 @@ private Q_SLOTS:
                                         itemWithShortEntries(1),
                                         itemWithShortEntries(4),
                                         itemWithShortEntries(-1),
-                                        fullItem("calculation"),
-                                        fullItem("Calculation") };
+                                        fullItem(),
+                                        itemOfType("Calculation") };
         QString source = "#include <Kelto/AUTH_INF>\n#include \"contexts.h\"\n"
                          "QVector<AUTH_INF> generatedItems();\n"
                          "QVector<AUTH_INF> generatedItems()\n{\nQVector<AUTH_INF> items;\n";
@@ -172,9 +148,7 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("expected");
 
         const QStringList always { "梁", "Cantilever", "Bridges", "one end", "简支", "两端" };
-        QStringList entries;
-        for (const char *key : { "Load", "x", "Deflection", "应力" })
-            entries += { QString("长度 ") + key, QString("分组 ") + key };
+        const QStringList entries { "Load_tr", "x_tr", "Deflection_tr", "应力_tr", "S_tr" };
         QTest::newRow("a calculation") << "calculation" << always + entries;
         QTest::newRow("another type") << "tool" << always;
     }
@@ -182,7 +156,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, type);
         QFETCH(QStringList, expected);
-        const AUTH_INF item = fullItem(type);
+        const AUTH_INF item = itemOfType(type);
         const QString source = "KeltoItem f()\n{\n" + item.to_code() + "return inf;\n}\n";
         QVERIFY(writeFile("item.cpp", source.toUtf8()));
         outputOf(KELTO_LUPDATE, { "item.cpp", "-silent", "-ts", "item.ts" });

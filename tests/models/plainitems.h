@@ -147,16 +147,17 @@ inline AUTH_INF load(const QString &path)
     return item;
 }
 
-inline bool isValid(const AUTH_INF &item, const Entries &values, const QString &mode)
+inline bool isValid(const AUTH_INF &item, const Entries &values, const QString &mode,
+                    const QStringList &skipGroups = {})
 {
-    if (item.inner_mode_keylist_of(mode).isEmpty())
-        return false;
-    const int position = item.inner_mode_nameList.indexOf(mode);
+    const auto entries
+        = item.inner_mode_parameterList.value(item.inner_mode_nameList.indexOf(mode));
     QStringList required;
-    const QVector<QStringList> entries = item.inner_mode_parameterList.at(position);
-    for (const QStringList &entry : entries)
-        required.append(QLatin1String("Attribute/") + entry.at(1));
-    return PlainSettings(values).contains(required);
+    for (const QStringList &entry : entries) {
+        if (!skipGroups.contains(entry.value(0)) && !skipGroups.contains(entry.value(8)))
+            required.append(QLatin1String("Attribute/") + entry.value(1));
+    }
+    return !entries.isEmpty() && PlainSettings(values).contains(required);
 }
 
 } // namespace PlainItems

@@ -38,11 +38,16 @@ QStringList exactly(const Points &points)
     return texts;
 }
 
-/// @p list as @p value of a parameter with several values, multiplied.
+/// @p value of a parameter with several values, multiplied.
 QVariant multiplied(const QString &kind, const QVariant &value, const Numbers &factors)
 {
     const VParameter parameter("own value", { "n", "n" }, {}, "s", {}, kind, true);
     return Transform::multiplication2D(&parameter, value, factors);
+}
+
+void row(const char *name, const QStringList &found, const QStringList &expected)
+{
+    QTest::newRow(name) << found << expected;
 }
 
 } // namespace
@@ -52,78 +57,65 @@ class TestKeltoItemParameterTransform : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void writes_data()
+    void converts_data()
     {
-        QTest::addColumn<QStringList>("written");
+        QTest::addColumn<QStringList>("found");
         QTest::addColumn<QStringList>("expected");
 
         const auto numbers
             = [](const char *name, const Numbers &values, const QStringList &expected) {
-                  QTest::newRow(name) << Transform::from_array(values) << expected;
+                  row(name, Transform::from_array(values), expected);
               };
         numbers("no numbers", {}, {});
-        numbers("in order, duplicates kept", { 2.5, -1, 2.5 }, { "2.5", "-1", "2.5" });
-        numbers("no more digits than needed", { 0.1, 100000, 0 }, { "0.1", "100000", "0" });
-        numbers("six digits", { 1234567, 0.123456789 }, { "1.23457e+06", "0.123457" });
+        numbers("at most six digits, in order, duplicates kept",
+                { 0.1, 100000, 0, 1234567, 0.123456789, 0.1 },
+                { "0.1", "100000", "0", "1.23457e+06", "0.123457", "0.1" });
         numbers("infinite and not a number", { infinity, -infinity, nan },
                 { "inf", "-inf", "nan" });
-        QTest::newRow("whole numbers with all digits")
-            << Transform::from_array(QVector<int> { 1234567, -1, std::numeric_limits<int>::min() })
-            << QStringList { "1234567", "-1", "-2147483648" };
-        QTest::newRow("points, x before y")
-            << Transform::from_2Dpoints(Points { { 1.5, -2 }, { 1234567, nan } })
-            << QStringList { "1.5|-2", "1.23457e+06|nan" };
-        QTest::newRow("whole points with all digits")
-            << Transform::from_2Dpoints(QVector<QPoint> { { 1234567, -2 }, { 0, 3 } })
-            << QStringList { "1234567|-2", "0|3" };
+        row("whole numbers with all digits",
+            Transform::from_array(QVector<int> { 1234567, std::numeric_limits<int>::min() }),
+            { "1234567", "-2147483648" });
+        row("points, x before y",
+            Transform::from_2Dpoints(Points { { 1.5, -2 }, { 1234567, nan } }),
+            { "1.5|-2", "1.23457e+06|nan" });
+        row("whole points with all digits",
+            Transform::from_2Dpoints(QVector<QPoint> { { 1234567, -2 }, { 0, 3 } }),
+            { "1234567|-2", "0|3" });
 
         const auto rows = [](const char *name, const Table &table, const QStringList &expected) {
-            QTest::newRow(name) << Transform::from_XDpoints(table) << expected;
+            row(name, Transform::from_XDpoints(table), expected);
         };
         rows("no rows", {}, {});
-        rows("each row behind all before it", { { "a" }, { "b", "c", "d" }, { "e" } },
-             { "a", "ab|c|d", "ab|c|de" });
+        rows("each row behind all before it", { { "a", "b" }, { "c", "d" } }, { "a|b", "a|bc|d" });
         rows("a row without cells repeats the text before", { {}, { "a", "b" }, {}, { "c" } },
              { "", "a|b", "a|b", "a|bc" });
         rows("empty cells", { { "" }, { "", "" }, { "", "", "" } }, { "", "|", "|||" });
         rows("cells are not escaped", { { "a|b", "c" }, { "|" } }, { "a|b|c", "a|b|c|" });
-    }
-    void writes()
-    {
-        QFETCH(QStringList, written);
-        QTEST(written, "expected");
-    }
 
-    void readsNumbers_data()
-    {
-        QTest::addColumn<QStringList>("read");
-        QTest::addColumn<QStringList>("expected");
-
-        const auto row = [](const char *name, const QStringList &list, const Numbers &expected) {
-            QTest::newRow(name) << exactly(Transform::to_array(list)) << exactly(expected);
+        const auto read = [](const char *name, const QStringList &list, const Numbers &expected) {
+            row(name, exactly(Transform::to_array(list)), exactly(expected));
         };
-        row("none", {}, {});
-        row("in order, duplicates kept", { "2.5", "-1E-3", "2.5" }, { 2.5, -0.001, 2.5 });
-        row("all digits", { "0.1234567890123" }, { 0.1234567890123 });
-        row("no number is 0, and not left out", { "1", "two", "", QString(), "1mm", "1,5", "3" },
-            { 1, 0, 0, 0, 0, 0, 3 });
-        row("infinite and not a number", { "inf", "-inf", "nan" }, { infinity, -infinity, nan });
+        read("no texts", {}, {});
+        read("all digits, in order, duplicates kept", { "0.1234567890123", "-1E-3", "-1E-3" },
+             { 0.1234567890123, -0.001, -0.001 });
+        read("no number is 0, and not left out", { "1", "two", "", QString(), "1mm", "1,5", "3" },
+             { 1, 0, 0, 0, 0, 0, 3 });
+        read("infinite and not a number, from texts", { "inf", "-inf", "nan" },
+             { infinity, -infinity, nan });
 
         const auto points = [](const char *name, const QStringList &list, const Points &expected) {
-            QTest::newRow(name) << exactly(Transform::to_2Dpoints(list)) << exactly(expected);
+            row(name, exactly(Transform::to_2Dpoints(list)), exactly(expected));
         };
-        points("points, x before y", { "1.5|-2", "0|1e3", "1.5|-2" },
-               { { 1.5, -2 }, { 0, 1000 }, { 1.5, -2 } });
         points("a text of one part ends the points", { "1|2", "3", "4|5" }, { { 1, 2 } });
         points("a text of three parts ends the points", { "1|2", "3|4|", "4|5" }, { { 1, 2 } });
         points("an empty text ends the points", { "", "4|5" }, {});
         points("parts that are no numbers are 0", { "|", "|7", "x|2", "inf|nan" },
                { { 0, 0 }, { 0, 7 }, { 0, 2 }, { infinity, nan } });
     }
-    void readsNumbers()
+    void converts()
     {
-        QFETCH(QStringList, read);
-        QTEST(read, "expected");
+        QFETCH(QStringList, found);
+        QTEST(found, "expected");
     }
 
     void readsTables_data()
@@ -136,19 +128,14 @@ private Q_SLOTS:
         };
         const Table noRows;
         row("none", {}, {});
-        row("a table per key", { { "0", QStringList { "a|b", "c" } }, { "1", QStringList("d") } },
-            { { { "a", "b" }, { "c" } }, { { "d" } } });
-        row("empty cells are kept", { { "0", QStringList { "|a||", "", " a " } } },
-            { { { "", "a", "", "" }, { "" }, { " a " } } });
-        row("10 comes before 2", { { "2", QStringList("two") }, { "10", QStringList("ten") } },
-            { { { "ten" } }, { { "two" } } });
+        row("empty cells are kept", { { "0", QStringList { "|a||", "", " a " } }, { "1", "d|e" } },
+            { { { "", "a", "", "" }, { "" }, { " a " } }, { { "d", "e" } } });
         row("keys that are no numbers, by their characters",
             { { "b", "3" }, { "", "0" }, { "B", "2" }, { "-1", "1" } },
             { { { "0" } }, { { "1" } }, { { "2" } }, { { "3" } } });
         row("no texts are a table without rows",
             { { "0", QStringList() }, { "1", QVariant() }, { "2", 1.5 } },
             { noRows, noRows, noRows });
-        row("one text is one row", { { "0", "a|b" } }, { { { "a", "b" } } });
         row("a list of values is read as texts", { { "0", QVariantList { 1, "a|b" } } },
             { { { "1" }, { "a", "b" } } });
     }
@@ -168,6 +155,16 @@ private Q_SLOTS:
         QCOMPARE(Transform::from_multiGroup({}), QVariantMap());
     }
 
+    void putsGroup10Before2()
+    {
+        Tables groups;
+        for (int i = 0; i < 11; ++i)
+            groups.append({ { QString::number(i) } });
+        Tables expected = groups;
+        expected.move(10, 2);
+        QCOMPARE(Transform::to_multiGroup(Transform::from_multiGroup(groups)), expected);
+    }
+
     void multipliesOneValue_data()
     {
         QTest::addColumn<QVariant>("value");
@@ -179,8 +176,7 @@ private Q_SLOTS:
                   QTest::newRow(name) << value << factors << expected;
               };
         row("more digits than are ever written", 1.23456789, { 2 }, 2.46913578);
-        row("a number as text", "2.5", { 2 }, 5);
-        row("only the first factor counts", 2, { 3, 5, 7 }, 6);
+        row("a number as text, only the first factor counts", "2.5", { 3, 5, 7 }, 7.5);
         row("a missing factor is 1", 2.5, {}, 2.5);
         row("no number is 0", "two", { 2 }, 0);
         row("a list is no number", QStringList { "1", "2" }, { 2 }, 0);
@@ -210,28 +206,20 @@ private Q_SLOTS:
         };
         const QStringList numbers { "1", "2.5", "x" };
         row("float: all by the first factor", "float", numbers, { 2, 9 }, { "2", "5", "0" });
-        row("double: all by the first factor", "double", numbers, { 2, 9 }, { "2", "5", "0" });
-        row("int: fractions stay", "int", QStringList { "3" }, { 1.5 }, { "4.5" });
-        row("array: six digits", "int", QStringList { "1234567" }, { 1 }, { "1.23457e+06" });
-        row("array: no value", "double", QVariant(), { 2 }, {});
-        row("array: a number is no list", "double", 2.5, { 2 }, {});
-        row("array: one text is a list of one", "double", "2.5", { 2 }, { "5" });
-        row("array: a list of values", "double", QVariantList { 1, "2" }, { 2 }, { "2", "4" });
-        row("array: a missing factor is 1", "float", QStringList { "2.50" }, {}, { "2.5" });
+        row("double: a missing factor is 1", "double", "2.50", {}, { "2.5" });
+        row("int: fractions stay, six digits", "int", QStringList { "3", "1234567" }, { 1.5 },
+            { "4.5", "1.85185e+06" });
+        row("a number is no list", "double", 2.5, { 2 }, {});
+        row("a list of values", "double", QVariantList { 1, "2" }, { 2 }, { "2", "4" });
 
-        const QStringList points { "1|2", "0.5|-1" };
-        row("QPointF: x by the first, y by the second", "QPointF", points, { 2, 3, 9 },
+        const QStringList points { "1|2", "0.5|-1", "3", "4|5" };
+        row("QPointF: the list ends where it is broken", "QPointF", points, { 2, 3, 9 },
             { "2|6", "1|-3" });
         row("QPoint: fractions stay", "QPoint", points, { 1.5, 1 }, { "1.5|2", "0.75|-1" });
         row("points: a missing second factor is 1", "QPointF", points, { 2 }, { "2|2", "1|-1" });
-        row("points: missing factors are 1", "QPoint", points, {}, points);
-        row("points: the list ends where it is broken", "QPointF",
-            QStringList { "1|2", "3", "4|5" }, { 2, 3 }, { "2|6" });
-
-        row("table: not scaled", "QStringList", QStringList { "1|2.50|x" }, { 2, 3, 4 },
-            { "1|2.50|x" });
-        row("table: each row behind all before it", "QStringList", QStringList { "1|2", "3|4" },
-            { 2, 3 }, { "1|2", "1|23|4" });
+        row("points: missing factors are 1", "QPoint", points, {}, { "1|2", "0.5|-1" });
+        row("table: not scaled, each row behind all before it", "QStringList",
+            QStringList { "1|2.50", "3|x" }, { 2, 3 }, { "1|2.50", "1|2.503|x" });
     }
     void multipliesLists()
     {
@@ -244,7 +232,7 @@ private Q_SLOTS:
     {
         for (const char *kind :
              { "", "float", "QVector<qreal>", "qvector<double>", "qvector<qstringlist>",
-               "QVector<double> ", "QVector<QPointF", "QVector<QString>", "QStringList" })
+               "QVector<double> ", "QVector<QString>", "QStringList" })
             QVERIFY2(!multiplied(kind, QStringList { "1|2" }, { 2, 3 }).isValid(), kind);
         QVERIFY(!Transform::multiplication2D(nullptr, 2.5, { 2 }).isValid());
     }

@@ -4,14 +4,56 @@
 #ifndef HARDITEMS_H
 #define HARDITEMS_H
 
+#include "support/parameters.h"
 #include "support/randomitems.h"
 
-#include <Kelto/AUTH_INF>
+/// An item with something in every field, in which plain and translated texts differ everywhere.
+inline AUTH_INF fullItem()
+{
+    AUTH_INF item;
+    item.number = 7;
+    item.name = "梁";
+    item.name_tr = "Beam";
+    item.description = "弯曲; 100 % of 'it', {and} // more /* than */";
+    item.icon = ":/icons/beam.svg";
+    item.type = "calculation";
+    item.type_tr = "计算";
+    item.group = "Bridges";
+    item.group_tr = "静力";
+    item.exclusive_group = true;
+    item.lib_name = QStringList { "beam", "solver", "beam" };
+    item.inner_mode_count = 3;
+    item.inner_mode_description = QStringList { "one end", "两端", "" };
+    item.inner_mode_nameList = QStringList { "Cantilever", "简支", "" };
+    item.inner_mode_nameList_tr = QStringList { "悬臂", "Simple", "nothing" };
+    item.inner_mode_parameterList = { { entry("Load"), entry("x") }, {}, { entry("Load") } };
+    item.trObjectName = "Texts";
+    item.codeFunctionName = "beamItem";
+    item.output_results = { entry("Deflection"), entry("应力") };
+    item.extraKey = { { "whole", 12 },      { "negative", "-3" }, { "fraction", 0.5 },
+                      { "large", "1e+06" }, { "word", "abc" },    { "nothing", {} },
+                      { "作者", "王" },     { "truth", true },    { "list", QStringList { "a" } } };
+    return item;
+}
 
-#include <QString>
-#include <QStringList>
-#include <QVariant>
-#include <QVector>
+/// Lists of any length, few names, and keys that differ by case or are missing.
+inline AUTH_INF itemWithFewKeys(Dice &dice)
+{
+    const QStringList names { "A", "a", "B", "C", "" };
+    AUTH_INF item;
+    item.inner_mode_count = dice.oneOf({ "0", "3", "2147483647" }).toInt();
+    item.inner_mode_nameList = dice.someOf(names, dice.between(0, 6));
+    item.inner_mode_nameList_tr = dice.someOf(names, dice.between(0, 6));
+    item.inner_mode_parameterList.resize(dice.between(0, 6));
+    for (ParameterEntries &entries : item.inner_mode_parameterList) {
+        for (int i = dice.between(0, 3); i > 0; --i) {
+            const QString key = dice.oneOf({ "x", "X", "y", "a/x", "" });
+            const QStringList strings = entry(key, "s", dice.oneOf({ "g", "G", "" }));
+            entries.append(strings.mid(0, key.isEmpty() ? dice.between(0, 9) : 9));
+        }
+    }
+    return item;
+}
 
 /// Texts that files, lists and keys have to be careful with.
 inline const QStringList &hardTexts()
