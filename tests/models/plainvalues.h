@@ -5,13 +5,9 @@
 #define PLAINVALUES_H
 
 #include "models/plainfile.h"
+#include "models/plainsettings.h"
 
 #include <QDir>
-#include <QPair>
-#include <QString>
-#include <QStringList>
-#include <QVariant>
-#include <QVector>
 
 /**
  * The rules of the stored values in their plainest form: vectors that are searched from the front
@@ -24,105 +20,94 @@
 class PlainValues
 {
 public:
-    using Entry = QPair<QString, QVariant>;
-    using Entries = QVector<Entry>;
-
     explicit PlainValues(QString application = QString())
         : m_application(application)
     {
-        load(settingsPath(), &m_set);
+        load(settingsPath(), &m_stores.set);
     }
 
     // What was handed out belongs to the registry that did it, so that no copy may share it.
     PlainValues(const PlainValues &other)
         : m_application(other.m_application)
-        , m_set(other.m_set)
-        , m_calculation(other.m_calculation)
-        , m_temporary(other.m_temporary)
-        , m_groups(other.m_groups)
+        , m_stores(other.m_stores)
     {
-        m_set.detach();
-        m_calculation.detach();
-        m_groups.detach();
-        for (QPair<QString, Entries> &group : m_groups)
-            group.second.detach();
+        detach();
     }
     PlainValues &operator=(const PlainValues &other)
     {
-        PlainValues copy(other);
-        m_application = copy.m_application;
-        m_set.swap(copy.m_set);
-        m_calculation.swap(copy.m_calculation);
-        m_temporary.swap(copy.m_temporary);
-        m_groups.swap(copy.m_groups);
+        m_application = other.m_application;
+        m_stores = other.m_stores;
+        detach();
         return *this;
     }
     ~PlainValues() = default;
 
-    QVariant value_set(QString key) const { return valueIn(m_set, key); }
-    QVariant value_cal(QString key) const { return valueIn(m_calculation, key); }
+    QVariant value_set(QString key) const { return PlainSettings::value(key, &m_stores.set); }
+    QVariant value_cal(QString key) const
+    {
+        return PlainSettings::value(key, &m_stores.calculation);
+    }
     Entries value_group(QString group) const
     {
-        const int i = indexOf(m_groups, group);
-        return i < 0 ? Entries() : m_groups.at(i).second;
+        const int i = indexOf(m_stores.groups, group);
+        return i < 0 ? Entries() : m_stores.groups.at(i).second;
     }
     QVariant value_group_at(QString group, QString key) const
     {
-        return valueIn(value_group(group), key);
+        const Entries entries = value_group(group);
+        return PlainSettings::value(key, &entries);
     }
 
-    QVariant *value_set_p(QString key) { return pointerInto(m_set, key); }
-    QVariant *value_cal_p(QString key) { return pointerInto(m_calculation, key); }
-    Entries *value_group_p(QString group)
-    {
-        return m_groups.isEmpty() ? nullptr : &m_groups[qMax(0, indexOf(m_groups, group))].second;
-    }
+    QVariant *value_set_p(QString key) { return pointerInto(&m_stores.set, key); }
+    QVariant *value_cal_p(QString key) { return pointerInto(&m_stores.calculation, key); }
+    Entries *value_group_p(QString group) { return pointerInto(&m_stores.groups, group); }
     QVariant *value_group_at_p(QString group, QString key)
     {
         Entries *entries = value_group_p(group);
-        return entries ? pointerInto(*entries, key) : nullptr;
+        return entries ? pointerInto(entries, key) : nullptr;
     }
 
     void setDefaultSettings(QString group, Entries values)
     {
-        const int i = indexOf(m_groups, group);
+        const int i = indexOf(m_stores.groups, group);
         if (i < 0)
-            m_groups.append({ group, values });
-        else if (!m_groups.at(i).second.isSharedWith(values))
-            m_groups[i].second = values;
+            m_stores.groups.append({ group, values });
+        else if (!m_stores.groups.at(i).second.isSharedWith(values))
+            m_stores.groups[i].second = values;
     }
 
     void setValueInSet(QString key, QVariant value)
     {
-        setIn(m_set, key, value);
+        setIn(&m_stores.set, key, value);
         QDir().mkpath(QDir::currentPath() + QLatin1String("/Config"));
-        save(settingsPath(), &m_set);
+        save(settingsPath(), &m_stores.set);
     }
 
     void getCalculationLData(Entries data)
     {
-        const QString attribute = QStringLiteral("Attribute");
-        const QString slash = QStringLiteral("/");
-        if (!groupsOf(data).contains(attribute))
+        const PlainSettings in(data);
+        if (!in.allGroups().contains(QStringLiteral("Attribute")))
             return;
-        for (const Entry &entry : qAsConst(data)) {
-            if (entry.first != attribute && !entry.first.startsWith(attribute + slash))
-                continue;
-            const QString name = entry.first.split(slash).last();
-            const QString valueKey = attribute + slash + name;
-            const QString unitKey = QLatin1String("Unit") + slash + name;
-            setIn(m_calculation, valueKey, valueIn(data, valueKey));
-            setIn(m_calculation, unitKey, valueIn(data, unitKey));
+        const QStringList keys = in.allKeys(QStringLiteral("Attribute"));
+        for (const QString &key : keys) {
+            const QString name = QLatin1Char('/') + key.split(QLatin1Char('/')).last();
+            for (const char *group : { "Attribute", "Unit" }) {
+                const QString target = QLatin1String(group) + name;
+                setIn(&m_stores.calculation, target, in.value(target));
+            }
         }
     }
 
-    void set_temp(QString key, QVariant value) { setIn(m_temporary, key, value); }
-    QVariant value_temp(QString key) const { return valueIn(m_temporary, key); }
+    void set_temp(QString key, QVariant value) { setIn(&m_stores.temporary, key, value); }
+    QVariant value_temp(QString key) const
+    {
+        return PlainSettings::value(key, &m_stores.temporary);
+    }
     void delete_temp(QString key)
     {
-        const int i = indexOf(m_temporary, key);
+        const int i = indexOf(m_stores.temporary, key);
         if (i >= 0)
-            m_temporary.remove(i);
+            m_stores.temporary.remove(i);
     }
 
     bool save(QString path, const Entries *values) const
@@ -134,50 +119,47 @@ public:
     bool load(QString path, Entries *values) const
     {
         const Entries loaded = loadWithQSettings(path);
-        for (const Entry &entry : loaded)
-            setIn(*values, entry.first, entry.second);
+        for (const auto &entry : loaded)
+            setIn(values, entry.first, entry.second);
         return true;
     }
 
 private:
-    template <typename Value>
-    static int indexOf(const QVector<QPair<QString, Value>> &entries, const QString &key)
+    struct Stores
     {
-        for (int i = 0; i < entries.size(); ++i) {
-            if (entries.at(i).first == key)
+        Entries set;
+        Entries calculation;
+        Entries temporary;
+        QVector<QPair<QString, Entries>> groups;
+    };
+
+    void detach()
+    {
+        m_stores.set.detach();
+        m_stores.calculation.detach();
+        for (auto &group : m_stores.groups)
+            group.second.detach();
+    }
+
+    template <typename List> static int indexOf(const List &list, const QString &key)
+    {
+        for (int i = 0; i < list.size(); ++i) {
+            if (list.at(i).first == key)
                 return i;
         }
         return -1;
     }
 
-    static QVariant valueIn(const Entries &entries, const QString &key)
+    static void setIn(Entries *entries, const QString &key, const QVariant &value)
     {
-        const int i = indexOf(entries, key);
-        return i < 0 ? QVariant() : entries.at(i).second;
+        PlainSettings().setValue(key, value, entries);
     }
 
-    static void setIn(Entries &entries, const QString &key, const QVariant &value)
+    /// Where the key is missing, the first.
+    template <typename Value>
+    static Value *pointerInto(QVector<QPair<QString, Value>> *list, const QString &key)
     {
-        const int i = indexOf(entries, key);
-        if (i < 0)
-            entries.append({ key, value });
-        else
-            entries[i].second = value;
-    }
-
-    static QVariant *pointerInto(Entries &entries, const QString &key)
-    {
-        return entries.isEmpty() ? nullptr : &entries[qMax(0, indexOf(entries, key))].second;
-    }
-
-    static QStringList groupsOf(const Entries &entries)
-    {
-        QStringList groups;
-        for (const Entry &entry : entries) {
-            if (entry.first.contains(QLatin1Char('/')))
-                groups.append(entry.first.split(QLatin1Char('/')).first());
-        }
-        return groups;
+        return list->isEmpty() ? nullptr : &(*list)[qMax(0, indexOf(*list, key))].second;
     }
 
     QString settingsPath() const
@@ -187,10 +169,7 @@ private:
     }
 
     QString m_application;
-    Entries m_set;
-    Entries m_calculation;
-    Entries m_temporary;
-    QVector<QPair<QString, Entries>> m_groups;
+    Stores m_stores;
 };
 
 #endif

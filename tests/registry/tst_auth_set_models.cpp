@@ -134,6 +134,16 @@ private:
     using RegistryTwins = Twins<PlainRegistry>;
 
     template <typename Question, typename... Arguments>
+    void askForModules(RegistryTwins &twins, const char *operation, Question question,
+                       const Arguments &...arguments)
+    {
+        const auto answer = [&](const auto &registry, const auto &...asked) {
+            return shownAnswer(question(registry, asked...));
+        };
+        twins.ask(operation, answer, arguments...);
+    }
+
+    template <typename Question, typename... Arguments>
     void askList(RegistryTwins &twins, const char *operation, Question question,
                  const Arguments &...arguments)
     {
@@ -167,7 +177,10 @@ private:
 
     void askByIndex(RegistryTwins &twins)
     {
-        for (int i = -1; i < 12; ++i) {
+        QVector<int> indices { std::numeric_limits<int>::min(), std::numeric_limits<int>::max() };
+        for (int i = -1; i < 12; ++i)
+            indices.append(i);
+        for (const int i : qAsConst(indices)) {
             twins.ask(OPERATION(model_data), i);
             twins.ask(OPERATION(model_name), i);
             twins.ask(OPERATION(model_name_global), i);
@@ -182,19 +195,13 @@ private:
 
     void askByName(RegistryTwins &twins)
     {
-        twins.ask("AUTH_INF_DATA", [](auto &set) { return shownAnswer(set.AUTH_INF_DATA()); });
-        const auto ofType = [](auto &set, const QString &type) {
-            return shownAnswer(set.AUTH_INF_list_by_type(type));
-        };
-        const auto ofGroup = [](auto &set, const QString &group) {
-            return shownAnswer(set.AUTH_INF_list_by_group(group));
-        };
+        askForModules(twins, OPERATION(AUTH_INF_DATA));
         for (const QString &name : qAsConst(m_names)) {
             twins.ask(OPERATION(index), name);
             twins.ask(OPERATION(model_exists), name);
             twins.ask(OPERATION(information), name);
-            twins.ask("AUTH_INF_list_by_type", ofType, name);
-            twins.ask("AUTH_INF_list_by_group", ofGroup, name);
+            askForModules(twins, OPERATION(AUTH_INF_list_by_type), name);
+            askForModules(twins, OPERATION(AUTH_INF_list_by_group), name);
         }
     }
 
@@ -495,7 +502,7 @@ private Q_SLOTS:
         QTest::newRow("two names and two of each other text")
             << Texts { texts("x X"), texts("x X"),        texts("s S"),
                        texts("S T"), texts("true false"), texts("mm MM") }
-            << 9;
+            << 25;
         QTest::newRow("many names") << manyNames << 9;
         QTest::newRow("long lists") << manyNames << 50;
         QTest::newRow("entries of any length")

@@ -53,6 +53,9 @@ public:
         }
     }
 
+    /// The same for what is found in another way.
+    void keepDifference(const QString &difference) { m_difference = difference; }
+
     bool differ() const { return !m_difference.isEmpty(); }
     /// The difference and all steps that led to it; empty when there is none.
     QString report() const
