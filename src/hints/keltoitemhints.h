@@ -49,8 +49,8 @@ class VParameter;
 class KELTO_EXPORT KeltoItemHints
 {
 public:
-    /// A value that can be chosen, and how a person reads it; the value itself where it has no
-    /// label.
+    /// A value that can be chosen, and how a person reads it: the label, or else the value,
+    /// translated.
     struct Choice
     {
         QString value;
@@ -77,6 +77,7 @@ public:
         Kind kind;
         QString extraKey; ///< Whole, as the item has it.
         QString value; ///< Its text.
+        QString part; ///< The key or the mode that is unknown; empty for the other kinds.
         /// A sentence that says what is wrong, in the language of the program.
         QString text() const;
     };

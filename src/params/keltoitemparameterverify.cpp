@@ -3,28 +3,7 @@
 
 #include "keltoitemparameterverify.h"
 
-#include "auth_inf.h"
-#include "keltoparameterentry.h"
-#include "vinisettings.h"
-
-#include <QSet>
-
-namespace {
-
-/// The keys under which the parameters of @p entries need a value.
-QStringList requiredKeys(const QVector<QStringList> &entries, const QSet<QString> &skipGroups)
-{
-    QStringList keys;
-    for (const QStringList &entry : entries) {
-        const bool isSkipped = skipGroups.contains(entry.value(KeltoParameterEntry::Group))
-            || skipGroups.contains(entry.value(KeltoParameterEntry::TranslatedGroup));
-        if (!isSkipped)
-            keys.append(QLatin1String("Attribute/") + entry.value(KeltoParameterEntry::Key));
-    }
-    return keys;
-}
-
-} // namespace
+#include "params/requiredparameters_p.h"
 
 bool KeltoItemParameterVerify::isValid(const AUTH_INF *item,
                                        const QVector<QPair<QString, QVariant>> *values,
@@ -32,13 +11,10 @@ bool KeltoItemParameterVerify::isValid(const AUTH_INF *item,
 {
     if (!item || !values)
         return false;
-    // Only the plain name counts: any other has the position -1 and no entries.
-    const QVector<QStringList> entries
-        = item->inner_mode_parameterList.value(item->inner_mode_nameList.indexOf(mode));
-    if (entries.isEmpty())
-        return false;
-    const QSet<QString> skipped(skipGroups.cbegin(), skipGroups.cend());
-    return VIniSettings(*values).contains(requiredKeys(entries, skipped));
+    const RequiredParameters required(*item, *values, mode, skipGroups);
+    return !required.entries().isEmpty()
+        && required.visitAll([](const QStringList & /*entry*/, const QString & /*key*/,
+                                int position) { return position >= 0; });
 }
 
 bool KeltoItemParameterVerify::isValid(const AUTH_INF *item,
@@ -53,4 +29,35 @@ bool KeltoItemParameterVerify::isValid(const AUTH_INF *item,
                                        QString mode)
 {
     return isValid(item, values, mode, QStringList());
+}
+
+QStringList KeltoItemParameterVerify::missing(const AUTH_INF *item,
+                                              const QVector<QPair<QString, QVariant>> *values,
+                                              QString mode, QStringList skipGroups)
+{
+    if (!item || !values)
+        return {};
+    QStringList keys;
+    RequiredParameters(*item, *values, mode, skipGroups)
+        .visitAll([&keys](const QStringList & /*entry*/, const QString &key, int position) {
+            if (position < 0)
+                keys.append(key);
+            return true;
+        });
+    keys.removeDuplicates();
+    return keys;
+}
+
+QStringList KeltoItemParameterVerify::missing(const AUTH_INF *item,
+                                              const QVector<QPair<QString, QVariant>> *values,
+                                              QString mode, QString skipGroup)
+{
+    return missing(item, values, mode, QStringList(skipGroup));
+}
+
+QStringList KeltoItemParameterVerify::missing(const AUTH_INF *item,
+                                              const QVector<QPair<QString, QVariant>> *values,
+                                              QString mode)
+{
+    return missing(item, values, mode, QStringList());
 }

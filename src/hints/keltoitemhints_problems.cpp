@@ -1,0 +1,120 @@
+// SPDX-FileCopyrightText: The Kelto developers
+// SPDX-License-Identifier: MIT
+
+// What is wrong with the hints of an item.
+
+#include "core/sentence_p.h"
+#include "hints/keltoitemhints_p.h"
+#include "keltoitemhints.h"
+#include "keltoparameterentry.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <set>
+#include <tuple>
+
+namespace {
+
+class Sentences
+{
+    Q_DECLARE_TR_FUNCTIONS(KeltoItemHints)
+
+public:
+    using Problem = KeltoItemHints::Problem;
+
+    /// With %1 for the extra key, %2 for its text and %3 for the part that is wrong.
+    static QString of(Problem::Kind kind)
+    {
+        switch (kind) {
+        case Problem::UnknownKey:
+            return tr("%1: there is no parameter or result \"%3\".");
+        case Problem::UnknownMode:
+            return tr("%1: there is no inner mode \"%3\".");
+        case Problem::NotOneText:
+            return tr("%1: this is not one text. In a file, a text with a comma needs quotes.");
+        case Problem::NotANumber:
+            return tr("%1: \"%2\" is not a number.");
+        case Problem::NotABoolean:
+            return tr("%1: \"%2\" is neither \"true\" nor \"false\".");
+        case Problem::EmptyLimits:
+            return tr("%1: with \"%2\" the minimum is above the maximum.");
+        case Problem::DefaultOutsideLimits:
+            return tr("%1: \"%2\" is outside the limits.");
+        case Problem::DefaultNotAChoice:
+            return tr("%1: \"%2\" is none of the choices.");
+        case Problem::BadChoices:
+            return tr("%1: \"%2\" offers nothing, or one value twice.");
+        case Problem::BadCondition:
+            return tr("%1: \"%2\" is not a parameter, \"=\" and its values, or the parameters "
+                      "depend on each other in a circle.");
+        case Problem::DuplicateHint:
+            return tr("%1: this stands in the item before, and the first counts.");
+        }
+        return {};
+    }
+};
+
+/// Problems in the order of the extra keys. Several modes have many in common.
+class ProblemList
+{
+public:
+    void add(const QVector<HintProblem> &problems)
+    {
+        for (const HintProblem &problem : problems)
+            m_problems.emplace(problem.position, problem.kind, problem.part);
+    }
+    QVector<KeltoItemHints::Problem> of(const AUTH_INF &item) const
+    {
+        QVector<KeltoItemHints::Problem> list;
+        for (const auto &[position, kind, part] : m_problems) {
+            const VDataItem &extra = item.extraKey.at(position);
+            const QString text = extra.value.userType() == QMetaType::QStringList
+                ? extra.value.toStringList().join(QLatin1String(", "))
+                : extra.value.toString();
+            list.append({ kind, extra.key, text, part });
+        }
+        return list;
+    }
+
+private:
+    std::set<std::tuple<int, KeltoItemHints::Problem::Kind, QString>> m_problems;
+};
+
+/// The hints that can differ from those for all modes: of the mode alone, and of its parameters,
+/// which may hold several values here and one elsewhere.
+QStringList keysOfMode(const HintView &view, const AUTH_INF &item, int mode)
+{
+    QStringList keys = view.ownKeys();
+    const QVector<QStringList> entries = item.inner_mode_parameterList.value(mode);
+    for (const QStringList &entry : entries)
+        keys.append(entry.value(KeltoParameterEntry::Key));
+    return keys;
+}
+
+} // namespace
+
+QString KeltoItemHints::Problem::text() const
+{
+    return sentenceOf(Sentences::of(kind), { extraKey, value, part });
+}
+
+QVector<KeltoItemHints::Problem> KeltoItemHints::problems() const
+{
+    const AUTH_INF &item = d->item;
+    const ReadHints &hints = d->view.hints();
+    ProblemList problems;
+    problems.add(hints.problems());
+
+    HintView all(hints, item, allModes);
+    all.dropSenseless(hints.keys(allModes));
+    problems.add(all.dropped());
+    const int modeCount
+        = std::max(item.inner_mode_nameList.size(), item.inner_mode_parameterList.size());
+    for (int mode = 0; mode < modeCount; ++mode) {
+        HintView view(hints, item, mode);
+        view.dropSenseless(keysOfMode(view, item, mode));
+        problems.add(view.dropped());
+    }
+    return problems.of(item);
+}
