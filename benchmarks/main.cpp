@@ -45,6 +45,7 @@ int main(int argc, char **argv)
     addSettingsRows();
     addFileRows();
     addItemRows();
+    addHintRows();
     const int result = runRows(argc, argv);
     printMemory();
     return result;

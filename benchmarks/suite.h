@@ -128,6 +128,8 @@ void addSettingsRows();
 void addFileRows();
 /// Module items as source text, and the check of entered values.
 void addItemRows();
+/// The hints of module items, their translation, and what is missing.
+void addHintRows();
 
 /// Runs the rows and prints them as a table.
 /// @return the exit code: 1 when an answer was wrong or nothing was run, 2 for an unknown flag.
