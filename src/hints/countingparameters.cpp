@@ -3,7 +3,7 @@
 
 #include "hints/countingparameters_p.h"
 
-#include "core/valuekind_p.h"
+#include "core/enteredvalues_p.h"
 
 #include <algorithm>
 

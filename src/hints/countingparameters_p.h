@@ -10,12 +10,6 @@
 #include <QHash>
 #include <QString>
 
-/// The key under which a list of values holds that of the parameter @p key.
-inline QString valueKeyOf(const QString &key)
-{
-    return QLatin1String("Attribute/") + key;
-}
-
 /// Which parameters count beside given values. Each is looked at once, however many depend on it.
 class CountingParameters
 {

@@ -15,7 +15,7 @@ constexpr QLatin1Char dot('.');
 constexpr QLatin1Char at('@');
 
 /// In the order of HintWord.
-constexpr std::array<QLatin1String, hintWordCount> words {
+const std::array<QLatin1String, hintWordCount> words {
     QLatin1String("Default"),  QLatin1String("Min"),      QLatin1String("Max"),
     QLatin1String("Choices"),  QLatin1String("Optional"), QLatin1String("When"),
     QLatin1String("Advanced"), QLatin1String("Help"),     QLatin1String("Label"),

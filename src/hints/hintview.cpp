@@ -3,7 +3,7 @@
 
 #include "hints/hintview_p.h"
 
-#include "core/valuekind_p.h"
+#include "core/enteredvalues_p.h"
 #include "keltoparameterentry.h"
 
 #include <QtMath>

@@ -18,7 +18,7 @@
 
 namespace {
 
-using ModePair = QPair<QString, QString>;
+using NamePair = QPair<QString, QString>;
 
 /// Translated names that are empty name nothing.
 int positionOfMode(const AUTH_INF &item, const QString &mode)
@@ -49,19 +49,26 @@ KeltoItemHintsData *hintsAt(const AUTH_SET *registry, const QString &group, int 
     return new KeltoItemHintsData(registry->AUTH_INF_DATA().at(module), position - firstPosition);
 }
 
+int positionOfEither(const QVector<NamePair> &pairs, const QString &name)
+{
+    const auto found = std::find_if(pairs.cbegin(), pairs.cend(), [&name](const NamePair &pair) {
+        return pair.first == name || pair.second == name;
+    });
+    return found == pairs.cend() ? -1 : static_cast<int>(found - pairs.cbegin());
+}
+
 /// By the position of the name pair, as the registry looks for the parameters of a mode.
 KeltoItemHintsData *hintsOf(const AUTH_SET *registry, const QString &group, const QString &mode)
 {
-    if (!registry || registry->exclusive_group_mode_count(group) <= 0)
+    if (!registry)
         return noHints();
-    const QString plainGroup = registry->findExclusiveGroupName(group).first;
-    const QVector<ModePair> pairs = registry->exclusive_group_inner_mode_namelist_at(plainGroup);
-    const auto found = std::find_if(pairs.cbegin(), pairs.cend(), [&mode](const ModePair &pair) {
-        return pair.first == mode || pair.second == mode;
-    });
-    if (found == pairs.cend())
+    const QVector<NamePair> groups = registry->currentExclusiveGroupList();
+    const int index = positionOfEither(groups, group);
+    if (index < 0)
         return noHints();
-    return hintsAt(registry, plainGroup, static_cast<int>(found - pairs.cbegin()));
+    const QString plain = groups.at(index).first;
+    const QVector<NamePair> modes = registry->exclusive_group_inner_mode_namelist_at(plain);
+    return hintsAt(registry, plain, positionOfEither(modes, mode));
 }
 
 QVector<VParameter> sortedParameters(const QVector<QStringList> &entries)
@@ -78,6 +85,7 @@ QVector<VParameter> sortedParameters(const QVector<QStringList> &entries)
 
 KeltoItemHintsData::KeltoItemHintsData(const AUTH_INF &describedItem, int innerMode)
     : item(describedItem)
+    , context(KeltoItemTranslation::contextOf(item))
     , mode(innerMode)
     , view(ReadHints(item), item, innerMode)
 {
@@ -253,5 +261,5 @@ QVector<VParameter> KeltoItemHints::results() const
 
 QString KeltoItemHints::translated(QString text) const
 {
-    return KeltoItemTranslation::text(KeltoItemTranslation::contextOf(d->item), text);
+    return KeltoItemTranslation::text(d->context, text);
 }

@@ -35,12 +35,21 @@ class VParameter;
  * | `Order`                             | keys joined by "|"                                      |
  * | `Belong.key`                        | of a result: inner modes joined by "|"                  |
  *
- * `key` is all that stands behind the first dot. "@" and the plain name of an inner mode behind it
- * make a hint count for that mode only; it replaces the one without. A value has to be one text:
- * one that a file holds as a list was not quoted.
+ * `key` is all that stands behind the first dot. "@" and the plain name of an inner mode behind it,
+ * or behind `Order`, make a hint count for that mode only; it replaces the one without. Where keys
+ * or modes hold "@" themselves, all behind the dot is the key if there is such a key, and else the
+ * first "@" counts that has a key before it and a mode behind it. Texts are compared exactly, with
+ * case; white space around the elements of a list and around "=" does not count. Extra keys of any
+ * other form are the host's own.
  *
- * A hint that makes no sense counts as absent, and problems() lists it. Parameters and results that
- * are unknown have no hints: every question about them has the answer that it has without a hint.
+ * A value has to be one text: one that a file holds as a list was not quoted. The default of an
+ * optional parameter may be empty. Of a default with several values, each has to fit the choices
+ * and, with "|" between the numbers of one value, the limits.
+ *
+ * A hint that makes no sense on its own counts as absent, and problems() lists it. So does one that
+ * makes no sense beside the others of its mode; then none takes its place. Parameters and results
+ * that are unknown have no hints: every question about them has the answer that it has without a
+ * hint.
  *
  * Objects are values: cheap to copy, and independent of the item or registry that they were made
  * from. Texts for persons are looked up in the item's translation context when they are asked for,
@@ -57,14 +66,15 @@ public:
         QString label;
     };
 
-    /// Something wrong with an extra key, which does not count for that reason.
+    /// Something wrong with an extra key, which does not count for that reason; of an order, the
+    /// unknown key alone does not count.
     struct KELTO_EXPORT Problem
     {
         enum Kind {
-            UnknownKey, ///< No parameter or result has this key.
+            UnknownKey, ///< No parameter or result has this key; for Belong, no result.
             UnknownMode, ///< No inner mode has the name behind "@" or in the list of a result.
             NotOneText, ///< A list, or another value that has no text.
-            NotANumber, ///< A limit, or the default of a number.
+            NotANumber, ///< A limit, or a default beside a limit.
             NotABoolean, ///< Neither "true" nor "false".
             EmptyLimits, ///< The minimum is above the maximum; neither counts.
             DefaultOutsideLimits,
@@ -86,8 +96,8 @@ public:
     KeltoItemHints();
     /// The hints of @p item for all modes: those with "@" and a mode do not count.
     explicit KeltoItemHints(AUTH_INF item);
-    /// The hints of @p item for the inner mode of this plain or translated name. For an unknown
-    /// mode the same as without one.
+    /// The hints of @p item for the inner mode of this plain or translated name, of which an empty
+    /// one names no mode. For an unknown mode the same as without one.
     KeltoItemHints(AUTH_INF item, QString mode);
     /// The hints for a mode of an exclusive group, both by plain or translated name. Where modules
     /// of the group share the name, the first counts, as in AUTH_SET::defaultParameterList(). No
@@ -95,6 +105,7 @@ public:
     KeltoItemHints(const AUTH_SET *registry, QString group, QString mode);
     /// The same by the mode's position in its group, which tells modes of one name apart.
     KeltoItemHints(const AUTH_SET *registry, QString group, int position);
+    /// Moving copies, too: an object that was moved from is unchanged.
     KeltoItemHints(const KeltoItemHints &other);
     KeltoItemHints(KeltoItemHints &&other) noexcept;
     KeltoItemHints &operator=(const KeltoItemHints &other);
@@ -118,7 +129,7 @@ public:
     bool isAdvanced(QString key) const;
     /// Whether the parameter counts beside these @p values, whose keys begin with "Attribute/":
     /// true without a condition, or while the parameter that it names counts and has one of the
-    /// values. What does not count is stored as an empty text.
+    /// values, several values at least one of them. What does not count is stored as an empty text.
     bool counts(QString key, const QVector<QPair<QString, QVariant>> *values) const;
     /// Key of the parameter on which it depends whether this one counts; empty without a condition.
     QString conditionKey(QString key) const;
@@ -130,10 +141,10 @@ public:
     QString help(QString key) const;
     /// Name filters for a file dialog, one element each; empty for all files.
     QStringList fileFilters(QString key) const;
-    /// The keys that `Order` names, in this order, without unknown ones.
+    /// The keys that `Order` names, in this order, each once, without unknown ones.
     QStringList order() const;
-    /// The plain names of the inner modes that give a result; all modes without the hint, none for
-    /// what is no result.
+    /// The plain names of the inner modes that give a result, each once; all modes without the
+    /// hint, none for what is no result.
     QStringList resultModes(QString key) const;
 
     /// The same records in the order of the hint: what it names first, then the rest as before.

@@ -17,6 +17,7 @@ public:
     KeltoItemHintsData(const AUTH_INF &describedItem, int innerMode);
 
     AUTH_INF item;
+    QString context;
     int mode;
     HintView view;
 };

@@ -32,7 +32,8 @@ public:
         case Problem::UnknownMode:
             return tr("%1: there is no inner mode \"%3\".");
         case Problem::NotOneText:
-            return tr("%1: this is not one text. In a file, a text with a comma needs quotes.");
+            return tr(
+                "%1: the value has to be one text. In a file, one with a comma needs quotes.");
         case Problem::NotANumber:
             return tr("%1: \"%2\" is not a number.");
         case Problem::NotABoolean:
@@ -46,10 +47,10 @@ public:
         case Problem::BadChoices:
             return tr("%1: \"%2\" offers nothing, or one value twice.");
         case Problem::BadCondition:
-            return tr("%1: \"%2\" is not a parameter, \"=\" and its values, or the parameters "
-                      "depend on each other in a circle.");
+            return tr("%1: \"%2\" is not \"parameter=value\", or parameters depend on each other "
+                      "in a circle.");
         case Problem::DuplicateHint:
-            return tr("%1: this stands in the item before, and the first counts.");
+            return tr("%1: this extra key is there twice; the first one counts.");
         }
         return {};
     }

@@ -3,18 +3,16 @@
 
 #include "hints/readhints_p.h"
 
-#include "core/valuekind_p.h"
+#include "core/enteredvalues_p.h"
 
 namespace {
 
 constexpr QLatin1Char equalsSign('=');
 
 /// A null text for what is not one text. In a file, a text with a comma that is not quoted is a
-/// list.
+/// list, and only lists of one can be converted.
 QString oneTextOf(const QVariant &value)
 {
-    if (value.userType() == QMetaType::QStringList && value.toStringList().size() != 1)
-        return {};
     if (!value.isValid() || !value.canConvert<QString>())
         return {};
     const QString text = value.toString();

@@ -3,8 +3,8 @@
 
 #include "keltoitemfinding.h"
 
+#include "core/enteredvalues_p.h"
 #include "core/sentence_p.h"
-#include "core/valuekind_p.h"
 
 #include <QCoreApplication>
 

@@ -17,12 +17,14 @@ struct KELTO_EXPORT KeltoItemFinding
 {
     enum Kind {
         Missing, ///< No value has the key of the parameter.
-        NearMiss, ///< Missing, but there is a value under a similar key.
+        NearMiss, ///< Missing, but a value that belongs to no parameter has a similar key.
         EmptyText, ///< An empty text for a parameter that counts and is not optional.
+        /// For a number by its object name or with a limit; also a fraction where a whole number is
+        /// meant, and a point without two coordinates.
         NotANumber,
         OutsideLimits,
         NotAChoice,
-        UnknownMode,
+        UnknownMode, ///< Also a translated name: values need the plain one.
         ModeWithoutParameters,
     };
 
@@ -30,13 +32,16 @@ struct KELTO_EXPORT KeltoItemFinding
     /// The key that a value list needs, "Attribute/" and the key of the parameter. Empty where the
     /// finding concerns the mode.
     QString valueKey;
-    /// The parameter with both names, unit, symbol and sub-group.
+    /// The parameter with both names, unit, symbol and sub-group. The translated name is the label
+    /// where the item has one. For a mode that was named by its translated name, both its names.
     VParameter parameter;
     /// What was found: the similar key, the value as text, or the name of the unknown mode.
     QString found;
     /// For a value out of several: its position, counting from 0; else -1.
     int position = -1;
-    /// What would do: the limits as "0 .. 10", the values that can be chosen, or the nearest mode.
+    /// What would do: the limits as "0 .. 10", "≥ 0" or "≤ 10", the values that can be chosen, or
+    /// the plain names of the nearest modes. For an absent value, one empty text where that would
+    /// do, since the parameter is optional or does not count.
     QStringList expected;
 
     /// Whether KeltoItemParameterVerify::isValid() is false for this reason alone. The other

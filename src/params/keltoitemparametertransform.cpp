@@ -3,6 +3,7 @@
 
 #include "keltoitemparametertransform.h"
 
+#include "core/enteredvalues_p.h"
 #include "vparameter.h"
 
 #include <algorithm>
@@ -38,24 +39,6 @@ template <typename Point> QStringList pointTexts(const QVector<Point> &points)
     for (const Point &point : points)
         texts.append(numberText(point.x()) + separator + numberText(point.y()));
     return texts;
-}
-
-bool isKindOfArray(const QString &objectName)
-{
-    return objectName == QLatin1String("QVector<float>")
-        || objectName == QLatin1String("QVector<double>")
-        || objectName == QLatin1String("QVector<int>");
-}
-
-bool isKindOfPoints(const QString &objectName)
-{
-    return objectName == QLatin1String("QVector<QPointF>")
-        || objectName == QLatin1String("QVector<QPoint>");
-}
-
-bool isKindOfTable(const QString &objectName)
-{
-    return objectName == QLatin1String("QVector<QStringList>");
 }
 
 QVector<double> scaled(QVector<double> numbers, double factor)

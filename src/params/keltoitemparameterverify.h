@@ -71,7 +71,8 @@ public:
      * the hints of the item, in the order of the entries; see KeltoItemFinding.
      *
      * isValid() is true exactly when no finding is an absence. Values of skipped sub-groups are not
-     * looked at, nor are those that do not count, see KeltoItemHints::counts().
+     * looked at, nor are those that do not count, see KeltoItemHints::counts(). A parameter that
+     * two entries describe is described once, by the first.
      *
      * @return empty for null pointers.
      */

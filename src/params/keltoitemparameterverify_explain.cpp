@@ -5,7 +5,7 @@
 
 #include "keltoitemparameterverify.h"
 
-#include "core/valuekind_p.h"
+#include "core/enteredvalues_p.h"
 #include "hints/countingparameters_p.h"
 #include "keltoitemfinding.h"
 #include "params/requiredparameters_p.h"
@@ -20,6 +20,9 @@ namespace {
 
 using Finding = KeltoItemFinding;
 using Findings = QVector<KeltoItemFinding>;
+
+/// What the keys of values begin with, as it is compared.
+const QLatin1String prefix("attribute/");
 
 /// The parameter of an entry of any length, under the name that a person reads.
 VParameter parameterOf(const QStringList &entry, const QString &label)
@@ -51,18 +54,17 @@ public:
     QString similarTo(const QString &valueKey) const
     {
         const QString name = comparableKey(valueKey);
-        const QVector<int> nearest
-            = m_names.nearest(name, tolerableEdits(name.size() - prefix.size()));
-        if (!nearest.isEmpty())
-            return m_keys.at(nearest.first());
-        // A key without the prefix, which may be that of something else, has to be exact.
-        const QVector<int> bare = m_names.nearest(name.mid(prefix.size()), 0);
-        return bare.isEmpty() ? QString() : m_keys.at(bare.first());
+        const QString bare = name.mid(prefix.size());
+        QVector<int> nearest = m_names.nearest(name, 0);
+        // A key without the prefix may be that of something else, so it has to be the same.
+        if (nearest.isEmpty())
+            nearest = m_names.nearest(bare, 0);
+        if (nearest.isEmpty())
+            nearest = m_names.nearest(name, tolerableEdits(bare.size()));
+        return nearest.isEmpty() ? QString() : m_keys.at(nearest.first());
     }
 
 private:
-    static constexpr QLatin1String prefix { "attribute/" };
-
     static QString comparableKey(const QString &key)
     {
         const QString name = comparableName(key);
@@ -190,7 +192,6 @@ public:
                 const QStringList &skipGroups)
         : m_required(item, values, mode, skipGroups)
         , m_hints(item, mode)
-        , m_unused(m_required)
         , m_counting(m_hints, values)
     {
     }
@@ -221,7 +222,9 @@ private:
         // An empty text would do.
         const bool mayBeEmpty = m_hints.isOptional(name) || !m_counting.contains(name);
         const QStringList expected = mayBeEmpty ? QStringList(QString()) : QStringList();
-        const QString similar = m_unused.similarTo(key);
+        if (!m_unused)
+            m_unused.emplace(m_required);
+        const QString similar = m_unused->similarTo(key);
         if (similar.isNull())
             return { Finding::Missing, key, parameter, {}, -1, expected };
         return { Finding::NearMiss, key, parameter, similar, -1, expected };
@@ -229,7 +232,8 @@ private:
 
     RequiredParameters m_required;
     KeltoItemHints m_hints;
-    UnusedKeys m_unused;
+    /// Gathered for the first absent one: in a form most of the time none is.
+    std::optional<UnusedKeys> m_unused;
     CountingParameters m_counting;
     QSet<QString> m_seen;
     Findings m_findings;

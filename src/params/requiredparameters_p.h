@@ -5,6 +5,7 @@
 #define REQUIREDPARAMETERS_P_H
 
 #include "auth_inf.h"
+#include "core/enteredvalues_p.h"
 #include "core/keyvaluelist_p.h"
 #include "keltoparameterentry.h"
 
@@ -42,7 +43,7 @@ public:
         for (const QStringList &entry : m_entries) {
             if (isSkipped(entry))
                 continue;
-            const QString key = QLatin1String("Attribute/") + entry.value(KeltoParameterEntry::Key);
+            const QString key = valueKeyOf(entry.value(KeltoParameterEntry::Key));
             if (!visit(entry, key, m_values.indexOf(key)))
                 return false;
         }

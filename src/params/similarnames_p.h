@@ -45,7 +45,7 @@ private:
     QHash<QString, Candidates> m_candidates;
     /// Comparisons left. A search that is given up is a hint less, one that goes on for minutes is
     /// a host that hangs.
-    mutable int m_budget = 1000000;
+    mutable int m_budget = 250000;
 };
 
 #endif

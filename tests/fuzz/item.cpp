@@ -1,11 +1,15 @@
 // SPDX-FileCopyrightText: The Kelto developers
 // SPDX-License-Identifier: MIT
 
-// A module item: what a file describes is read, queried, written as source text and saved.
+// A module item: what a file describes is read, queried, explained, written as source text and
+// saved.
 
 #include "fuzzing.h"
 
 #include <AUTH_INF>
+#include <KeltoItemFinding>
+#include <KeltoItemHints>
+#include <KeltoItemParameterVerify>
 
 using Fuzzing::check;
 
@@ -24,6 +28,30 @@ void query(const AUTH_INF &item)
     }
 }
 
+void explain(const AUTH_INF &item)
+{
+    const KeltoItemHints hints(item, item.inner_mode_nameList.value(0));
+    QVector<QPair<QString, QVariant>> values;
+    const QVector<VParameter> parameters = hints.parameters();
+    for (const VParameter &parameter : parameters) {
+        const QString key = parameter.name().first;
+        const QVariant value = hints.defaultValue(key);
+        if (value.isValid())
+            values.append({ QLatin1String("Attribute/") + key, value });
+    }
+    bool isAbsent = false;
+    const auto findings = KeltoItemParameterVerify::explain(&item, &values, hints.mode());
+    for (const KeltoItemFinding &finding : findings) {
+        check(!finding.text().isEmpty(), "a finding has a text");
+        isAbsent = isAbsent || finding.isAbsence();
+    }
+    check(KeltoItemParameterVerify::isValid(&item, &values, hints.mode()) != isAbsent,
+          "either something is absent, or all is valid");
+    const auto problems = hints.problems();
+    for (const KeltoItemHints::Problem &problem : problems)
+        check(!problem.text().isEmpty(), "a problem has a text");
+}
+
 /// Writes source text for fewer modes than a file can ask for: a million take their time.
 QString codeOf(AUTH_INF item)
 {
@@ -40,6 +68,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     AUTH_INF item;
     item.load_ini(file.path());
     query(item);
+    explain(item);
     codeOf(item);
     item.save_ini(file.path());
 

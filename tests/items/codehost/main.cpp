@@ -6,32 +6,19 @@
 
 #include "contexts.h"
 #include "support/itemjson.h"
+#include "support/markingtranslator.h"
 
 #include <QCoreApplication>
 #include <QJsonDocument>
 #include <QTextStream>
-#include <QTranslator>
 
 /// Written by the test.
 QVector<AUTH_INF> generatedItems();
 
-/// Marks the texts of one context.
-class MarkingTranslator : public QTranslator
-{
-public:
-    bool isEmpty() const override { return false; }
-    QString translate(const char *context, const char *text, const char *, int) const override
-    {
-        if (QLatin1String(context) != QLatin1String("QObjectContext"))
-            return QString();
-        return QLatin1Char('[') + QString::fromUtf8(text) + QLatin1Char(']');
-    }
-};
-
 int main(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);
-    MarkingTranslator translator;
+    MarkingTranslator translator(QStringLiteral("QObjectContext"));
     QCoreApplication::installTranslator(&translator);
     // In ASCII, whatever the encoding of the environment is.
     QTextStream(stdout) << QJsonDocument(itemsAsJson(generatedItems())).toJson();
