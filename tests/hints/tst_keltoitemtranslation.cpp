@@ -4,15 +4,14 @@
 // Items from files get the texts that their source text gets: it is compiled into a program that
 // is run with the same translator.
 
+#include "support/compiledhost.h"
 #include "support/directorytest.h"
 #include "support/itemjson.h"
 #include "support/markingtranslator.h"
 #include "support/randomitems.h"
-#include "support/testfiles.h"
 
 #include <Kelto/KeltoItemTranslation>
 
-#include <QProcess>
 #include <QTest>
 
 namespace {
@@ -58,16 +57,6 @@ AUTH_INF randomItem(Dice *dice)
     return item;
 }
 
-QByteArray outputOf(const QString &program, const QStringList &arguments)
-{
-    QProcess process;
-    process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    process.start(program, arguments);
-    if (!process.waitForFinished(100000) || process.exitCode() != 0)
-        qCritical("%s", qUtf8Printable(program + ": " + process.errorString()));
-    return process.readAllStandardOutput();
-}
-
 } // namespace
 
 class TestKeltoItemTranslation : public DirectoryTest
@@ -79,19 +68,12 @@ private Q_SLOTS:
     {
         Dice dice(1);
         QVector<AUTH_INF> items;
-        QString source = "#include <Kelto/AUTH_INF>\n#include \"contexts.h\"\n"
-                         "QVector<AUTH_INF> generatedItems();\n"
-                         "QVector<AUTH_INF> generatedItems()\n{\nQVector<AUTH_INF> items;\n";
+        QString source;
         for (int i = 0; i < 20; ++i) {
             items.append(randomItem(&dice));
             source += "{\n" + items.last().to_code() + "items << inf;\n}\n";
         }
-        QVERIFY(writeFile("items.cpp", QString(source + "return items;\n}\n").toUtf8()));
-        QCOMPARE(outputOf(KELTO_COMPILER,
-                          { "items.cpp", "-o", "host", "@" KELTO_COMPILER_ARGUMENTS }),
-                 QByteArray());
-        const QJsonArray compiled
-            = QJsonDocument::fromJson(outputOf(m_directory->path() + "/host", {})).array();
+        const QJsonArray compiled = compiledItems(source);
         QCOMPARE(compiled.size(), items.size());
 
         MarkingTranslator translator("QObjectContext");

@@ -4,12 +4,12 @@
 // The source text of module items as a host uses it: compiled into a program that is run, and
 // searched for texts to translate.
 
+#include "support/compiledhost.h"
 #include "support/directorytest.h"
 #include "support/harditems.h"
 #include "support/itemjson.h"
 #include "support/testfiles.h"
 
-#include <QProcess>
 #include <QRegularExpression>
 #include <QTest>
 
@@ -90,17 +90,6 @@ struct Context
     }
 };
 
-/// What @p program printed, which is nothing when it failed.
-QByteArray outputOf(const QString &program, const QStringList &arguments)
-{
-    QProcess process;
-    process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    process.start(program, arguments);
-    if (!process.waitForFinished(100000) || process.exitCode() != 0)
-        qCritical("%s", qUtf8Printable(program + ": " + process.errorString()));
-    return process.readAllStandardOutput();
-}
-
 } // namespace
 
 class TestAuthInfCodeCompiles : public DirectoryTest
@@ -120,9 +109,7 @@ private Q_SLOTS:
                                         itemWithShortEntries(-1),
                                         fullItem(),
                                         itemOfType("Calculation") };
-        QString source = "#include <Kelto/AUTH_INF>\n#include \"contexts.h\"\n"
-                         "QVector<AUTH_INF> generatedItems();\n"
-                         "QVector<AUTH_INF> generatedItems()\n{\nQVector<AUTH_INF> items;\n";
+        QString source;
         QVector<AUTH_INF> expected;
         for (const Context &context : contexts) {
             for (const AUTH_INF &item : items) {
@@ -130,13 +117,7 @@ private Q_SLOTS:
                 expected.append(context.compiled(item));
             }
         }
-        QVERIFY(writeFile("items.cpp", QString(source + "return items;\n}\n").toUtf8()));
-        QCOMPARE(outputOf(KELTO_COMPILER,
-                          { "items.cpp", "-o", "host", "@" KELTO_COMPILER_ARGUMENTS }),
-                 QByteArray());
-
-        const QJsonArray compiled
-            = QJsonDocument::fromJson(outputOf(m_directory->path() + "/host", {})).array();
+        const QJsonArray compiled = compiledItems(source);
         QCOMPARE(compiled.size(), expected.size());
         for (int i = 0; i < compiled.size(); ++i)
             QCOMPARE(differences(compiled.at(i).toObject(), itemAsJson(expected.at(i))), "");

@@ -48,34 +48,29 @@ public:
     QVariant defaultValue(const QString &key) const
     {
         const Hint *hint = find("Default", key);
-        if (!hint)
-            return {};
-        return isMulti(key) ? QVariant(defaultValues(*hint)) : QVariant(hint->text);
+        return !hint ? QVariant() : isMulti(key) ? defaultValues(*hint) : QVariant(hint->text);
     }
     double minimum(const QString &key) const { return limit("Min", key, -qInf()); }
     double maximum(const QString &key) const { return limit("Max", key, qInf()); }
     QStringList choices(const QString &key) const
     {
-        const Hint *hint = find("Choices", key);
-        return hint ? choicesOf(hint->text) : QStringList();
+        return find("Choices", key) ? choicesOf(textOf("Choices", key)) : QStringList();
     }
     bool isOptional(const QString &key) const { return isTrue("Optional", key); }
     bool isAdvanced(const QString &key) const { return isTrue("Advanced", key); }
     bool counts(const QString &key, const Values &values) const
     {
-        const Hint *hint = find("When", key);
-        if (!hint)
+        if (!find("When", key))
             return true;
-        const QPair<QString, QStringList> condition = conditionOf(hint->text);
         for (const auto &value : values) {
-            if (value.first != "Attribute/" + condition.first)
+            if (value.first != "Attribute/" + conditionKey(key))
                 continue;
             const bool isList = value.second.type() == QVariant::StringList;
             const QStringList texts
                 = isList ? value.second.toStringList() : QStringList(value.second.toString());
             for (const QString &text : texts) {
-                if (condition.second.contains(text))
-                    return counts(condition.first, values);
+                if (conditionValues(key).contains(text))
+                    return counts(conditionKey(key), values);
             }
             return false;
         }
@@ -83,24 +78,18 @@ public:
     }
     QString conditionKey(const QString &key) const
     {
-        const Hint *hint = find("When", key);
-        return hint ? conditionOf(hint->text).first : QString();
+        return conditionOf(textOf("When", key)).first;
     }
     QStringList conditionValues(const QString &key) const
     {
-        const Hint *hint = find("When", key);
-        return hint ? conditionOf(hint->text).second : QStringList();
+        return conditionOf(textOf("When", key)).second;
     }
     QString label(const QString &key) const { return textOf("Label", key); }
     QString help(const QString &key) const { return textOf("Help", key); }
     QStringList fileFilters(const QString &key) const
     {
-        QStringList filters;
-        const QStringList parts = textOf("Files", key).split(";;");
-        for (const QString &filter : parts) {
-            if (!filter.trimmed().isEmpty())
-                filters.append(filter.trimmed());
-        }
+        QStringList filters = elements(textOf("Files", key), ";;");
+        filters.removeAll("");
         return filters;
     }
     QStringList order() const
@@ -115,12 +104,10 @@ public:
     }
     QStringList resultModes(const QString &key) const
     {
-        if (!isResult(key))
-            return {};
         const Hint *hint = find("Belong", key);
         QStringList modes = hint ? elements(hint->text) : m_item.inner_mode_nameList;
         modes.removeDuplicates();
-        return modes;
+        return isResult(key) ? modes : QStringList();
     }
     QVector<VParameter> parameters() const
     {
@@ -209,24 +196,20 @@ private:
         return values;
     }
 
-    bool isParameter(const QString &key) const
+    static bool holds(const QVector<QStringList> &entries, const QString &key)
     {
-        for (const auto &entries : m_item.inner_mode_parameterList) {
-            for (const QStringList &entry : entries) {
-                if (entry.value(1) == key)
-                    return true;
-            }
-        }
-        return false;
+        return std::any_of(entries.cbegin(), entries.cend(),
+                           [&key](const QStringList &entry) { return entry.value(1) == key; });
     }
-    bool isResult(const QString &key) const
+    QVector<QStringList> parameterEntries() const
     {
-        for (const QStringList &entry : m_item.output_results) {
-            if (entry.value(1) == key)
-                return true;
-        }
-        return false;
+        QVector<QStringList> entries;
+        for (const auto &ofMode : m_item.inner_mode_parameterList)
+            entries += ofMode;
+        return entries;
     }
+    bool isParameter(const QString &key) const { return holds(parameterEntries(), key); }
+    bool isResult(const QString &key) const { return holds(m_item.output_results, key); }
     bool isKey(const QString &key) const { return isParameter(key) || isResult(key); }
     bool isKeyFor(const QString &word, const QString &key) const
     {
@@ -236,25 +219,19 @@ private:
     QStringList allKeys() const
     {
         QStringList keys;
-        for (const auto &entries : m_item.inner_mode_parameterList) {
-            for (const QStringList &entry : entries)
-                keys.append(entry.value(1));
-        }
-        for (const QStringList &entry : m_item.output_results)
+        const QVector<QStringList> entries = parameterEntries() + m_item.output_results;
+        for (const QStringList &entry : entries)
             keys.append(entry.value(1));
         keys.removeDuplicates();
         return keys;
     }
     bool isMulti(const QString &key) const
     {
-        QVector<QVector<QStringList>> lists { m_item.inner_mode_parameterList.value(m_mode) };
-        lists += m_item.inner_mode_parameterList;
-        lists += m_item.output_results;
-        for (const auto &entries : qAsConst(lists)) {
-            for (const QStringList &entry : entries) {
-                if (entry.value(1) == key)
-                    return entry.value(3) == "true";
-            }
+        const QVector<QStringList> entries = m_item.inner_mode_parameterList.value(m_mode)
+            + parameterEntries() + m_item.output_results;
+        for (const QStringList &entry : entries) {
+            if (entry.value(1) == key)
+                return entry.value(3) == "true";
         }
         return false;
     }
@@ -356,8 +333,7 @@ private:
         const bool isNamed = m_mode >= 0 && m_mode < m_item.inner_mode_nameList.size();
         for (const QString &wanted : { isNamed ? "@" + mode() : QString("none"), QString() }) {
             for (const Hint &hint : m_hints) {
-                if (hint.word == word && hint.key == key && hint.mode == wanted
-                    && hint.mode.isNull() == wanted.isNull())
+                if (hint.word == word && hint.key == key && hint.mode == wanted)
                     return hint.isDropped ? nullptr : &hint;
             }
         }
@@ -386,14 +362,9 @@ private:
 
     void drop(const QString &word, const QString &key, Problem::Kind kind)
     {
-        const Hint *found = find(word, key);
-        for (Hint &hint : m_hints) {
-            if (hint.position == found->position) {
-                hint.isDropped = true;
-                report(hint.position, kind);
-                return;
-            }
-        }
+        const auto index = find(word, key) - m_hints.constData();
+        m_hints[int(index)].isDropped = true;
+        report(m_hints.at(int(index)).position, kind);
     }
 
     void checkLimits(const QString &key)
