@@ -10,8 +10,7 @@
 #include <string_view>
 
 // QSettings stores what is not text as a text such as "@Point(1 2)". Behind "@Variant(" come the
-// bytes that QDataStream makes of the value, and Qt's readers trust them: wrong bytes can crash
-// them, keep them busy for minutes, or nest values until the stack overflows.
+// bytes that QDataStream makes of the value.
 
 /// Whether it is unsafe to let Qt read @p text, one element of a value. Pixmaps, and what may
 /// contain them, are safe in programs with windows only.
