@@ -222,12 +222,6 @@ private:
     int m_keptLength = 0;
 };
 
-/// Whether @p c has no special meaning in a key.
-bool isPlainInKey(char c)
-{
-    return c != '/' && c != '\\' && c != '%';
-}
-
 } // namespace
 
 bool isSameName(std::string_view a, std::string_view b)
@@ -260,15 +254,18 @@ quint64 SettingsKey::hash(quint64 hashOfSection) const
 
 bool SettingsKey::isReadable() const
 {
-    const std::string_view front = section.data() ? section : name;
-    const bool hasPlainFront = !front.empty() && isPlainInKey(front.front());
-    const bool hasPlainBack = !name.empty() && isPlainInKey(name.back());
-    // An escaped "/" is %2F.
-    if (hasPlainFront && hasPlainBack && (name.back() & 0xdf) != 'F')
-        return true;
     const QLatin1Char slash('/');
-    const QString key = text();
-    return !key.startsWith(slash) && !(key.endsWith(slash) && key.count(slash) > 1);
+    QChar last = slash;
+    int slashes = 0;
+    bool isSuperfluous = false;
+    const auto look = [&](QChar character) {
+        isSuperfluous = isSuperfluous || (character == slash && last == slash);
+        slashes += character == slash ? 1 : 0;
+        last = character;
+    };
+    visitSection(section, look);
+    visitCharacters(name, look);
+    return !isSuperfluous && !(last == slash && slashes > 1);
 }
 
 QStringList elementsOfValue(std::string_view value, std::vector<Misspelling> *misspellings)

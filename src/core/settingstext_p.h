@@ -48,7 +48,7 @@ struct SettingsKey
     /// The key as QSettings::allKeys() gives it.
     QString text() const;
     /// Whether QSettings can look up the value of the key, and writes the key so that it reads the
-    /// same one again. A "/" at the front or at the end can prevent both.
+    /// same one again. A "/" in front, at the end or behind another one can prevent both.
     bool isReadable() const;
     /// A hash that is the same for all spellings of the key, given that of its section.
     quint64 hash(quint64 hashOfSection) const;

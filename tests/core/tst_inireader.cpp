@@ -210,8 +210,10 @@ private Q_SLOTS:
         row("a key in a section called General is another", "b=0\n[%General]\nb=1\n", {});
         row("keys that a slash begins or ends",
             "[/c]\nd=1\n[a]\nb%2F=2\n\\e=3\n[]\nf=4\n[a]\ng%2f=5\n",
-            { "2:1 unreadable key", "4:1 unreadable key", "7:1 unreadable key",
-              "9:1 unreadable key" });
+            { "2:1 unreadable key", "4:1 unreadable key", "5:1 unreadable key",
+              "7:1 unreadable key", "9:1 unreadable key" });
+        row("keys with two slashes in them", "a\\\\b=1\na%2f/c=2\n[a\\b]\nc\\d=3\n",
+            { "1:1 unreadable key", "2:1 unreadable key" });
         row("a slash at the end of a key without a section", "a%2f=1\n", {});
         row("a byte order mark in front of a key",
             "\xef\xbb\xbf"
