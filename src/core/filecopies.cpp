@@ -3,6 +3,8 @@
 
 #include "core/filecopies_p.h"
 
+#include "core/files_p.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <QStringList>
@@ -30,8 +32,9 @@ QStringList copyPaths(const QString &path)
 bool putInFront(const QString &path, const QByteArray &bytes)
 {
     const QStringList copies = copyPaths(path);
-    const auto endsMoving
-        = [&bytes](const QString &copy) { return !QFile::exists(copy) || bytesOf(copy) == bytes; };
+    const auto endsMoving = [&bytes](const QString &copy) {
+        return !QFile::exists(copy) || contentOf(copy) == bytes;
+    };
     const auto found = std::find_if(copies.cbegin(), copies.cend(), endsMoving);
     int last = qMin(static_cast<int>(found - copies.cbegin()), copies.size() - 1);
     if (copies.isEmpty())
@@ -40,7 +43,7 @@ bool putInFront(const QString &path, const QByteArray &bytes)
         return true;
     // Under a name of its own first, so that no earlier copy is removed if writing fails.
     QTemporaryFile newest(path + QLatin1String(".bak.XXXXXX"));
-    if (!newest.open() || newest.write(bytes) != bytes.size() || !newest.flush())
+    if (!newest.open() || !writeWhole(&newest, bytes))
         return false;
     newest.setPermissions(QFile::permissions(path));
     QFile::remove(copies.at(last));
@@ -52,25 +55,6 @@ bool putInFront(const QString &path, const QByteArray &bytes)
 }
 
 } // namespace
-
-bool isPath(const QString &path)
-{
-    return !path.isEmpty() && !path.contains(QChar::Null);
-}
-
-bool canBeFile(const QString &path)
-{
-    if (!isPath(path))
-        return false;
-    const QFileInfo info(path);
-    return info.isFile() || !info.exists();
-}
-
-QByteArray bytesOf(const QString &path)
-{
-    QFile file(path);
-    return canBeFile(path) && file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 bool keepCopy(const QString &path, const QByteArray &bytes)
 {

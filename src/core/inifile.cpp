@@ -4,76 +4,19 @@
 #include "core/inifile_p.h"
 
 #include "core/filecopies_p.h"
+#include "core/files_p.h"
 #include "core/iniproblems_p.h"
-#include "core/typedtext_p.h"
+#include "core/settingsfile_p.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QLockFile>
-#include <QSettings>
 
 #include <algorithm>
 #include <new>
 
 namespace {
-
-/// All files are opened through this, so that they are read in the encoding in which they were
-/// written.
-class Utf8Settings : public QSettings
-{
-public:
-    explicit Utf8Settings(const QString &path)
-        : QSettings(path, QSettings::IniFormat)
-    {
-        setIniCodec("utf-8");
-    }
-};
-
-bool isDirectoryWritable(const QString &path)
-{
-    return path.isEmpty() || QFileInfo(QFileInfo(path).absolutePath()).isWritable();
-}
-
-/// Whether the file can be written, and so can the directory in which QSettings locks it and the
-/// one in which it makes the new file; for a link these are two. Where they cannot, QSettings would
-/// still show the new values to everybody in this process. QSettings::isWritable() makes missing
-/// directories, so it is asked first.
-bool isWritable(const QSettings &settings)
-{
-    const QString path = settings.fileName();
-    return settings.isWritable() && isDirectoryWritable(path)
-        && isDirectoryWritable(QFileInfo(path).canonicalFilePath());
-}
-
-/// In milliseconds. QSettings removes a lock that is half a minute old, so every lock ends by then.
-constexpr int longestLock = 40 * 1000;
-
-/// Whether QSettings can lock the file, now or soon. Where something else has the name of the lock,
-/// a directory for example, QSettings would wait for ever.
-bool isLockable(const QSettings &settings)
-{
-    const QFileInfo lock(settings.fileName() + QLatin1String(".lock"));
-    if (lock.isSymLink())
-        return false;
-    return !lock.exists() || (lock.isFile() && QLockFile(lock.filePath()).tryLock(longestLock));
-}
-
-/// Whether anything of @p key is left when QSettings has dropped its superfluous slashes. QSettings
-/// refuses other keys with a warning.
-bool isKey(const QString &key)
-{
-    return std::any_of(key.cbegin(), key.cend(), [](QChar c) { return c != QLatin1Char('/'); });
-}
-
-KeyValues entriesOf(const QSettings &settings)
-{
-    const QStringList keys = settings.allKeys();
-    KeyValues entries;
-    entries.reserve(keys.size());
-    for (const QString &key : keys)
-        entries.append({ key, isKey(key) ? settings.value(key) : QVariant() });
-    return entries;
-}
 
 bool isUnsafeValue(const IniProblem &problem)
 {
@@ -85,13 +28,25 @@ bool isLoss(const IniProblem &problem)
     return problem.kind != IniProblem::EmptySection;
 }
 
-void write(QSettings *settings, const KeyValues &entries)
+/// Saves into a file that this process has locked.
+void save(const QString &path, const KeyValues &entries)
 {
-    for (const KeyValue &entry : entries) {
-        if (isKey(entry.first) && isStorable(entry.second))
-            settings->setValue(entry.first, entry.second);
+    const std::optional<QByteArray> before = contentOf(path);
+    if (!before)
+        return;
+    const QVector<IniProblem> problems = iniProblems(*before);
+    if (std::any_of(problems.cbegin(), problems.cend(), isUnsafeValue))
+        return;
+    const std::optional<SettingsFile> after = changedSettings(path, *before, entries);
+    if (!after)
+        return;
+    if (after->bytes != before) {
+        if (std::any_of(problems.cbegin(), problems.cend(), isLoss) && !keepCopy(path, *before))
+            return;
+        if (!replaceFile(path, after->bytes))
+            return;
     }
-    settings->sync();
+    rememberSettings(path, *after);
 }
 
 } // namespace
@@ -109,12 +64,11 @@ bool ensureFile(const QString &path)
 
 KeyValues readIniFile(const QString &path)
 {
-    if (!canBeFile(path))
-        return {};
     try {
-        if (hasUnsafeIniValue(bytesOf(path)))
+        const std::optional<QByteArray> bytes = contentOf(path);
+        if (!bytes || hasUnsafeIniValue(*bytes))
             return {};
-        return entriesOf(Utf8Settings(path));
+        return readSettings(path, *bytes);
     } catch (const std::bad_alloc &) {
         return {};
     }
@@ -122,21 +76,13 @@ KeyValues readIniFile(const QString &path)
 
 void writeIniFile(const QString &path, const KeyValues &entries)
 {
-    if (entries.isEmpty() || !canBeFile(path))
+    const QFileInfo info(path);
+    if (entries.isEmpty() || !canBeFile(path) || (info.exists() && !info.isWritable())
+        || !QDir().mkpath(info.absolutePath()))
         return;
     try {
-        QByteArray bytes = bytesOf(path);
-        const QVector<IniProblem> problems = iniProblems(bytes);
-        if (std::any_of(problems.cbegin(), problems.cend(), isUnsafeValue))
-            return;
-        Utf8Settings settings(path);
-        if (!isWritable(settings) || !isLockable(settings))
-            return;
-        if (std::any_of(problems.cbegin(), problems.cend(), isLoss) && !keepCopy(path, bytes))
-            return;
-        // QSettings needs about as much memory to write the file.
-        bytes.clear();
-        write(&settings, entries);
+        if (const auto lock = lockedFile(path))
+            save(path, entries);
     } catch (const std::bad_alloc &) {
     }
 }

@@ -74,6 +74,18 @@ void addTo(quint64 &hash, QChar character)
     hash ^= hash >> 29;
 }
 
+/// Whether there may be a "/" in @p spelling, as it is or as an escape such as %2F.
+bool mayHoldSlash(std::string_view spelling)
+{
+    char last = 0;
+    for (const char c : spelling) {
+        if (c == '/' || c == '\\' || (last == '2' && (c == 'F' || c == 'f')))
+            return true;
+        last = c;
+    }
+    return false;
+}
+
 class ValueDecoder
 {
 public:
@@ -254,6 +266,10 @@ quint64 SettingsKey::hash(quint64 hashOfSection) const
 
 bool SettingsKey::isReadable() const
 {
+    const bool hasSection = section.data();
+    if (!name.empty() && !mayHoldSlash(name) && !mayHoldSlash(section)
+        && (!hasSection || !section.empty()))
+        return true;
     const QLatin1Char slash('/');
     QChar last = slash;
     int slashes = 0;

@@ -1,0 +1,148 @@
+// SPDX-FileCopyrightText: The Kelto developers
+// SPDX-License-Identifier: MIT
+
+#include "core/files_p.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QFileInfo>
+#include <QLockFile>
+#include <QSaveFile>
+#include <QThread>
+
+#ifdef Q_OS_UNIX
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
+namespace {
+
+/// In milliseconds. A lock this old is removed unless its process still holds it, which the system
+/// knows, whatever number that process has.
+constexpr int staleLockTime = 1000;
+/// How often somebody else's lock is looked at. Who looks rarely is overtaken again and again.
+constexpr int lockInterval = 5;
+/// How long an abandoned lock is tried to be removed, where that may be forbidden.
+constexpr int longestLock = 10 * 1000;
+
+/// Writes to the disk what the system still keeps; where that cannot be done, it is the system's
+/// business.
+bool synchronise(const QFileDevice &file)
+{
+#ifdef Q_OS_UNIX
+    return ::fsync(file.handle()) == 0 || errno == EINVAL || errno == ENOSYS;
+#else
+    Q_UNUSED(file)
+    return true;
+#endif
+}
+
+/// Whether files can only be added to @p directory.
+bool isAppendOnly(const QString &directory)
+{
+#ifdef STATX_ATTR_APPEND
+    struct statx status = {};
+    return ::statx(AT_FDCWD, QFile::encodeName(directory).constData(), 0, 0, &status) == 0
+        && (status.stx_attributes & STATX_ATTR_APPEND);
+#else
+    Q_UNUSED(directory)
+    return false;
+#endif
+}
+
+/// Whether a process holds @p lock. Of one that was killed only the file stays.
+bool isHeld(const QString &lock)
+{
+#ifdef Q_OS_UNIX
+    QFile file(lock);
+    return file.open(QIODevice::ReadOnly) && ::flock(file.handle(), LOCK_EX | LOCK_NB) != 0;
+#else
+    return QFile::exists(lock);
+#endif
+}
+
+/// Waits for @p lock as long as it can end.
+bool waitFor(QLockFile *lock, const QString &path)
+{
+    QDateTime made;
+    QElapsedTimer unchanged;
+    while (!lock->tryLock()) {
+        const QFileInfo info(path);
+        if (lock->error() != QLockFile::LockFailedError || info.isSymLink() || !canBeFile(path))
+            return false;
+        if (!unchanged.isValid() || made != info.lastModified()) {
+            made = info.lastModified();
+            unchanged.start();
+        } else if (unchanged.hasExpired(longestLock) && !isHeld(path)) {
+            return false;
+        }
+        QThread::msleep(lockInterval);
+    }
+    return true;
+}
+
+} // namespace
+
+bool isPath(const QString &path)
+{
+    return !path.isEmpty() && !path.contains(QChar::Null)
+        && (QDir::isAbsolutePath(path) || !QDir::currentPath().isEmpty());
+}
+
+bool canBeFile(const QString &path)
+{
+    if (!isPath(path))
+        return false;
+    const QFileInfo info(path);
+    return info.isFile() || !info.exists();
+}
+
+std::optional<QByteArray> contentOf(const QString &path)
+{
+    QFile file(path);
+    if (!canBeFile(path))
+        return std::nullopt;
+    if (!file.exists())
+        return QByteArray();
+    if (!file.open(QIODevice::ReadOnly))
+        return std::nullopt;
+    QByteArray bytes = file.readAll();
+    if (file.error() != QFileDevice::NoError)
+        return std::nullopt;
+    return bytes;
+}
+
+bool writeWhole(QFileDevice *file, const QByteArray &bytes)
+{
+    return file->write(bytes) == bytes.size() && file->flush() && synchronise(*file);
+}
+
+bool replaceFile(const QString &path, const QByteArray &bytes)
+{
+    const QDateTime before = QFileInfo(path).lastModified();
+    QSaveFile file(path);
+    // QSaveFile itself overlooks it when the last bytes find no place on the disk.
+    if (!file.open(QIODevice::WriteOnly) || !writeWhole(&file, bytes))
+        return false;
+    // QSettings takes a file of the same size and time for the one that it knows, and the clock of
+    // a file system may be slow.
+    if (before.isValid() && file.fileTime(QFileDevice::FileModificationTime) <= before)
+        file.setFileTime(before.addMSecs(1), QFileDevice::FileModificationTime);
+    return file.commit();
+}
+
+std::unique_ptr<QLockFile> lockedFile(const QString &path)
+{
+    const QFileInfo info(path);
+    const QString lockPath = info.absoluteFilePath() + QLatin1String(".lock");
+    if (isAppendOnly(info.absolutePath()))
+        return nullptr;
+    auto lock = std::make_unique<QLockFile>(lockPath);
+    lock->setStaleLockTime(staleLockTime);
+    return waitFor(lock.get(), lockPath) ? std::move(lock) : nullptr;
+}
