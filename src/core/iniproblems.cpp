@@ -180,12 +180,12 @@ QVector<IniProblem> iniProblems(const QByteArray &bytes)
 
 bool hasUnsafeIniValue(const QByteArray &bytes)
 {
-    if (!bytes.contains('@') && !bytes.contains('\\'))
+    if (!mayHoldSerialised({ bytes.constData(), std::size_t(bytes.size()) }))
         return false;
     IniReader reader(bytes);
     while (reader.next()) {
         const std::string_view value = reader.line().value;
-        if (mayHoldTypedText(value) && hasUnsafeElement(elementsOfValue(value)))
+        if (mayHoldSerialised(value) && hasUnsafeElement(elementsOfValue(value)))
             return true;
     }
     return false;

@@ -154,9 +154,15 @@ std::optional<SettingsFile> changedSettings(const QString &path, const QByteArra
                                             const KeyValues &entries)
 {
     const SettingsFile before { bytes, writtenFiles->entries(path, bytes) };
-    // Where temporary files find no place, there may still be some beside the file.
-    auto after = rewritten(QDir::tempPath() + QLatin1String("/kelto"), before, entries);
-    return after ? after : rewritten(path, before, entries);
+    // In memory, if possible: QSettings waits for the disk. In the end there is place at least
+    // where the file itself is to be written.
+    std::optional<SettingsFile> after;
+    for (const QString &place : { QString(QLatin1String("/dev/shm/kelto")),
+                                  QString(QDir::tempPath() + QLatin1String("/kelto")), path }) {
+        if (!after)
+            after = rewritten(place, before, entries);
+    }
+    return after;
 }
 
 void rememberSettings(const QString &path, const SettingsFile &file)

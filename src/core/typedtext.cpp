@@ -148,6 +148,36 @@ QString behindOpening(const QString &text, const TypedForm &form)
     return text.mid(static_cast<int>(qstrlen(form.opening)));
 }
 
+/// Whether @p spelling, which begins with a "@", may stand for a serialised value. What begins like
+/// one may go on behind a quote or in escapes.
+bool mayBeSerialised(std::string_view spelling)
+{
+    const auto mayGoOn = [](char c) { return c == '\\' || c == '"' || c < 0; };
+    // Most signs are those of addresses.
+    const char next = spelling.size() > 1 ? spelling[1] : ' ';
+    if (next != 'V' && next != 'D' && !mayGoOn(next))
+        return false;
+    for (const std::string_view opening : { "@Variant(", "@DateTime(" }) {
+        const auto [at, expected]
+            = std::mismatch(spelling.begin(), spelling.end(), opening.begin(), opening.end());
+        if (expected == opening.end() || (at != spelling.end() && mayGoOn(*at)))
+            return true;
+    }
+    return false;
+}
+
+/// Whether the escape at the front of @p spelling stands for "@".
+bool isEscapedAtSign(std::string_view spelling)
+{
+    const bool isHexadecimal = spelling.substr(1, 1) == "x";
+    const std::string_view number
+        = spelling.substr(isHexadecimal ? 2 : std::min<std::size_t>(1, spelling.size()));
+    const char *const digits = isHexadecimal ? "0123456789abcdefABCDEF" : "01234567";
+    const std::string_view sign = isHexadecimal ? "40" : "100";
+    const std::string_view code = number.substr(0, number.find_first_not_of(digits));
+    return code.size() >= sign.size() && code.substr(code.size() - sign.size()) == sign;
+}
+
 } // namespace
 
 bool isUnsafe(const QString &text)
@@ -173,12 +203,15 @@ bool isStorable(const QVariant &value)
     return isStorable(value, 0);
 }
 
-bool mayHoldTypedText(std::string_view value)
+bool mayHoldSerialised(std::string_view bytes)
 {
-    for (std::size_t at = value.find_first_of("@\\"); at < value.size();
-         at = value.find_first_of("@\\", at + 1)) {
-        const char next = at + 1 < value.size() ? value[at + 1] : ' ';
-        if (value[at] == '@' || next == 'x' || (next >= '0' && next <= '7'))
+    constexpr std::size_t none = std::string_view::npos;
+    for (std::size_t at = bytes.find('@'); at != none; at = bytes.find('@', at + 1)) {
+        if (mayBeSerialised(bytes.substr(at)))
+            return true;
+    }
+    for (std::size_t at = bytes.find('\\'); at != none; at = bytes.find('\\', at + 2)) {
+        if (isEscapedAtSign(bytes.substr(at)))
             return true;
     }
     return false;

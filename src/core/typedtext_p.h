@@ -19,9 +19,9 @@ bool isUnsafe(const QString &text);
 /// Whether reading @p text, which is not unsafe, gives less than QSettings has written.
 bool isDamaged(const QString &text);
 
-/// Whether @p value, as it is spelt in a file, may hold a text with a "@" in it, written as it is
-/// or as an escaped number. Others need not be decoded.
-bool mayHoldTypedText(std::string_view value);
+/// Whether @p bytes, a value as it is spelt or a whole file, may hold a text that is unsafe. Others
+/// need not be decoded.
+bool mayHoldSerialised(std::string_view bytes);
 
 /// Whether QSettings can store @p value. With a pointer, for one, it would write rubbish and print
 /// a warning; a time in a time zone that does not exist would crash it.
