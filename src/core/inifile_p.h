@@ -18,7 +18,8 @@ KeyValues readIniFile(const QString &path);
 
 /**
  * Writes @p entries into the INI file at @p path, in order, and keeps its other keys. Missing
- * directories are made. Values that cannot be stored, pointers for example, are left out.
+ * directories are made. Values that cannot be stored, pointers for example, are left out. The file
+ * is locked, read again and replaced as a whole; it stays as it was if that fails.
  *
  * A file of which something would be lost in that is copied first, to @p path with the ending
  * ".bak", and left alone if that fails. Five copies stay at most, the oldest ends in ".bak5".

@@ -67,12 +67,16 @@ bool set(QSettings *settings, const KeyValues &entries)
     return isAny;
 }
 
-/// As many keys as a file may have for its values to be remembered, and as many files.
-constexpr int mostKeys = 80;
-constexpr int mostFiles = 3;
+/// What it costs to remember a file of so many keys; QSettings, too, remembers up to a hundred.
+int costOf(int keys)
+{
+    return 10 + keys / 4;
+}
 
-/// What this process has written, with the types that the values had. QSettings gives these back,
-/// too, for as few and small files, as long as nobody else has written them.
+constexpr int mostCost = 100;
+
+/// What this process has written last, with the types that the values had. QSettings gives these
+/// back, too, as long as nobody else has written the file.
 class WrittenFiles
 {
 public:
@@ -89,17 +93,22 @@ public:
         const QMutexLocker locker(&m_mutex);
         m_files.remove(keyOf(path));
         if (!file.entries.isEmpty())
-            m_files.insert(keyOf(path), new SettingsFile(file));
+            m_files.insert(keyOf(path), new SettingsFile(file), costOf(file.entries.size()));
     }
 
 private:
     static QString keyOf(const QString &path) { return QFileInfo(path).absoluteFilePath(); }
 
     mutable QMutex m_mutex;
-    QCache<QString, SettingsFile> m_files { mostFiles };
+    QCache<QString, SettingsFile> m_files { mostCost };
 };
 
-Q_GLOBAL_STATIC(WrittenFiles, writtenFiles)
+/// Never deleted, since hosts may also save when they end.
+WrittenFiles &writtenFiles()
+{
+    static auto *const files = new WrittenFiles;
+    return *files;
+}
 
 /// A section that QSettings writes behind all others, since it orders them by their names. It does
 /// not notice when a disk is full in the end, but then this section is not there as a whole.
@@ -131,14 +140,14 @@ std::optional<SettingsFile> rewritten(const QString &place, const SettingsFile &
     if (!bytes.endsWith(last.bytes))
         return {};
     bytes.chop(last.bytes.size());
-    // A section takes two lines more.
-    if (bytes.count('\n') > 3 * mostKeys)
+    // A section takes two lines more than its keys.
+    if (costOf(bytes.count('\n') / 3) > mostCost)
         return SettingsFile { bytes, {} };
     KeyValues all = entriesOf(settings);
     all.removeLast();
-    const bool isKept = all.size() <= mostKeys
-        && std::all_of(all.cbegin(), all.cend(),
-                       [](const KeyValue &entry) { return keepsSlashes(entry.first); });
+    const bool isKept = std::all_of(all.cbegin(), all.cend(), [](const KeyValue &entry) {
+        return keepsSlashes(entry.first);
+    });
     return SettingsFile { bytes, isKept ? all : KeyValues() };
 }
 
@@ -146,14 +155,14 @@ std::optional<SettingsFile> rewritten(const QString &place, const SettingsFile &
 
 KeyValues readSettings(const QString &path, const QByteArray &bytes)
 {
-    const KeyValues written = writtenFiles->entries(path, bytes);
+    const KeyValues written = writtenFiles().entries(path, bytes);
     return written.isEmpty() ? entriesOf(Utf8Settings(path)) : written;
 }
 
 std::optional<SettingsFile> changedSettings(const QString &path, const QByteArray &bytes,
                                             const KeyValues &entries)
 {
-    const SettingsFile before { bytes, writtenFiles->entries(path, bytes) };
+    const SettingsFile before { bytes, writtenFiles().entries(path, bytes) };
     // In memory, if possible: QSettings waits for the disk. In the end there is place at least
     // where the file itself is to be written.
     std::optional<SettingsFile> after;
@@ -167,5 +176,5 @@ std::optional<SettingsFile> changedSettings(const QString &path, const QByteArra
 
 void rememberSettings(const QString &path, const SettingsFile &file)
 {
-    writtenFiles->insert(path, file);
+    writtenFiles().insert(path, file);
 }

@@ -123,8 +123,15 @@ public:
 
     /**
      * Writes the list into the file @p path, which is created where it is missing, and keeps the
-     * other keys of that file. Directories are not made. While another program locks the file,
-     * this waits. The store stays bound to its own file.
+     * other keys of that file, also those that others have saved since it was read. Directories are
+     * not made. The store stays bound to its own file.
+     *
+     * The file is replaced as a whole. Where that fails, on a full disk for example, it stays as it
+     * was, and this process reads what is in it. The lock is that of QSettings, a file with the
+     * additional ending ".lock". While another program holds it, this waits; the lock of one that
+     * was killed is removed after a second. Where something that is no file has the name of the
+     * lock, nothing is saved, and nothing either where a lock that nobody holds cannot be removed
+     * for ten seconds.
      *
      * Of what stands in the file, QSettings writes only what it has understood. Before something
      * would be lost in that, the file is copied: to a file with the additional ending ".bak", while
