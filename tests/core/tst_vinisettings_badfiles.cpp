@@ -14,13 +14,17 @@
 #include "support/testfiles.h"
 
 #include <QCoreApplication>
-#include <QDateTime>
 #include <QElapsedTimer>
+#include <QLockFile>
 #include <QRegularExpression>
+#include <QSemaphore>
 #include <QSettings>
 #include <QTest>
+#include <QThread>
 
 #ifdef Q_OS_UNIX
+#include <csignal>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #endif
@@ -92,18 +96,51 @@ QString lostIn(const QByteArray &before, const QByteArray &now)
     return QString();
 }
 
-/// A lock as a process leaves it that has this number and was killed @p seconds ago.
-void leaveLock(qint64 process, int seconds)
+QByteArray junk(int number)
 {
-    const QByteArray program = QCoreApplication::applicationName().toUtf8();
-    QVERIFY(writeFile("f.ini.lock",
-                      QByteArray::number(process) + '\n' + program + '\n'
-                          + QSysInfo::machineHostName().toLocal8Bit() + '\n'));
-    QFile lock("f.ini.lock");
-    QVERIFY(lock.open(QIODevice::ReadWrite));
-    QVERIFY(lock.setFileTime(QDateTime::currentDateTime().addSecs(-seconds),
-                             QFileDevice::FileModificationTime));
+    return "junk " + QByteArray::number(number) + "\na=1\n";
 }
+
+/// Saves into a file that holds @p bytes.
+void saveOver(const QByteArray &bytes)
+{
+    QVERIFY(writeFile("f.ini", bytes));
+    setAndSave("f.ini", "value");
+}
+
+/// What the copies of the file hold, the newest first; nothing where there is none.
+QByteArrayList copies()
+{
+    QByteArrayList contents;
+    for (const char *ending : { ".bak", ".bak2", ".bak3", ".bak4", ".bak5" })
+        contents.append(fileContent(QString("f.ini") + ending));
+    return contents;
+}
+
+#ifdef Q_OS_UNIX
+/// As long as it exists, no file can be written that is larger than this.
+class FileLimit
+{
+public:
+    explicit FileLimit(rlim_t bytes)
+        : m_handler(std::signal(SIGXFSZ, SIG_IGN))
+    {
+        getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit limit { bytes, m_before.rlim_max };
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FileLimit()
+    {
+        setrlimit(RLIMIT_FSIZE, &m_before);
+        std::signal(SIGXFSZ, m_handler);
+    }
+    Q_DISABLE_COPY(FileLimit)
+
+private:
+    void (*m_handler)(int);
+    rlimit m_before {};
+};
+#endif
 
 QStringList asUser(const QStringList &arguments)
 {
@@ -179,46 +216,21 @@ private Q_SLOTS:
 
     void keepsTheNewestFiveCopies()
     {
-        const auto junk
-            = [](int i) -> QByteArray { return "junk " + QByteArray::number(i) + "\na=1\n"; };
+        // The third name is not free.
         QVERIFY(QDir().mkdir("f.ini.bak3"));
-        for (int i = 1; i <= 8; ++i) {
-            QVERIFY(writeFile("f.ini", junk(i)));
-            setAndSave("f.ini", "value");
-        }
-        QCOMPARE(filesIn("."),
-                 (QStringList { "f.ini", "f.ini.bak", "f.ini.bak2", "f.ini.bak3", "f.ini.bak4",
-                                "f.ini.bak5" }));
-        QCOMPARE(fileContent("f.ini.bak"), junk(8));
-        QCOMPARE(fileContent("f.ini.bak2"), junk(7));
+        for (int i = 1; i <= 8; ++i)
+            saveOver(junk(i));
+        QCOMPARE(copies(), (QByteArrayList { junk(8), junk(7), "", junk(6), junk(5) }));
         QVERIFY(QDir("f.ini.bak3").isEmpty());
-        QCOMPARE(fileContent("f.ini.bak4"), junk(6));
-        QCOMPARE(fileContent("f.ini.bak5"), junk(5));
-
         // What is kept already becomes the newest, and nothing is dropped.
-        QVERIFY(writeFile("f.ini", junk(6)));
-        setAndSave("f.ini", "value");
-        QCOMPARE(fileContent("f.ini.bak"), junk(6));
-        QCOMPARE(fileContent("f.ini.bak2"), junk(8));
-        QCOMPARE(fileContent("f.ini.bak4"), junk(7));
-        QCOMPARE(fileContent("f.ini.bak5"), junk(5));
-
+        saveOver(junk(6));
+        QCOMPARE(copies(), (QByteArrayList { junk(6), junk(8), "", junk(7), junk(5) }));
         // A name that is free again is taken.
         QVERIFY(QDir().rmdir("f.ini.bak3"));
-        QVERIFY(writeFile("f.ini", junk(9)));
-        setAndSave("f.ini", "value");
-        QCOMPARE(fileContent("f.ini.bak"), junk(9));
-        QCOMPARE(fileContent("f.ini.bak2"), junk(6));
-        QCOMPARE(fileContent("f.ini.bak3"), junk(8));
-        QCOMPARE(fileContent("f.ini.bak4"), junk(7));
-        QCOMPARE(filesIn(".").size(), 6);
-        QVERIFY(writeFile("f.ini", junk(10)));
-        setAndSave("f.ini", "value");
-        QCOMPARE(fileContent("f.ini.bak"), junk(10));
-        QCOMPARE(fileContent("f.ini.bak2"), junk(9));
-        QCOMPARE(fileContent("f.ini.bak3"), junk(6));
-        QCOMPARE(fileContent("f.ini.bak4"), junk(8));
-        QCOMPARE(fileContent("f.ini.bak5"), junk(7));
+        saveOver(junk(9));
+        QCOMPARE(copies(), (QByteArrayList { junk(9), junk(6), junk(8), junk(7), junk(5) }));
+        saveOver(junk(10));
+        QCOMPARE(copies(), (QByteArrayList { junk(10), junk(9), junk(6), junk(8), junk(7) }));
         QCOMPARE(filesIn(".").size(), 6);
     }
 
@@ -260,15 +272,13 @@ private Q_SLOTS:
 
     void copiesOnlyBeforeItWrites()
     {
-        const QByteArray junk = "junk\na=1\n";
-        QVERIFY(writeFile("f.ini", junk));
+        QVERIFY(writeFile("f.ini", "junk\na=1\n"));
         VIniSettings store("f.ini", true);
-        store.setPath("f.ini");
-        store.setValue(Entries { { "b", 2 } }, true);
+        store.setValue(Entries { { "b", 2 }, { "c", QVariant::fromValue<void *>(this) } }, true);
         QVERIFY(store.remove("b"));
         store.saveLocal();
         QCOMPARE(filesIn("."), QStringList { "f.ini" });
-        QCOMPARE(fileContent("f.ini"), junk);
+        QCOMPARE(fileContent("f.ini"), QByteArray("junk\na=1\n"));
     }
 
     void keepsTheCopyOfAFileThatOthersBroke()
@@ -369,26 +379,109 @@ private Q_SLOTS:
 
     void savesWhenAnAbandonedLockIsLeft_data()
     {
-        QTest::addColumn<qint64>("process");
-        QTest::addColumn<int>("seconds");
-        QTest::newRow("by a process that has ended") << qint64(0x3ffffff) << 0;
-        // In containers the next process often has the number of the one before. For its lock,
-        // QSettings waits until half a minute is over.
-        QTest::newRow("by one with the same number, long ago")
-            << QCoreApplication::applicationPid() << 100;
-        QTest::newRow("by one with the same number, nearly half a minute ago")
-            << QCoreApplication::applicationPid() << 28;
+        QTest::addColumn<QByteArray>("lock");
+        const QByteArray host = QSysInfo::machineHostName().toLocal8Bit() + '\n';
+        const QByteArray program = QCoreApplication::applicationName().toUtf8() + '\n';
+        QTest::newRow("by a process that has ended") << QByteArray("67108863\n" + program + host);
+        // In containers the next process often has the number of the one before.
+        QTest::newRow("by one with the same number") << QByteArray(
+            QByteArray::number(QCoreApplication::applicationPid()) + '\n' + program + host);
+        QTest::newRow("by one that was killed before it wrote into it") << QByteArray();
     }
 
     void savesWhenAnAbandonedLockIsLeft()
     {
-        QFETCH(qint64, process);
-        QFETCH(int, seconds);
+        QFETCH(QByteArray, lock);
         QVERIFY(writeFile("f.ini", "a=1\n"));
-        leaveLock(process, seconds);
+        QVERIFY(writeFile("f.ini.lock", lock));
+        QElapsedTimer timer;
+        timer.start();
         setAndSave("f.ini", "value");
+        QVERIFY2(timer.elapsed() < 5000, qPrintable(QString::number(timer.elapsed())));
         QCOMPARE(fileContent("f.ini"), QByteArray("[General]\na=1\n\n[zz]\nnew=value\n"));
         QCOMPARE(filesIn("."), QStringList { "f.ini" });
+    }
+
+    /// Also longer than it takes until a lock counts as abandoned.
+    void waitsForOthersAndKeepsWhatTheyWrote()
+    {
+        QVERIFY(writeFile("f.ini", "a=1\n"));
+        VIniSettings store(QString("f.ini"));
+        store.setValue("b", 2);
+        QSemaphore locked;
+        const QScopedPointer<QThread> other(QThread::create([&locked] {
+            QLockFile lock("f.ini.lock");
+            lock.lock();
+            locked.release();
+            QThread::msleep(1500);
+            writeFile("f.ini", "a=9\nothers=1\n");
+        }));
+        other->start();
+        locked.acquire();
+        store.saveLocal();
+        QVERIFY(other->wait());
+        QCOMPARE(fileContent("f.ini"), QByteArray("[General]\na=1\nb=2\nothers=1\n"));
+        QCOMPARE(filesIn("."), QStringList { "f.ini" });
+    }
+
+    void keepsTheOldFileWhereTheNewOneFindsNoPlace()
+    {
+#ifdef Q_OS_UNIX
+        const QByteArray old = "; why\n[General]\na=" + QByteArray(2000, 'o') + '\n';
+        const QByteArray saved = "[General]\na=" + QByteArray(2000, 'o')
+            + "\n\n[zz]\nnew=" + QByteArray(4000, 'n') + '\n';
+        int kept = 0;
+        for (rlim_t size = 0; size < 8000; size += 250) {
+            QVERIFY(writeFile("f.ini", old));
+            {
+                const FileLimit limit(size);
+                setAndSave("f.ini", QString(4000, 'n'));
+            }
+            const bool isKept = fileContent("f.ini") == old;
+            kept += isKept ? 1 : 0;
+            QCOMPARE(fileContent("f.ini"), isKept ? old : saved);
+            // What could not be saved is not told to others in this process either.
+            QCOMPARE(VIniSettings(QString("f.ini")).contains("zz/new"), !isKept);
+            QVERIFY(QFile::remove("f.ini"));
+            QVERIFY(QFile::remove("f.ini.bak") || isKept);
+            QCOMPARE(filesIn("."), QStringList());
+        }
+        QVERIFY2(kept > 20 && kept < 32, qPrintable(QString::number(kept)));
+#else
+        QSKIP("Only Unix limits the size of files.");
+#endif
+    }
+
+    void writesNothingWhereTheCurrentDirectoryIsGone()
+    {
+        const QString name = "kelto-test-of-a-directory-that-is-gone.ini";
+        QVERIFY(QDir().mkdir("gone"));
+        QVERIFY(QDir::setCurrent("gone"));
+        QVERIFY(QDir().rmdir("../gone"));
+        VIniSettings store(name, true);
+        store.setValue("a", 1);
+        VIniSettings(Entries { { "a", 1 } }).saveLocal(name);
+        QCOMPARE(store.filepath(), QString());
+        QVERIFY(!QFile::remove('/' + name));
+    }
+
+    /// The owner of such a directory lets everybody add files, and nobody remove those of others.
+    void leavesTheFilesOfOthersAlone()
+    {
+#ifdef Q_OS_UNIX
+        if (geteuid() != 0)
+            QSKIP("Only the administrator has files of others.");
+        setRights(".", 7);
+        QVERIFY(writeFile("here/f.ini", "[a]\nb=1\n"));
+        setRights("here/f.ini", 6);
+        QCOMPARE(::chmod("here", 01777), 0);
+        const QVector<Reading> readings
+            = readInSecondProcess(asUser({ "--set", "a/c=2", "here/f.ini" }));
+        QCOMPARE(readings.size(), 1);
+        QCOMPARE(readings.constFirst().keys, QStringList { "a/b" });
+        QCOMPARE(fileContent("here/f.ini"), QByteArray("[a]\nb=1\n"));
+        QCOMPARE(filesIn("here"), QStringList { "f.ini" });
+#endif
     }
 
     void losesNothingOfHostileBytes_data()
