@@ -27,10 +27,12 @@ QStringList copyPaths(const QString &path)
     return paths;
 }
 
-/// Makes @p bytes the newest copy of the file at @p path. The others move up by one, up to the one
-/// that has the same content, to the first free name, or to the last.
-bool putInFront(const QString &path, const QByteArray &bytes)
+} // namespace
+
+bool keepCopy(const QString &path, const QByteArray &bytes)
 {
+    // The others move up by one, up to the one that has the same content, to the first free name,
+    // or to the last.
     const QStringList copies = copyPaths(path);
     const auto endsMoving = [&bytes](const QString &copy) {
         return !QFile::exists(copy) || contentOf(copy) == bytes;
@@ -52,12 +54,4 @@ bool putInFront(const QString &path, const QByteArray &bytes)
     const bool isKept = newest.rename(copies.constFirst());
     newest.setAutoRemove(!isKept);
     return isKept;
-}
-
-} // namespace
-
-bool keepCopy(const QString &path, const QByteArray &bytes)
-{
-    // Another program may be keeping a copy at the same time, which a second look finds.
-    return putInFront(path, bytes) || putInFront(path, bytes) || putInFront(path, bytes);
 }

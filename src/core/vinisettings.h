@@ -61,7 +61,8 @@ public:
     ///
     /// A file has no keys, and is never written, while one of its values is unsafe to read: nested
     /// more than 1,000 levels deep, bytes that would crash Qt's own readers or keep them busy, a
-    /// picture of more than 33 million pixels, a region of more than 10,000 rectangles. In programs
+    /// time in a time zone that this system does not know, a picture of more than 33 million
+    /// pixels, a region of more than 10,000 rectangles. QSettings reads some of these. In programs
     /// without windows this includes values made of pixels, such as a pixmap. Values of types that
     /// the host has registered are read by the host's stream operators, which have to be as
     /// careful.
