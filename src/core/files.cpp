@@ -140,7 +140,9 @@ std::unique_ptr<QLockFile> lockedFile(const QString &path)
 {
     const QFileInfo info(path);
     const QString lockPath = info.absoluteFilePath() + QLatin1String(".lock");
-    if (isAppendOnly(info.absolutePath()))
+    // A link may lead to a file in another directory.
+    if (isAppendOnly(info.absolutePath())
+        || isAppendOnly(QFileInfo(info.canonicalFilePath()).path()))
         return nullptr;
     auto lock = std::make_unique<QLockFile>(lockPath);
     lock->setStaleLockTime(staleLockTime);

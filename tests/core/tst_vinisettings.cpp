@@ -50,7 +50,6 @@ void askEverything(StoreTwins &twins, const Names &names)
 {
     ask(twins, OPERATION(data));
     ask(twins, OPERATION(allKeys));
-    ask(twins, OPERATION(filepath));
     ask(twins, OPERATION(allGroups));
     ask(twins, OPERATION(styleSheetFormat));
     for (const QString &key : names.keys) {
@@ -61,30 +60,8 @@ void askEverything(StoreTwins &twins, const Names &names)
         ask(twins, OPERATION(allKeys), group);
 }
 
-/// A store without a file, made by any constructor; the first three take @p data over.
-VIniSettings constructed(int constructor, const Entries &data)
-{
-    const VIniSettings stores[] = {
-        VIniSettings(data),      VIniSettings(QString(), data), VIniSettings(QString(), true, data),
-        VIniSettings(QString()), VIniSettings(QString(), true), VIniSettings()
-    };
-    return stores[constructor];
-}
-
-const auto startAnew = [](auto &store, int constructor, const Entries &data) {
-    if constexpr (std::is_same_v<decltype(store), VIniSettings &>)
-        store = constructed(constructor, data);
-    else
-        store = PlainSettings(constructor < 3 ? data : Entries());
-};
-
-/// Without a file none of this does anything.
-const auto useFile = [](auto &store) {
-    if constexpr (std::is_same_v<decltype(store), VIniSettings &>) {
-        store.setPath(QString());
-        store.saveLocal();
-        store.setQuickSaveMode(true);
-    }
+const auto startAnew = [](auto &store, const Entries &data) {
+    store = std::remove_reference_t<decltype(store)>(data);
 };
 
 const auto assignToItself = [](auto &store) {
@@ -124,7 +101,7 @@ public:
     /// What the store answers differently from the plain rules; empty when it does not.
     QString difference()
     {
-        change("start anew", startAnew, 0, entries(2 * m_names.keys.size()));
+        change("start anew", startAnew, entries(2 * m_names.keys.size()));
         for (int step = 0; step < 60 && !m_twins.differ(); ++step) {
             takeStep();
             ask(m_twins, OPERATION(allKeys));
@@ -141,7 +118,7 @@ private:
         const QStringList keys = m_dice.someOf(m_names.keys, m_dice.between(0, 4));
         const Entries some = entries(m_names.mostEntries);
         const Entries others = m_dice.chance(20) ? some : entries(3);
-        switch (m_dice.between(0, 19)) {
+        switch (m_dice.between(0, 18)) {
         case 0:
             return change(OPERATION(remove), key);
         case 1:
@@ -160,14 +137,12 @@ private:
         case 8:
             return change(OPERATION(setValue), some, m_dice.chance(30));
         case 9:
-            return change("start anew", startAnew, m_dice.between(0, 5), some);
+            return change("start anew", startAnew, some);
         case 10:
-            return change("use a file", useFile);
-        case 11:
             return change("assign to itself", assignToItself);
-        case 12:
+        case 11:
             return copy();
-        case 13:
+        case 12:
             return m_dice.chance(50) ? goOnWithCopy() : goBackToCopy();
         default:
             change(OPERATION(setValue), key, value());

@@ -17,8 +17,6 @@ public:
     {
     }
 
-    /// It never has a file.
-    static QString filepath() { return {}; }
     Entries data() const { return m_data; }
     QStringList allKeys() const { return m_keys; }
 
