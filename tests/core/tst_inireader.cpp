@@ -349,13 +349,16 @@ private Q_SLOTS:
 
     void findsUnsafeValuesWhereTheListDoes()
     {
+        const QStringList openings { "@Variant(",     "\\x40Variant(", "\\100Variant(",
+                                     "@\\qVariant(",  "@\\\nVariant(", "@\"Variant(",
+                                     "@Var\\x69ant(", "@Vari\"\"ant(", "@@Variant(" };
         Dice dice { 7 };
         int unsafe = 0;
         for (int i = 0; i < 2000; ++i) {
             QByteArray bytes = hostileBytes(&dice);
             if (dice.chance(50))
-                bytes += "\nv=\"x\", " + dice.oneOf({ "@", "\\x40", "\\100" }).toLatin1()
-                    + "Variant(\\0\\0\\0G" + (dice.chance(50) ? "\\177" : "\\0") + "\\0\\0\\0)\n";
+                bytes += "\nv=\"x\", " + dice.oneOf(openings).toLatin1() + "\\0\\0\\0G"
+                    + (dice.chance(50) ? "\\177" : "\\0") + "\\0\\0\\0)\n";
             const QVector<IniProblem> problems = iniProblems(bytes);
             const bool isListed = std::any_of(problems.cbegin(), problems.cend(), [](auto problem) {
                 return problem.kind == IniProblem::UnsafeValue;
