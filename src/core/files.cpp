@@ -27,8 +27,9 @@ namespace {
 constexpr int staleLockTime = 1000;
 /// How often somebody else's lock is looked at. Who looks rarely is overtaken again and again.
 constexpr int lockInterval = 5;
-/// How long an abandoned lock is tried to be removed, where that may be forbidden.
-constexpr int longestLock = 10 * 1000;
+/// How long an abandoned lock is tried to be removed, where that may be forbidden. QLockFile locks
+/// the removal as well; if that lock is abandoned, too, it counts for half a minute.
+constexpr int longestLock = 40 * 1000;
 
 /// Writes to the disk what the system still keeps; where that cannot be done, it is the system's
 /// business.

@@ -132,7 +132,7 @@ public:
      * additional ending ".lock". While another program holds it, this waits; the lock of one that
      * was killed is removed after a second. Where something that is no file has the name of the
      * lock, nothing is saved, and nothing either where a lock that nobody holds cannot be removed
-     * for ten seconds.
+     * for 40 seconds.
      *
      * Of what stands in the file, QSettings writes only what it has understood. Before something
      * would be lost in that, the file is copied: to a file with the additional ending ".bak", while
