@@ -20,6 +20,7 @@
 #include <QTest>
 
 #include <type_traits>
+#include <vector>
 
 namespace {
 

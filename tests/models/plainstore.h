@@ -7,6 +7,7 @@
 #include "models/plainsettings.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QHash>
 #include <QSettings>
 #include <QSharedPointer>
