@@ -219,8 +219,8 @@ private:
     void editOutside(bool isWritten)
     {
         ++m_edits;
-        for (const QString directory : { "kelto/", "plain/" }) {
-            QFile file(directory + "one.ini");
+        for (const char *name : { "kelto/one.ini", "plain/one.ini" }) {
+            QFile file(name);
             file.remove();
             if (!isWritten || !file.open(QIODevice::WriteOnly))
                 continue;
