@@ -280,6 +280,8 @@ private Q_SLOTS:
         store.setValue(Entries { { "b", 2 }, { "c", QVariant::fromValue<void *>(this) } }, true);
         QVERIFY(store.remove("b"));
         store.saveLocal();
+        const Entries nothing;
+        AUTH_SET().save("missing/f.ini", &nothing);
         QCOMPARE(filesIn("."), QStringList { "f.ini" });
         QCOMPARE(fileContent("f.ini"), QByteArray("junk\na=1\n"));
     }
