@@ -4,22 +4,19 @@
 #include "utaskselectdialog.h"
 
 #include "core/firstpositions_p.h"
+#include "deferredevents_p.h"
 #include "registry/auth_set.h"
 #include "registry/standardmodename_p.h"
+#include "showing_p.h"
 #include "ui_utaskselectdialog.h"
 
 #include <QButtonGroup>
 #include <QEvent>
-#include <QEventLoop>
-#include <QFontMetrics>
 #include <QHideEvent>
-#include <QMessageBox>
 #include <QMetaType>
 #include <QPointer>
 #include <QScreen>
 #include <QShowEvent>
-#include <QStyle>
-#include <QStyleOptionComboBox>
 
 #include <algorithm>
 #include <iterator>
@@ -47,59 +44,116 @@ FirstPositions firstPositions(const QStringList &texts)
     return positions;
 }
 
-/// The width at which @p box shows each of its entries whole. Its own size hint is calculated from
-/// the entries of its first showing and then kept.
-int widthOfEntries(const QComboBox &box)
-{
-    const QFontMetrics metrics = box.fontMetrics();
-    QSize size;
-    for (int i = 0; i < box.count(); ++i)
-        size = size.expandedTo(metrics.boundingRect(box.itemText(i)).size());
-    QStyleOptionComboBox option;
-    option.initFrom(&box);
-    return box.style()->sizeFromContents(QStyle::CT_ComboBox, &option, size, &box).width();
-}
-
 } // namespace
 
 class UTaskSelectDialogPrivate
 {
 public:
-    void makeRoomForNames(const QScreen *screen) const;
+    explicit UTaskSelectDialogPrivate(UTaskSelectDialog *dialog);
+
+    void place(QShowEvent *event) const;
+    void makeRoomForNames() const;
+    bool select(int index);
+    bool hasAllMembers() const;
+    void leaveMembersToTheEventLoop() const;
     void showUnboundMessage();
     void translateMessageBox() const;
+    void bringToFront() const;
+    void showUntilOver();
     void endShow() const;
     void accept(const QString &modeName) const;
 
-    QPointer<QEventLoop> loop;
-    /// Whether show() is just putting the window on the screen.
-    bool isOpening = false;
-    /// How many calls of setItems() are running: a listener to the combo box may nest them.
-    int runningOffers = 0;
+    UTaskSelectDialog *const q;
+    /// All that are running: a listener to one of them may have called the next.
+    QVector<Showing *> showings;
+    /// How many changes of the combo box are running: a listener to it may nest them.
+    int runningChanges = 0;
     /// Number of the offer that was made last.
     int lastOffer = 0;
     QPointer<QMessageBox> messageBox;
     QButtonGroup buttons;
     Ui::UTaskSelectDialog ui;
+    /// A host may delete it.
+    QPointer<ElidingComboBox> comboBox;
+    std::unique_ptr<DeferredEvents> events;
+    QVector<QPointer<QWidget>> members;
     AUTH_SET *registry = nullptr;
     VStringPairList items;
 };
 
-/// Without a screen (a host can lose its last one) nothing bounds the width, so it stays.
-void UTaskSelectDialogPrivate::makeRoomForNames(const QScreen *screen) const
+UTaskSelectDialogPrivate::UTaskSelectDialogPrivate(UTaskSelectDialog *dialog)
+    : q(dialog)
 {
-    if (!screen)
+    ui.setupUi(dialog);
+    comboBox = ui.comboBox;
+    const auto widgets = dialog->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+    std::copy(widgets.begin(), widgets.end(), std::back_inserter(members));
+    events = std::make_unique<DeferredEvents>(q, comboBox,
+                                              [this](QShowEvent *event) { place(event); });
+}
+
+void UTaskSelectDialogPrivate::place(QShowEvent *event) const
+{
+    makeRoomForNames();
+    q->QDialog::showEvent(event);
+    if (comboBox)
+        comboBox->setFocus();
+}
+
+/// Without a screen (a host can lose its last one) nothing bounds the width, so it stays.
+void UTaskSelectDialogPrivate::makeRoomForNames() const
+{
+    const QScreen *screen = q->screen();
+    if (!screen || !comboBox)
         return;
     const int limit = screen->availableGeometry().width() * 3 / 4;
-    ui.comboBox->setMinimumWidth(std::min(widthOfEntries(*ui.comboBox), limit));
+    comboBox->setMinimumWidth(std::min(comboBox->widthOfEntries(limit), limit));
+}
+
+/// Makes the entry at @p index the current one; false when a listener has deleted the dialog.
+bool UTaskSelectDialogPrivate::select(int index)
+{
+    const QPointer<UTaskSelectDialog> self(q);
+    ++runningChanges;
+    if (comboBox)
+        comboBox->setCurrentIndex(index);
+    if (!self)
+        return false;
+    --runningChanges;
+    return true;
+}
+
+/// Whether a host has deleted none of the widgets of the form.
+bool UTaskSelectDialogPrivate::hasAllMembers() const
+{
+    return !members.contains(nullptr);
+}
+
+/// Qt may be sending an event or a signal of one of them, and is not done with it yet.
+void UTaskSelectDialogPrivate::leaveMembersToTheEventLoop() const
+{
+    auto *remains = new QWidget;
+    for (QWidget *member : members) {
+        if (member)
+            member->setParent(remains);
+    }
+    remains->deleteLater();
 }
 
 void UTaskSelectDialogPrivate::showUnboundMessage()
 {
-    QMessageBox box(QMessageBox::Information, QString(), QString(), QMessageBox::Ok);
+    const QPointer<UTaskSelectDialog> self(q);
+    InformationBox box(QMessageBox::Information, QString(), QString(), QMessageBox::Ok);
     messageBox = &box;
     translateMessageBox();
-    box.exec();
+    box.setWindowModality(Qt::ApplicationModal);
+    // It goes together with the dialog: otherwise show() would not return.
+    showings.append(&box.showing);
+    box.show();
+    if (box.isVisible() && !box.showing.isOver)
+        box.showing.loop.exec();
+    if (self)
+        showings.removeOne(&box.showing);
 }
 
 void UTaskSelectDialogPrivate::translateMessageBox() const
@@ -108,13 +162,49 @@ void UTaskSelectDialogPrivate::translateMessageBox() const
     messageBox->setText(UTaskSelectDialog::tr("Please connect Kelto first."));
 }
 
+void UTaskSelectDialogPrivate::bringToFront() const
+{
+    q->setWindowState(q->windowState() & ~Qt::WindowMinimized);
+    q->raise();
+    q->activateWindow();
+}
+
+void UTaskSelectDialogPrivate::showUntilOver()
+{
+    const QPointer<UTaskSelectDialog> self(q);
+    // Each showing has its own loop: a slot that is called on closing may show the dialog again
+    // while the loop of the earlier showing has not returned yet.
+    Showing showing;
+    showings.append(&showing);
+    events->start();
+    events->polish();
+    // A listener may have closed it already, or have shown it itself until it was closed.
+    if (self && !showing.isOver)
+        q->QWidget::show();
+    // A loop forgets a quit() that came before exec(), and would run for ever.
+    if (self && q->isVisible()) {
+        // When a box without a parent closes, the window system may activate any other window.
+        q->activateWindow();
+        showing.isOver = false;
+        showing.loop.exec();
+    }
+    // The program was told to exit.
+    if (self && !showing.isOver)
+        q->hide();
+    if (self)
+        events->tell();
+    if (!self)
+        return;
+    showings.removeOne(&showing);
+    events->stop();
+}
+
 void UTaskSelectDialogPrivate::endShow() const
 {
-    // An open box would keep show() from returning although its dialog is gone.
-    if (messageBox)
-        messageBox->reject();
-    if (loop)
-        loop->quit();
+    for (Showing *showing : showings) {
+        showing->isOver = true;
+        showing->loop.quit();
+    }
 }
 
 void UTaskSelectDialogPrivate::accept(const QString &modeName) const
@@ -129,9 +219,8 @@ void UTaskSelectDialogPrivate::accept(const QString &modeName) const
 
 UTaskSelectDialog::UTaskSelectDialog()
     : operateIndex(-1)
-    , d(std::make_unique<UTaskSelectDialogPrivate>())
+    , d(std::make_unique<UTaskSelectDialogPrivate>(this))
 {
-    d->ui.setupUi(this);
     d->buttons.addButton(d->ui.pushButton_accept, AcceptId);
     d->buttons.addButton(d->ui.pushButton_cancel, CancelId);
     d->buttons.addButton(d->ui.pushButton_Default, DefaultId);
@@ -141,12 +230,8 @@ UTaskSelectDialog::UTaskSelectDialog()
 UTaskSelectDialog::~UTaskSelectDialog()
 {
     d->endShow();
-    // A listener to the combo box may have deleted the dialog while the box is being filled. Then
-    // QComboBox is not done with its signals and must not be deleted yet.
-    if (d->runningOffers > 0) {
-        d->ui.comboBox->setParent(nullptr);
-        d->ui.comboBox->deleteLater();
-    }
+    if (d->runningChanges > 0 || !d->showings.isEmpty())
+        d->leaveMembersToTheEventLoop();
 }
 
 void UTaskSelectDialog::set(AUTH_SET *registry)
@@ -162,7 +247,7 @@ QPair<QString, QString> UTaskSelectDialog::currentItem() const
 
 int UTaskSelectDialog::currentItemIndex() const
 {
-    return d->ui.comboBox->currentIndex();
+    return d->comboBox ? d->comboBox->currentIndex() : -1;
 }
 
 QVector<QPair<QString, QString>> UTaskSelectDialog::availableModeItems() const
@@ -213,26 +298,27 @@ void UTaskSelectDialog::showEvent(QShowEvent *event)
     // The window was minimised and is restored: what the user has chosen so far stays.
     if (event->spontaneous())
         return;
-    d->makeRoomForNames(screen());
-    QDialog::showEvent(event);
-    d->ui.comboBox->setFocus();
+    // A running show() has done so before the window was on the screen.
+    if (d->showings.isEmpty())
+        d->place(event);
     if (!d->registry) {
-        // show() opens the box itself, once Qt has shown the window: Qt would still show a window
-        // that is closed or deleted within this event.
-        if (!d->isOpening)
+        // A listener may have closed the dialog before.
+        if (isVisible() || d->showings.isEmpty())
             d->showUnboundMessage();
         return;
     }
     const QString name
         = d->registry->stdModeNameForm(d->registry->current_group, d->registry->current_mode);
     const int first = getFirstItems(d->items).indexOf(name);
-    d->ui.comboBox->setCurrentIndex(first >= 0 ? first : getSecondItems(d->items).indexOf(name));
-    operateIndex = -1;
+    if (d->select(first >= 0 ? first : getSecondItems(d->items).indexOf(name)))
+        operateIndex = -1;
 }
 
 void UTaskSelectDialog::closeEvent(QCloseEvent *event)
 {
     event->accept();
+    if (!d->showings.isEmpty())
+        d->events->startClosing();
     d->endShow();
 }
 
@@ -250,7 +336,8 @@ void UTaskSelectDialog::changeEvent(QEvent *event)
     QDialog::changeEvent(event);
     if (event->type() != QEvent::LanguageChange)
         return;
-    d->ui.retranslateUi(this);
+    if (d->hasAllMembers())
+        d->ui.retranslateUi(this);
     if (d->messageBox)
         d->translateMessageBox();
 }
@@ -262,8 +349,8 @@ void UTaskSelectDialog::operate(int id)
         d->accept(currentItem().first);
     } else if (id == DefaultId) {
         const QPointer<UTaskSelectDialog> self(this);
-        d->ui.comboBox->setCurrentIndex(0);
-        operate(AcceptId);
+        if (d->select(0))
+            operate(AcceptId);
         // A host may delete the dialog as soon as it has closed.
         if (!self)
             return;
@@ -293,43 +380,70 @@ void UTaskSelectDialog::setItems(VStringPairList list)
 {
     const QPointer<UTaskSelectDialog> self(this);
     const int offer = ++d->lastOffer;
-    ++d->runningOffers;
-    d->ui.comboBox->clear();
+    ++d->runningChanges;
+    if (d->comboBox)
+        d->comboBox->clear();
     // Otherwise a listener has deleted the dialog, or its own, later offer is in place.
     if (self && d->lastOffer == offer) {
         d->items = list;
-        d->ui.comboBox->addItems(getSecondItems(list));
+        if (d->comboBox)
+            d->comboBox->addItems(getSecondItems(list));
     }
     if (!self)
         return;
-    --d->runningOffers;
-    d->makeRoomForNames(screen());
+    --d->runningChanges;
+    d->makeRoomForNames();
+}
+
+void UTaskSelectDialog::setVisible(bool visible)
+{
+    const auto change = [=] { QDialog::setVisible(visible); };
+    // An event filter may keep the hide event for itself.
+    if (!visible)
+        d->endShow();
+    if (d->showings.isEmpty())
+        change();
+    else
+        d->events->tellAfter(change);
+}
+
+void UTaskSelectDialog::done(int result)
+{
+    const QPointer<UTaskSelectDialog> self(this);
+    // QDialog does so, too, but goes on with a dialog that a listener has deleted.
+    hide();
+    if (self)
+        QDialog::done(result);
+}
+
+int UTaskSelectDialog::exec()
+{
+    if (isVisible() && !d->showings.isEmpty()) {
+        d->bringToFront();
+        return Rejected;
+    }
+    const QPointer<UTaskSelectDialog> self(this);
+    const bool wasModal = testAttribute(Qt::WA_ShowModal);
+    const bool deletesItself = testAttribute(Qt::WA_DeleteOnClose);
+    setAttribute(Qt::WA_ShowModal);
+    setAttribute(Qt::WA_DeleteOnClose, false);
+    setResult(Rejected);
+    d->showUntilOver();
+    if (!self)
+        return Rejected;
+    const int code = result();
+    setAttribute(Qt::WA_ShowModal, wasModal);
+    if (deletesItself)
+        delete this;
+    return code;
 }
 
 int UTaskSelectDialog::show()
 {
-    if (isVisible()) {
-        setWindowState(windowState() & ~Qt::WindowMinimized);
-        raise();
-        activateWindow();
-        return 0;
-    }
-    // Each showing has its own loop: a slot that is called on closing may show the dialog again
-    // while the loop of the earlier showing has not returned yet.
-    QEventLoop loop;
-    d->loop = &loop;
-    const QPointer<UTaskSelectDialog> self(this);
-    d->isOpening = true;
-    QWidget::show();
-    d->isOpening = false;
-    if (!d->registry)
-        d->showUnboundMessage();
-    // A loop forgets a quit() that came before exec(), and would run for ever.
-    if (!self || !isVisible())
-        return 0;
-    // When a box without a parent closes, the window system may activate any other window.
-    activateWindow();
-    // The exit code of the loop is not 0 when the whole program is told to exit meanwhile.
-    loop.exec();
+    if (isVisible())
+        d->bringToFront();
+    else
+        d->showUntilOver();
+    // The exit code of a loop is not 0 when the whole program is told to exit meanwhile.
     return 0;
 }

@@ -32,7 +32,14 @@ using VStringPairList = QVector<QPair<QString, QString>>;
  * the exclusive group, and in operateIndex.
  *
  * When the language changes, the dialog sets its own texts anew, its title included. The entries
- * are the host's and stay.
+ * are the host's and stay. A name that is too long for the window is shown with an ellipsis; all
+ * operations take and return it whole.
+ *
+ * While show() or exec() runs, a host may do to the dialog what it pleases, from any slot or event
+ * filter: close it, show it again, give it another parent, delete it. Qt itself does not survive
+ * that the dialog is deleted, or given another parent, while it is painted, or deleted by a slot of
+ * windowTitleChanged() while the language changes, or that the combo box alone is deleted by a slot
+ * of its own. An event filter that has deleted the dialog returns true, as for any object of Qt.
  */
 class KELTO_EXPORT UTaskSelectDialog : public QDialog
 {
@@ -41,7 +48,8 @@ class KELTO_EXPORT UTaskSelectDialog : public QDialog
 public:
     /// A dialog without parent, registry and entries.
     UTaskSelectDialog();
-    /// Leaves the registry alone. A show() that is still running returns.
+    /// Leaves the registry alone. A show() or exec() that is still running returns. The widgets of
+    /// the form then live on without the dialog until control returns to an event loop.
     ~UTaskSelectDialog() override;
 
     /// The id last given to operate(): 0 after "Accept" and after "Default", 1 after "Cancel"; -1
@@ -50,16 +58,19 @@ public:
     /// registry is unchanged.
     int operateIndex;
 
-    /// Binds @p registry and offers all its modes. The registry stays the caller's and has to
-    /// outlive the dialog, which cannot notice its deletion: a host that deletes the registry first
-    /// calls set(nullptr) before. nullptr unbinds and offers nothing.
+    /// Binds @p registry and offers all its modes; nullptr unbinds and offers nothing. The registry
+    /// stays the caller's and has to outlive the dialog, which cannot notice its deletion and would
+    /// still use it to show, to offer and to accept modes. A host that deletes the registry before
+    /// the dialog calls set(nullptr) first, also while the dialog is shown; "Accept" then only
+    /// closes it.
     void set(AUTH_SET *registry);
 
     /// The entry under the current index of the combo box; a pair of empty texts when there is
-    /// none.
+    /// none, or the host has deleted the combo box.
     QPair<QString, QString> currentItem() const;
 
-    /// Current index of the combo box; -1 when there is none.
+    /// Current index of the combo box; -1 when there is none, or the host has deleted the combo
+    /// box. Nothing can be accepted then.
     int currentItemIndex() const;
 
     /// All modes of the registry; empty without a registry.
@@ -81,10 +92,22 @@ public:
 
     /// Makes the mode that was accepted last, as the registry holds it, the current entry. Without
     /// a registry an information box tells the user so. A window that was minimised and is restored
-    /// keeps the entry that the user had chosen.
+    /// keeps the entry that the user had chosen. While show() or exec() runs, the event comes when
+    /// the window is on the screen.
     void showEvent(QShowEvent *event) override;
     /// Lets a running show() return.
     void closeEvent(QCloseEvent *event) override;
+
+    /// Shows or hides the window without waiting, as for any QDialog.
+    void setVisible(bool visible) override;
+    /// Hides the window, sets the result and tells of it, as for any QDialog.
+    void done(int result) override;
+
+    /// Does what show() does, modal in any case, and returns the result() of this showing:
+    /// Rejected, unless accept() or done() has set another one. The buttons of the dialog set none.
+    /// Rejected also where show() returns at once, and when the dialog was deleted. It deletes a
+    /// dialog with the attribute Qt::WA_DeleteOnClose.
+    int exec() override;
 
 public Q_SLOTS:
     /// Does what the button with this id does: 0 accepts the current entry and closes, 2 makes the
@@ -99,14 +122,18 @@ public Q_SLOTS:
 
     /// Replaces the entries: the combo box is cleared, then filled with the second members, and
     /// sends its signals for both steps. During those of the first there are no entries. When a
-    /// listener calls setItems() itself, its entries stay. It may delete the dialog as well, but
-    /// not the combo box alone.
+    /// listener calls setItems() itself, its entries stay. Without the combo box the entries are
+    /// kept, and none is current.
     void setItems(VStringPairList list);
 
-    /// Shows the window, waits until it is closed or hidden in whatever way, or the program is told
-    /// to exit, and returns 0. While the show() of a second dialog runs within this one, this one
-    /// waits for that, too. When the window is shown already, show() brings it to the front and
-    /// returns 0 at once.
+    /// Shows the window, waits until it is closed or hidden in whatever way, and returns 0, at once
+    /// when the dialog is deleted meanwhile. When the program is told to exit, the window is
+    /// hidden. While the show() of a second dialog runs within this one, this one waits for that,
+    /// too.
+    ///
+    /// When the window is shown already, show() brings it to the front and returns 0 at once. While
+    /// it is being hidden, or polished for its first showing, it can be shown again: that ends the
+    /// earlier show() together with the later one.
     int show();
 
 protected:
@@ -116,6 +143,7 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    friend class UTaskSelectDialogPrivate;
     std::unique_ptr<UTaskSelectDialogPrivate> d;
 };
 
