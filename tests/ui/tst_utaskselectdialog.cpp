@@ -4,41 +4,96 @@
 #include "dialogsupport.h"
 
 #include <QMetaMethod>
+#include <QRandomGenerator>
 #include <QSequentialIterable>
+#include <QShowEvent>
 #include <QSignalSpy>
 
+#include <functional>
 #include <utility>
-
-using MakeRegistry = AUTH_SET (*)();
-Q_DECLARE_METATYPE(MakeRegistry)
 
 namespace {
 
-/// Two modules with one mode each, in groups with these names, plain and translated.
-AUTH_SET groupsNamed(const Pair &first, const Pair &second)
+/// Texts that are often equal, and differ in little.
+QString anyName(QRandomGenerator *random)
 {
-    QVector<AUTH_INF> items { exclusiveModule("P", first.first, { "a" }),
-                              exclusiveModule("Q", second.first, { "k" }) };
-    items[0].group_tr = first.second;
-    items[1].group_tr = second.second;
-    return AUTH_SET("App", "1.0", items);
+    static const char *const names[]
+        = { "", "G", "g", "G_tr", "H", "a", "b", "App", "A:B", "App:G:a", "::", "App:H:b" };
+    return names[random->bounded(12)];
 }
 
-/// The plain name of the first group is the translated one of the second.
-AUTH_SET crossedGroups()
+AUTH_SET anyRegistry(QRandomGenerator *random)
 {
-    return groupsNamed({ "G", "G_tr" }, { "H", "G" });
+    QVector<AUTH_INF> items;
+    for (int i = random->bounded(4); i > 0; --i) {
+        items.append(exclusiveModule("P", anyName(random), { anyName(random), "b", "a" }));
+        items.last().group_tr = anyName(random);
+    }
+    AUTH_SET registry(random->bounded(4) ? "App" : anyName(random), "1.0", items);
+    registry.current_group = anyName(random);
+    registry.current_mode = anyName(random);
+    return registry;
 }
 
-/// Two groups with one translated name, so that there is an empty one for H.
-AUTH_SET sharedTranslation()
+/// Some of the modes, and pairs that are none.
+Pairs anyItems(const AUTH_SET &registry, QRandomGenerator *random)
 {
-    return groupsNamed({ "G", "T" }, { "H", "T" });
+    Pairs items = registry.currentModeList().mid(random->bounded(3));
+    for (int i = random->bounded(4); i > 0; --i)
+        items.insert(random->bounded(items.size() + 1), { anyName(random), anyName(random) });
+    return items;
 }
 
-AUTH_SET oneGroup(const QString &application, const QString &group)
+Pairs modesOfGroup(const Pairs &modes, const QString &group)
 {
-    return AUTH_SET(application, "1.0", { exclusiveModule("P", group, { "a" }) });
+    Pairs found;
+    for (const Pair &mode : modes) {
+        if (mode.first.split(':').at(1) == group || mode.second.split(':').at(1) == group)
+            found.append(mode);
+    }
+    return found;
+}
+
+/// Position of the first pair with @p name as its first member, or else as its second.
+int positionIn(const Pairs &items, const QString &name)
+{
+    for (const bool isFirst : { true, false }) {
+        for (int i = 0; i < items.size(); ++i) {
+            if ((isFirst ? items.at(i).first : items.at(i).second) == name)
+                return i;
+        }
+    }
+    return -1;
+}
+
+Pairs itemsNamed(const Pairs &items, const QStringList &codes)
+{
+    Pairs found;
+    for (const QString &code : codes) {
+        if (positionIn(items, code) >= 0)
+            found.append(items.at(positionIn(items, code)));
+    }
+    return found;
+}
+
+void acceptIn(AUTH_SET *registry, const QString &name)
+{
+    const QStringList fields = name.split(':');
+    if (fields.size() != 3)
+        return;
+    registry->current_group = fields.at(1);
+    registry->current_mode = fields.at(2);
+    registry->exclusive_group_set_mode(fields.at(1), fields.at(2));
+}
+
+/// All that a dialog can change in a registry.
+QStringList stateOf(const AUTH_SET &registry)
+{
+    QStringList state { registry.current_group, registry.current_mode };
+    const QStringList groups = registry.exclusive_group_namelist();
+    for (const QString &group : groups)
+        state.append(group + "/" + registry.currentExclusiveGroupSelect(group).first);
+    return state;
 }
 
 /// "public slot int show()" for the method at @p index of the dialog.
@@ -100,70 +155,22 @@ private Q_SLOTS:
                                "public slot int show() " }));
     }
 
-    void offersAllModesOfTheRegistry()
-    {
-        AUTH_SET other = oneGroup("Other", "Z");
-        AUTH_SET registry = twoGroups();
-        registry.exclusive_group_set_mode("G", "c");
-        UTaskSelectDialog dialog;
-        dialog.set(&other);
-        dialog.set(&registry);
-        QCOMPARE(dialog.availableModeItems(), allModes());
-        QCOMPARE(shownTexts(dialog),
-                 QStringList(
-                     { "App:G_tr:a_tr", "App:G_tr:b_tr", "App:G_tr:c_tr", "App:H_tr:k_tr" }));
-        QCOMPARE(dialog.currentItem(), mode("G", "a"));
-        dialog.operate(0);
-        QCOMPARE(registry.current_mode, QString("a"));
-        QCOMPARE(other.current_mode, QString());
-    }
-
     void offersNothingWithoutARegistry()
     {
-        AUTH_SET registry = twoGroups();
         UTaskSelectDialog dialog;
         QCOMPARE(dialog.operateIndex, -1);
         QCOMPARE(dialog.currentItemIndex(), -1);
         QCOMPARE(dialog.currentItem(), Pair("", ""));
-        dialog.setItems(allModes());
-        dialog.resetToExclusiveGroup("G");
-        QCOMPARE(shownTexts(dialog), QStringList());
-        dialog.setItems(allModes());
-        dialog.resetToProjectMode();
-        QCOMPARE(shownTexts(dialog), QStringList());
-        dialog.set(&registry);
-        dialog.set(nullptr);
-        QCOMPARE(shownTexts(dialog), QStringList());
+        const std::function<void()> calls[]
+            = { [&] { dialog.resetToExclusiveGroup("G"); }, [&] { dialog.resetToProjectMode(); },
+                [&] { dialog.set(nullptr); } };
+        for (const auto &call : calls) {
+            dialog.setItems(allModes());
+            call();
+            QCOMPARE(shownTexts(dialog), QStringList());
+        }
         QCOMPARE(dialog.availableModeItems(), Pairs());
         QCOMPARE(dialog.availableModeItemsWithModeCodeList({ "App:G:a" }), Pairs());
-    }
-
-    void replacesItems_data()
-    {
-        QTest::addColumn<Pairs>("items");
-
-        QTest::newRow("two items") << Pairs { { "x", "y" }, { "v", "w" } };
-        QTest::newRow("equal items") << Pairs { { "x", "y" }, { "x", "y" } };
-        QTest::newRow("empty names") << Pairs { { "", "" }, { "x", "" } };
-        QTest::newRow("any names") << Pairs { { "a:b", "求解\n&x" } };
-        QTest::newRow("no items") << Pairs();
-    }
-    void replacesItems()
-    {
-        QFETCH(Pairs, items);
-        AUTH_SET registry = twoGroups();
-        UTaskSelectDialog dialog;
-        dialog.set(&registry);
-        comboBox(dialog)->setCurrentIndex(3);
-        dialog.setItems(items);
-        QCOMPARE(shownTexts(dialog), dialog.getSecondItems(items));
-        QCOMPARE(dialog.currentItemIndex(), items.isEmpty() ? -1 : 0);
-        for (int index = -1; index < items.size(); ++index) {
-            comboBox(dialog)->setCurrentIndex(index);
-            QCOMPARE(dialog.currentItemIndex(), index);
-            QCOMPARE(dialog.currentItem(), items.value(index));
-        }
-        QCOMPARE(dialog.availableModeItems(), allModes());
     }
 
     void sendsWhatAComboBoxSends_data()
@@ -196,6 +203,18 @@ private Q_SLOTS:
             QStringList *list = &sent[box == &plain];
             listen(box, box, [list](const QString &signal) { list->append(signal); });
         }
+        // Whoever asks in between gets an item of the entries that the box has.
+        QStringList mixtures;
+        const QComboBox *box = comboBox(dialog);
+        const auto ask = [&] {
+            if (dialog.currentItem().second != box->itemText(dialog.currentItemIndex()))
+                mixtures.append(dialog.currentItem().second);
+        };
+        listen(comboBox(dialog), &plain, [&](const QString &) { ask(); });
+        using Model = QAbstractItemModel;
+        for (const auto signal : { &Model::rowsAboutToBeRemoved, &Model::rowsRemoved,
+                                   &Model::rowsAboutToBeInserted, &Model::rowsInserted })
+            connect(box->model(), signal, &plain, ask);
         // Deprecated, but a host may still be told by it.
         const QSignalSpy entries(comboBox(dialog), SIGNAL(currentIndexChanged(QString)));
         const QSignalSpy plainEntries(&plain, SIGNAL(currentIndexChanged(QString)));
@@ -205,30 +224,7 @@ private Q_SLOTS:
         QCOMPARE(sent[0], sent[1]);
         QTEST(sent[0].size(), "count");
         QCOMPARE(entries, plainEntries);
-    }
-
-    void neverMixesTwoOffers()
-    {
-        UTaskSelectDialog dialog;
-        dialog.setItems(allModes());
-        QComboBox *box = comboBox(dialog);
-        box->setCurrentIndex(2);
-        int questions = 0;
-        QStringList mixtures;
-        const auto ask = [&] {
-            ++questions;
-            const QString expected = box->itemText(dialog.currentItemIndex());
-            if (dialog.currentItem().second != expected)
-                mixtures.append(dialog.currentItem().second + " instead of " + expected);
-        };
-        listen(box, box, [&](const QString &) { ask(); });
-        using Model = QAbstractItemModel;
-        for (const auto signal : { &Model::rowsAboutToBeRemoved, &Model::rowsRemoved,
-                                   &Model::rowsAboutToBeInserted, &Model::rowsInserted })
-            connect(box->model(), signal, box, ask);
-        dialog.setItems({ { "x", "1" }, { "y", "2" }, { "z", "3" } });
         QCOMPARE(mixtures, QStringList());
-        QCOMPARE(questions, 8);
     }
 
     void letsAListenerInterfere_data()
@@ -270,120 +266,85 @@ private Q_SLOTS:
         QVERIFY(box.isNull());
     }
 
-    void narrowsToAGroup_data()
+    void agreesWithAPlainModel_data()
     {
-        QTest::addColumn<MakeRegistry>("makeRegistry");
-        QTest::addColumn<QString>("group");
-        QTest::addColumn<QStringList>("texts");
-
-        const auto row = [](const char *name, MakeRegistry makeRegistry, const QString &group,
-                            const QStringList &texts) {
-            QTest::newRow(name) << makeRegistry << group << texts;
-        };
-        const QStringList modesOfG { "App:G_tr:a_tr", "App:G_tr:b_tr", "App:G_tr:c_tr" };
-        row("plain name", twoGroups, "G", modesOfG);
-        row("translated name", twoGroups, "G_tr", modesOfG);
-        row("group of one mode", twoGroups, "H", { "App:H_tr:k_tr" });
-        row("unknown group", twoGroups, "X", {});
-        row("other case", twoGroups, "g", {});
-        row("part of a name", twoGroups, "G_", {});
-        row("mode instead of group", twoGroups, "a", {});
-        row("application instead of group", twoGroups, "App", {});
-        row("empty name", twoGroups, "", {});
-        row("no modes at all", [] { return AUTH_SET(); }, "G", {});
-        row("a plain name that is another's translated one gives both", crossedGroups, "G",
-            { "App:G_tr:a_tr", "App:G:k_tr" });
-        row("missing translated name is an empty one", sharedTranslation, "", { "App::k_tr" });
-        row("translated name of two groups belongs to the first", sharedTranslation, "T",
-            { "App:T:a_tr" });
-        row("group named with a colon is not found", [] { return oneGroup("App", "A:B"); }, "A:B",
-            {});
-        row("group named with a colon goes by the part before it",
-            [] { return oneGroup("App", "A:B"); }, "A", { "App:A:B_tr:a_tr" });
-        row("application named with a colon shifts the fields",
-            [] { return oneGroup("My:App", "G"); }, "App", { "My:App:G_tr:a_tr" });
-        row("empty group", [] { return oneGroup("App", ""); }, "", { "App:_tr:a_tr" });
-        row("empty application", [] { return oneGroup("", "G"); }, "G", { ":G_tr:a_tr" });
+        QTest::addColumn<int>("seed");
+        for (int seed = 0; seed < 40; ++seed)
+            QTest::addRow("seed %d", seed) << seed;
     }
-    void narrowsToAGroup()
+    /// One dialog for many registries, which it must not mix up.
+    void agreesWithAPlainModel()
     {
-        QFETCH(MakeRegistry, makeRegistry);
-        QFETCH(QString, group);
-        AUTH_SET registry = makeRegistry();
+        QFETCH(int, seed);
+        QRandomGenerator random(seed);
         UTaskSelectDialog dialog;
-        dialog.set(&registry);
-        dialog.resetToExclusiveGroup(group);
-        QTEST(shownTexts(dialog), "texts");
-        QCOMPARE(dialog.availableModeItems(), registry.currentModeList());
+        for (int round = 0; round < 12; ++round) {
+            AUTH_SET registry = anyRegistry(&random);
+            dialog.set(&registry);
+            QCOMPARE(shownTexts(dialog), dialog.getSecondItems(registry.currentModeList()));
+            registry.append(exclusiveModule("R", anyName(&random), { "a" }));
+            narrow(&dialog, registry, &random);
+            if (QTest::currentTestFailed())
+                return;
+            choose(&dialog, &registry, &random);
+            if (QTest::currentTestFailed())
+                return;
+            dialog.set(nullptr);
+        }
     }
 
-    void narrowsAndWidensAnewEachTime()
+private:
+    static void narrow(UTaskSelectDialog *dialog, const AUTH_SET &registry,
+                       QRandomGenerator *random)
     {
-        AUTH_SET registry = twoGroups();
-        UTaskSelectDialog dialog;
-        dialog.set(&registry);
-        registry.append(exclusiveModule("R", "H", { "l" }));
-        QCOMPARE(shownTexts(dialog), dialog.getSecondItems(allModes()));
-        dialog.resetToExclusiveGroup("G");
-        dialog.resetToExclusiveGroup("H");
-        QCOMPARE(dialog.currentItem(), mode("H", "k"));
-        QCOMPARE(shownTexts(dialog), QStringList({ "App:H_tr:k_tr", "App:H_tr:l_tr" }));
-        dialog.resetToProjectMode();
-        QCOMPARE(shownTexts(dialog), dialog.getSecondItems(allModes() + Pairs { mode("H", "l") }));
+        const Pairs modes = registry.currentModeList();
+        QCOMPARE(dialog->availableModeItems(), modes);
+        const QString group = anyName(random);
+        dialog->resetToExclusiveGroup(group);
+        QCOMPARE(shownTexts(*dialog), dialog->getSecondItems(modesOfGroup(modes, group)));
+        const Pairs items = anyItems(registry, random);
+        QStringList codes { anyName(random), anyName(random), anyName(random) };
+        codes += dialog->getFirstItems(items).mid(1, 2) + dialog->getSecondItems(items).mid(2, 1);
+        QCOMPARE(dialog->availableModeItemsWithModeCodeList(items, codes),
+                 itemsNamed(items, codes));
+        QCOMPARE(dialog->availableModeItemsWithModeCodeList(codes), itemsNamed(modes, codes));
+        dialog->resetToProjectMode();
+        QCOMPARE(shownTexts(*dialog), dialog->getSecondItems(modes));
+        QCOMPARE(dialog->currentItem(), modes.value(0));
     }
 
-    void listsMembers()
+    static void choose(UTaskSelectDialog *dialog, AUTH_SET *registry, QRandomGenerator *random)
     {
-        const UTaskSelectDialog dialog;
-        const Pairs list { { "b", "x" }, { "a", "" }, { "b", "x" } };
-        QCOMPARE(dialog.getFirstItems(list), QStringList({ "b", "a", "b" }));
-        QCOMPARE(dialog.getSecondItems(list), QStringList({ "x", "", "x" }));
-        QCOMPARE(dialog.getFirstItems({}), QStringList());
-        QCOMPARE(dialog.getSecondItems({}), QStringList());
-    }
+        const Pairs items = anyItems(*registry, random);
+        dialog->setItems(items);
+        QShowEvent event;
+        event.ignore();
+        dialog->operateIndex = 5;
+        dialog->showEvent(&event);
+        QVERIFY(event.isAccepted());
+        QCOMPARE(dialog->operateIndex, -1);
+        const QString current
+            = registry->stdModeNameForm(registry->current_group, registry->current_mode);
+        QCOMPARE(dialog->currentItemIndex(), positionIn(items, current));
 
-    void matchesCodes_data()
-    {
-        QTest::addColumn<Pairs>("list");
-        QTest::addColumn<QStringList>("codes");
-        QTest::addColumn<Pairs>("matching");
-
-        const auto row
-            = [](const char *name, const Pairs &list, const QStringList &codes,
-                 const Pairs &matching) { QTest::newRow(name) << list << codes << matching; };
-        const Pairs list { { "a", "A" }, { "b", "a" }, { "a", "C" }, { "d", "A" }, { "e", "b" } };
-        row("first member", list, { "d" }, { { "d", "A" } });
-        row("second member", list, { "C" }, { { "a", "C" } });
-        row("first of equal first members", list, { "a" }, { { "a", "A" } });
-        row("first of equal second members", list, { "A" }, { { "a", "A" } });
-        row("first members count before second ones further up", { { "x", "a" }, { "a", "y" } },
-            { "a" }, { { "a", "y" } });
-        row("order of the codes", list, { "e", "C", "b" },
-            { { "e", "b" }, { "a", "C" }, { "b", "a" } });
-        row("code given twice", list, { "d", "d" }, { { "d", "A" }, { "d", "A" } });
-        row("two codes of one entry", list, { "C", "e", "C" },
-            { { "a", "C" }, { "e", "b" }, { "a", "C" } });
-        row("unknown codes", list, { "x", "D", "", "d" }, { { "d", "A" } });
-        row("empty code for an empty name", { { "a", "" }, { "b", "" } }, { "" }, { { "a", "" } });
-        row("no codes", list, {}, {});
-        row("no entries", {}, { "a" }, {});
-    }
-    void matchesCodes()
-    {
-        QFETCH(Pairs, list);
-        QFETCH(QStringList, codes);
-        const UTaskSelectDialog dialog;
-        QTEST(dialog.availableModeItemsWithModeCodeList(list, codes), "matching");
-    }
-
-    void matchesCodesOfTheRegistry()
-    {
-        AUTH_SET registry = twoGroups();
-        UTaskSelectDialog dialog;
-        dialog.set(&registry);
-        dialog.resetToExclusiveGroup("G");
-        QCOMPARE(dialog.availableModeItemsWithModeCodeList({ "App:H_tr:k_tr", "x", "App:G:b" }),
-                 Pairs({ mode("H", "k"), mode("G", "b") }));
+        int index = random->bounded(-1, items.size());
+        AUTH_SET expected = *registry;
+        const bool isBound = random->bounded(4) > 0;
+        const int id = random->bounded(-1, 4);
+        if (!isBound) {
+            dialog->set(nullptr);
+            dialog->setItems(items);
+        }
+        comboBox(*dialog)->setCurrentIndex(index);
+        QCOMPARE(dialog->currentItem(), items.value(index));
+        if (id == 2 && !items.isEmpty())
+            index = 0;
+        if (isBound && (id == 0 || id == 2))
+            acceptIn(&expected, items.value(index).first);
+        dialog->operate(id);
+        QCOMPARE(dialog->operateIndex, id == 2 ? 0 : id);
+        QCOMPARE(dialog->currentItemIndex(), index);
+        QCOMPARE(stateOf(*registry), stateOf(expected));
     }
 };
 

@@ -9,6 +9,7 @@
 #include <QtTest/qtestspontaneevent.h>
 
 #include <algorithm>
+#include <memory>
 #include <type_traits>
 
 using Closing = void (*)(UTaskSelectDialog *);
@@ -23,66 +24,11 @@ constexpr bool isHideEventPublic<
     Dialog, std::void_t<decltype(std::declval<Dialog>().hideEvent(nullptr))>> = true;
 static_assert(!isHideEventPublic<UTaskSelectDialog>);
 
-/// twoGroups() with mode b selected in G, and a task that it does not have.
-AUTH_SET registryInUse()
-{
-    AUTH_SET registry = twoGroups();
-    registry.exclusive_group_set_mode("G", "b");
-    registry.current_group = "old";
-    registry.current_mode = "older";
-    return registry;
-}
-
-/// Group, mode and selection of G and H: all that a dialog can change in a registry.
-QString outcome(const AUTH_SET &registry)
-{
-    return registry.current_group + "/" + registry.current_mode + "/"
-        + registry.currentExclusiveGroupSelect("G").first + "/"
-        + registry.currentExclusiveGroupSelect("H").first;
-}
-
-/// Deletes the dialog that it watches, and itself with it, when that is about to close.
-class DeletesWhatCloses : public QObject
+class KeepsHideEvents : public QObject
 {
 public:
-    using QObject::QObject;
-
-    bool eventFilter(QObject *watched, QEvent *event) override
-    {
-        if (event->type() != QEvent::Close)
-            return false;
-        delete watched;
-        return true;
-    }
+    bool eventFilter(QObject *, QEvent *event) override { return event->type() == QEvent::Hide; }
 };
-
-void deletesItself(UTaskSelectDialog *dialog)
-{
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-}
-
-void addClosing(const char *name, Closing closing, bool isBound)
-{
-    QTest::addRow("%s, %s", name, isBound ? "bound" : "with the box open") << closing << isBound;
-}
-
-/// Ways in which a dialog goes away, each with a registry and with the information box open.
-void addClosings(std::initializer_list<QPair<const char *, Closing>> closings)
-{
-    QTest::addColumn<Closing>("closing");
-    QTest::addColumn<bool>("isBound");
-    for (const auto &closing : closings) {
-        addClosing(closing.first, closing.second, true);
-        addClosing(closing.first, closing.second, false);
-    }
-}
-
-/// Runs @p closing in show(), in reach of the user or else while the box is in front.
-int showAndClose(UTaskSelectDialog &dialog, Closing closing, bool isBound)
-{
-    return isBound ? showAnd(dialog, [&] { closing(&dialog); })
-                   : showAndMeetBox(dialog, [&](QMessageBox *) { closing(&dialog); });
-}
 
 /// What a window gets that is minimised or restored.
 template <typename Event> void sendSpontaneous(UTaskSelectDialog &dialog, Event event)
@@ -119,113 +65,6 @@ private Q_SLOTS:
         QCOMPARE(QApplication::activeModalWidget(), nullptr);
     }
 
-    void operates_data()
-    {
-        QTest::addColumn<Pairs>("items");
-        QTest::addColumn<int>("index");
-        QTest::addColumn<int>("id");
-        QTest::addColumn<int>("operateIndex");
-        QTest::addColumn<QString>("outcome");
-
-        const auto row = [](const char *name, const Pairs &items, int index, int id,
-                            int operateIndex, const char *outcome) {
-            QTest::newRow(name) << items << index << id << operateIndex << QString(outcome);
-        };
-        const char *const unchanged = "old/older/b/k";
-        const Pairs all = allModes();
-        row("accept the first", all, 0, 0, 0, "G/a/a/k");
-        row("accept another", all, 2, 0, 0, "G/c/c/k");
-        row("accept one of another group", all, 3, 0, 0, "H/k/b/k");
-        row("accept without a current entry", all, -1, 0, 0, unchanged);
-        row("accept with nothing on offer", {}, -1, 0, 0, unchanged);
-        row("cancel", all, 2, 1, 1, unchanged);
-        row("default takes the first", all, 2, 2, 0, "G/a/a/k");
-        row("default without a current entry", all, -1, 2, 0, "G/a/a/k");
-        row("default with nothing on offer", {}, -1, 2, 0, unchanged);
-        row("unknown id", all, 2, 3, 3, unchanged);
-        row("negative id", all, 2, -1, -1, unchanged);
-
-        const auto accept = [&](const char *name, const Pair &item, const char *outcome) {
-            row(name, { item }, 0, 0, 0, outcome);
-        };
-        accept("translated names are resolved by the registry", { "App:G_tr:c_tr", "" },
-               "G_tr/c_tr/c/k");
-        accept("the application is not compared", { "Other:G:c", "" }, "G/c/c/k");
-        accept("unknown mode", { "App:G:x", "" }, "G/x/b/k");
-        accept("unknown group", { "App:X:c", "" }, "X/c/b/k");
-        accept("empty fields are kept", { "::", "" }, "//b/k");
-        accept("only the plain name counts", { "x", "App:G:c" }, unchanged);
-        accept("two fields", { "App:G", "" }, unchanged);
-        accept("four fields", { "App:G:c:d", "" }, unchanged);
-        accept("four fields by an empty one", { "App:G:c:", "" }, unchanged);
-    }
-    void operates()
-    {
-        QFETCH(Pairs, items);
-        QFETCH(int, index);
-        QFETCH(int, id);
-        AUTH_SET registry = registryInUse();
-        for (const bool isBound : { false, true }) {
-            UTaskSelectDialog dialog;
-            dialog.set(isBound ? &registry : nullptr);
-            dialog.setItems(items);
-            comboBox(dialog)->setCurrentIndex(index);
-            dialog.operate(id);
-            QTEST(dialog.operateIndex, "operateIndex");
-            QCOMPARE(dialog.currentItemIndex(), id == 2 && !items.isEmpty() ? 0 : index);
-            if (!isBound)
-                QCOMPARE(outcome(registry), QString("old/older/b/k"));
-        }
-        QTEST(outcome(registry), "outcome");
-    }
-
-    void preselects_data()
-    {
-        QTest::addColumn<Pairs>("items");
-        QTest::addColumn<QString>("group");
-        QTest::addColumn<QString>("mode");
-        QTest::addColumn<int>("index");
-
-        const auto row
-            = [](const char *name, const Pairs &items, const QString &group, const QString &mode,
-                 int index) { QTest::newRow(name) << items << group << mode << index; };
-        const Pairs all = allModes();
-        row("nothing accepted yet", all, "", "", -1);
-        row("mode of the first group", all, "G", "c", 2);
-        row("mode of another group", all, "H", "k", 3);
-        row("translated names", all, "G_tr", "b_tr", 1);
-        row("mixed names", all, "G", "b_tr", -1);
-        row("unknown mode", all, "G", "x", -1);
-        row("other case", all, "g", "a", -1);
-        row("first of equal plain names", { { "x", "y" }, { "App:G:a", "1" }, { "App:G:a", "2" } },
-            "G", "a", 1);
-        row("first of equal translated names",
-            { { "x", "y" }, { "1", "App:G:a" }, { "2", "App:G:a" } }, "G", "a", 1);
-        row("plain names count before translated ones further up",
-            { { "x", "App:G:a" }, { "App:G:a", "y" } }, "G", "a", 1);
-        row("plain name at the top", { { "App:G:a", "y" }, { "x", "App:G:a" } }, "G", "a", 0);
-        row("empty group and mode", { { "App::", "" } }, "", "", 0);
-        row("nothing on offer", {}, "G", "a", -1);
-    }
-    void preselects()
-    {
-        QFETCH(Pairs, items);
-        QFETCH(QString, group);
-        QFETCH(QString, mode);
-        m_registry.current_group = group;
-        m_registry.current_mode = mode;
-        UTaskSelectDialog dialog;
-        dialog.set(&m_registry);
-        dialog.setItems(items);
-        dialog.operateIndex = 5;
-        QShowEvent event;
-        event.ignore();
-        dialog.showEvent(&event);
-        QVERIFY(event.isAccepted());
-        QTEST(dialog.currentItemIndex(), "index");
-        QCOMPARE(dialog.operateIndex, -1);
-    }
-
     void userChooses_data()
     {
         QTest::addColumn<int>("operateIndex");
@@ -253,74 +92,6 @@ private Q_SLOTS:
         QCOMPARE(dialog.currentItem(), mode("G", m_registry.current_mode));
     }
 
-    void returnsForEveryClosing_data()
-    {
-        addClosings({
-            { "operate(0)", [](auto *dialog) { dialog->operate(0); } },
-            { "operate(2)", [](auto *dialog) { dialog->operate(2); } },
-            { "operate(99)", [](auto *dialog) { dialog->operate(99); } },
-            { "accept()", [](auto *dialog) { dialog->accept(); } },
-            { "reject()", [](auto *dialog) { dialog->reject(); } },
-            { "done(7)", [](auto *dialog) { dialog->done(7); } },
-            { "close()", [](auto *dialog) { dialog->close(); } },
-            { "hide()", [](auto *dialog) { dialog->hide(); } },
-            { "closeAllWindows()", [](auto *) { QApplication::closeAllWindows(); } },
-        });
-        addClosing(
-            "Escape", [](auto *dialog) { press(*dialog, Qt::Key_Escape); }, true);
-        addClosing(
-            "close button", [](auto *dialog) { dialog->windowHandle()->close(); }, true);
-    }
-    void returnsForEveryClosing()
-    {
-        QFETCH(Closing, closing);
-        QFETCH(bool, isBound);
-        UTaskSelectDialog dialog;
-        dialog.set(isBound ? &m_registry : nullptr);
-        for (int showing = 0; showing < 2; ++showing) {
-            QCOMPARE(showAndClose(dialog, closing, isBound), 0);
-            QVERIFY(!isAnyWindowOnScreen());
-        }
-    }
-
-    void returnsWhenDeleted_data()
-    {
-        addClosings({
-            { "delete", [](auto *dialog) { delete dialog; } },
-            { "deleteLater()", [](auto *dialog) { dialog->deleteLater(); } },
-            { "close() and delete",
-              [](auto *dialog) {
-                  dialog->close();
-                  delete dialog;
-              } },
-            { "Default of one that deletes itself",
-              [](auto *dialog) {
-                  deletesItself(dialog);
-                  dialog->operate(2);
-              } },
-            { "Default of one that is deleted while it closes",
-              [](auto *dialog) {
-                  dialog->installEventFilter(new DeletesWhatCloses(dialog));
-                  dialog->operate(2);
-              } },
-            { "reject() of one that deletes itself",
-              [](auto *dialog) {
-                  deletesItself(dialog);
-                  dialog->reject();
-              } },
-        });
-    }
-    void returnsWhenDeleted()
-    {
-        QFETCH(Closing, closing);
-        QFETCH(bool, isBound);
-        const QPointer<UTaskSelectDialog> dialog = new UTaskSelectDialog;
-        dialog->set(isBound ? &m_registry : nullptr);
-        QCOMPARE(showAndClose(*dialog, closing, isBound), 0);
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QVERIFY(dialog.isNull());
-    }
-
     void closeEventEndsTheLoop()
     {
         UTaskSelectDialog dialog;
@@ -329,7 +100,97 @@ private Q_SLOTS:
         event.ignore();
         QCOMPARE(showAnd(dialog, [&] { dialog.closeEvent(&event); }), 0);
         QVERIFY(event.isAccepted());
+        QVERIFY(dialog.isVisible());
         dialog.hide();
+    }
+
+    void returnsWhenAListenerKeepsTheHideEvent()
+    {
+        UTaskSelectDialog dialog;
+        dialog.set(&m_registry);
+        KeepsHideEvents listener;
+        dialog.installEventFilter(&listener);
+        QCOMPARE(showAnd(dialog, [&] { dialog.hide(); }), 0);
+    }
+
+    void execGivesTheResultOfItsShowing_data()
+    {
+        QTest::addColumn<Closing>("closing");
+        QTest::addColumn<int>("result");
+
+        const auto row = [](const char *name, Closing closing, int result) {
+            QTest::newRow(name) << closing << result;
+        };
+        row(
+            "accept()", [](auto *dialog) { dialog->accept(); }, QDialog::Accepted);
+        row(
+            "done(7)", [](auto *dialog) { dialog->done(7); }, 7);
+        row(
+            "reject()", [](auto *dialog) { dialog->reject(); }, QDialog::Rejected);
+        row(
+            "Accept", [](auto *dialog) { dialog->operate(0); }, QDialog::Rejected);
+        row(
+            "hide()", [](auto *dialog) { dialog->hide(); }, QDialog::Rejected);
+        row(
+            "delete", [](auto *dialog) { delete dialog; }, QDialog::Rejected);
+    }
+    void execGivesTheResultOfItsShowing()
+    {
+        QFETCH(Closing, closing);
+        const StuckGuard guard;
+        for (const bool deletesItself : { false, true }) {
+            const QPointer<UTaskSelectDialog> dialog = new UTaskSelectDialog;
+            dialog->set(&m_registry);
+            dialog->setResult(5);
+            dialog->setWindowModality(Qt::NonModal);
+            dialog->setAttribute(Qt::WA_DeleteOnClose, deletesItself);
+            QTimer::singleShot(0, dialog, [&] {
+                failUnless(dialog->isModal(), "the dialog is not modal");
+                failUnless(dialog->exec() == QDialog::Rejected, "exec() waits within exec()");
+                closing(dialog);
+            });
+            QTEST(dialog->exec(), "result");
+            if (dialog && !deletesItself)
+                QVERIFY(!dialog->isModal() && !dialog->isVisible());
+            else
+                QVERIFY(!dialog);
+            delete dialog;
+        }
+    }
+
+    void registryMayGoFirst()
+    {
+        auto registry = std::make_unique<AUTH_SET>(m_registry);
+        UTaskSelectDialog dialog;
+        dialog.set(registry.get());
+        showAnd(dialog, [&] {
+            dialog.set(nullptr);
+            registry.reset();
+            click(dialog, "pushButton_accept");
+        });
+        QCOMPARE(dialog.operateIndex, 0);
+        QVERIFY(!dialog.isVisible());
+    }
+
+    void nothingIsChosenWithoutTheComboBox()
+    {
+        UTaskSelectDialog dialog;
+        dialog.set(&m_registry);
+        delete comboBox(dialog);
+        dialog.setItems(allModes());
+        for (const char *button : { "pushButton_accept", "pushButton_Default" }) {
+            showAnd(dialog, [&] { click(dialog, button); });
+            QCOMPARE(dialog.operateIndex, 0);
+            QCOMPARE(dialog.currentItemIndex(), -1);
+            QCOMPARE(dialog.currentItem(), Pair());
+            QCOMPARE(m_registry.current_mode, QString("b"));
+        }
+    }
+
+    void closesTheBoxWithAllWindows()
+    {
+        UTaskSelectDialog dialog;
+        QCOMPARE(showAndMeetBox(dialog, [](QMessageBox *) { QApplication::closeAllWindows(); }), 0);
     }
 
     void staysWhenMinimisedAndKeepsTheChoice()
