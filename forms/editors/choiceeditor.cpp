@@ -1,0 +1,86 @@
+// SPDX-FileCopyrightText: The Kelto developers
+// SPDX-License-Identifier: MIT
+
+#include "editors/choiceeditor_p.h"
+
+#include "keltoparametermodel.h"
+#include "parameterrow_p.h"
+
+#include <QVariantMap>
+#include <QWheelEvent>
+
+#include <algorithm>
+
+ChoiceBox::ChoiceBox(QWidget *parent)
+    : QComboBox(parent)
+{
+    setFocusPolicy(Qt::StrongFocus);
+    // The longest of many choices is not to make the form wide.
+    setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+}
+
+void ChoiceBox::wheelEvent(QWheelEvent *event)
+{
+    if (hasFocus())
+        QComboBox::wheelEvent(event);
+    else
+        event->ignore();
+}
+
+ChoiceEditor::ChoiceEditor(EditorListener *listener, int row, QWidget *parent)
+    : ValueEditor(listener, row)
+    , m_box(new ChoiceBox(parent))
+{
+    QObject::connect(m_box, qOverload<int>(&QComboBox::currentIndexChanged), m_box,
+                     [this](int index) {
+                         if (!m_isShowing && index >= 0)
+                             this->listener()->choose(this->row(), m_box->itemData(index));
+                     });
+}
+
+/// The values with their labels. An optional value can also be none; one that is no choice is shown
+/// as it is.
+ChoiceEditor::Choices ChoiceEditor::choices(const QModelIndex &index)
+{
+    Choices all;
+    if (index.data(KeltoParameterModel::OptionalRole).toBool())
+        all.append({ QString(), QString() });
+    const QVariantList maps = index.data(KeltoParameterModel::ChoicesRole).toList();
+    for (const QVariant &map : maps)
+        all.append({ map.toMap().value(QStringLiteral("value")).toString(),
+                     map.toMap().value(QStringLiteral("label")).toString() });
+    if (index.data(KeltoParameterModel::KindRole) == KeltoParameterModel::Bool)
+        all += { { QStringLiteral("true"), KeltoParameterModel::tr("Yes") },
+                 { QStringLiteral("false"), KeltoParameterModel::tr("No") } };
+    const QString value = storedText(index.data(KeltoParameterModel::ValueRole));
+    const bool isKnown = std::any_of(all.cbegin(), all.cend(), [&](const auto &choice) {
+        return choice.first == value;
+    });
+    if (!isKnown && !value.isEmpty())
+        all.append({ value, value });
+    return all;
+}
+
+void ChoiceEditor::offer(const Choices &choices)
+{
+    if (choices == m_offered)
+        return;
+    m_offered = choices;
+    m_box->clear();
+    int longest = 0;
+    for (const auto &choice : choices) {
+        m_box->addItem(choice.second, choice.first);
+        longest = qMax(longest, choice.second.size());
+    }
+    m_box->setMinimumContentsLength(qMin(longest, 30));
+}
+
+void ChoiceEditor::show(const QModelIndex &index)
+{
+    m_isShowing = true;
+    offer(choices(index));
+    m_box->setPlaceholderText(ChoiceBox::tr("Choose"));
+    m_box->setCurrentIndex(
+        m_box->findData(storedText(index.data(KeltoParameterModel::ValueRole))));
+    m_isShowing = false;
+}
