@@ -3,79 +3,191 @@
 
 #include "keltoparameterform.h"
 
-#include "keltoparametermodel.h"
+#include "keltoparameterform_p.h"
 
-class KeltoParameterFormPrivate
+#include <Kelto/AUTH_SET>
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QScrollArea>
+#include <QToolButton>
+#include <QUndoStack>
+
+#include <utility>
+
+namespace {
+
+bool isUndoOrRedo(const QKeyEvent &event)
 {
-public:
-    KeltoParameterModel ownModel;
-};
+    return event.matches(QKeySequence::Undo) || event.matches(QKeySequence::Redo);
+}
+
+} // namespace
 
 KeltoParameterForm::KeltoParameterForm(QWidget *parent)
+    : KeltoParameterForm(nullptr, parent)
+{
+}
+
+KeltoParameterForm::KeltoParameterForm(const AUTH_SET *registry, QString group, QString mode,
+                                       QWidget *parent)
     : QWidget(parent)
-    , d(std::make_unique<KeltoParameterFormPrivate>())
+    , d(std::make_unique<KeltoParameterFormPrivate>(this))
 {
+    d->setOwnModel(std::make_unique<KeltoParameterModel>(registry, group, mode));
 }
-KeltoParameterForm::KeltoParameterForm(const AUTH_SET *, QString, QString, QWidget *parent)
-    : KeltoParameterForm(parent)
+
+KeltoParameterForm::KeltoParameterForm(const AUTH_SET *registry, QString group, int position,
+                                       QWidget *parent)
+    : QWidget(parent)
+    , d(std::make_unique<KeltoParameterFormPrivate>(this))
 {
+    d->setOwnModel(std::make_unique<KeltoParameterModel>(registry, group, position));
 }
-KeltoParameterForm::KeltoParameterForm(const AUTH_SET *, QString, int, QWidget *parent)
-    : KeltoParameterForm(parent)
+
+KeltoParameterForm::KeltoParameterForm(QVector<VParameter> parameters, KeltoItemHints hints,
+                                       QWidget *parent)
+    : QWidget(parent)
+    , d(std::make_unique<KeltoParameterFormPrivate>(this))
 {
+    d->setOwnModel(std::make_unique<KeltoParameterModel>(parameters, hints));
 }
-KeltoParameterForm::KeltoParameterForm(QVector<VParameter>, KeltoItemHints, QWidget *parent)
-    : KeltoParameterForm(parent)
+
+KeltoParameterForm::KeltoParameterForm(KeltoParameterModel *model, QWidget *parent)
+    : QWidget(parent)
+    , d(std::make_unique<KeltoParameterFormPrivate>(this))
 {
+    setModel(model);
 }
-KeltoParameterForm::KeltoParameterForm(KeltoParameterModel *, QWidget *parent)
-    : KeltoParameterForm(parent)
+
+KeltoParameterForm::~KeltoParameterForm()
 {
+    // Neither the model nor an editor is to call what is gone already.
+    d->model->disconnect(this);
+    delete d->area;
 }
-KeltoParameterForm::~KeltoParameterForm() = default;
+
 KeltoParameterModel *KeltoParameterForm::model() const
 {
-    return &d->ownModel;
+    return d->model;
 }
-void KeltoParameterForm::setModel(KeltoParameterModel *) { }
+
+void KeltoParameterForm::setModel(KeltoParameterModel *model)
+{
+    if (model)
+        d->setModel(model);
+    else
+        d->setOwnModel(std::make_unique<KeltoParameterModel>());
+}
+
 QVector<QPair<QString, QVariant>> KeltoParameterForm::values() const
 {
-    return {};
+    return d->model->values();
 }
-void KeltoParameterForm::setValues(QVector<QPair<QString, QVariant>>) { }
+
+void KeltoParameterForm::setValues(QVector<QPair<QString, QVariant>> values)
+{
+    d->model->setValues(values);
+}
+
 QVector<KeltoItemFinding> KeltoParameterForm::findings() const
 {
-    return {};
+    return d->model->findings();
 }
+
 bool KeltoParameterForm::isComplete() const
 {
-    return false;
+    return d->model->isComplete();
 }
-QWidget *KeltoParameterForm::editor(QString) const
+
+QWidget *KeltoParameterForm::editor(QString key) const
 {
-    return nullptr;
+    return d->field(d->model->row(key));
 }
+
 bool KeltoParameterForm::isAdvancedVisible() const
 {
-    return false;
+    return d->isAdvancedVisible;
 }
+
 bool KeltoParameterForm::isSearchVisible() const
 {
-    return false;
+    return d->search->isVisibleTo(this);
 }
+
 bool KeltoParameterForm::isSummaryVisible() const
 {
-    return true;
+    return d->summary->isVisibleTo(this);
 }
-void KeltoParameterForm::setAdvancedVisible(bool) { }
-void KeltoParameterForm::setSearchVisible(bool) { }
-void KeltoParameterForm::setSummaryVisible(bool) { }
-void KeltoParameterForm::focusParameter(QString) { }
+
+void KeltoParameterForm::setAdvancedVisible(bool visible)
+{
+    d->isAdvancedVisible = visible;
+    d->advanced->setChecked(visible);
+    d->advanced->setArrowType(visible ? Qt::DownArrow : Qt::RightArrow);
+    d->showEveryVisibility();
+}
+
+void KeltoParameterForm::setSearchVisible(bool visible)
+{
+    d->search->setVisible(visible);
+    // A search that cannot be seen is not to hide anything.
+    if (!visible)
+        d->search->clear();
+}
+
+void KeltoParameterForm::setSummaryVisible(bool visible)
+{
+    d->summary->setVisible(visible);
+}
+
+void KeltoParameterForm::focusParameter(QString key)
+{
+    const int row = d->model->row(key);
+    if (row < 0 || !d->index(row).data(KeltoParameterModel::CountsRole).toBool())
+        return;
+    if (d->index(row).data(KeltoParameterModel::AdvancedRole).toBool())
+        setAdvancedVisible(true);
+    if (!d->isFound(row))
+        d->search->clear();
+    // A row that was hidden has no place yet.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    d->field(row)->setFocus(Qt::TabFocusReason);
+    d->area->ensureWidgetVisible(d->field(row));
+}
+
+bool KeltoParameterForm::event(QEvent *event)
+{
+    // Otherwise the window's own shortcut would have these keys before an editor has.
+    if (event->type() == QEvent::ShortcutOverride
+        && isUndoOrRedo(static_cast<QKeyEvent &>(*event))) {
+        event->accept();
+        return true;
+    }
+    return QWidget::event(event);
+}
+
 void KeltoParameterForm::changeEvent(QEvent *event)
 {
     QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        d->followLocale();
+        d->showTexts();
+        d->model->retranslate();
+    } else if (event->type() == QEvent::LocaleChange) {
+        d->model->setLocale(locale());
+    }
 }
+
 void KeltoParameterForm::keyPressEvent(QKeyEvent *event)
 {
-    QWidget::keyPressEvent(event);
+    if (event->matches(QKeySequence::Undo))
+        d->model->undoStack()->undo();
+    else if (event->matches(QKeySequence::Redo))
+        d->model->undoStack()->redo();
+    else
+        QWidget::keyPressEvent(event);
 }

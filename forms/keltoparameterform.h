@@ -90,6 +90,8 @@ Q_SIGNALS:
     void completeChanged(bool complete);
 
 protected:
+    /// Keeps the shortcuts to undo and redo from being taken by the window.
+    bool event(QEvent *event) override;
     /// Sets all texts anew when the language has changed, and numbers when the locale has.
     void changeEvent(QEvent *event) override;
     /// Undoes and redoes.

@@ -69,7 +69,7 @@ int KeltoParameterModel::columnCount(const QModelIndex &parent) const
 
 QVariant KeltoParameterModel::data(const QModelIndex &index, int role) const
 {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+    if (!d->isRow(index.row()))
         return QVariant();
     if (role == Qt::DisplayRole || role == Qt::EditRole)
         return d->columnData(index.row(), index.column(), role);
@@ -139,15 +139,12 @@ QVariant KeltoParameterModelPrivate::roleData(int row, int role)
 
 bool KeltoParameterModel::setData(const QModelIndex &index, const QVariant &value, int role)
 {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+    if (!d->isRow(index.row()))
         return false;
-    const ParameterRow &row = d->rows.at(index.row());
     if (role == ValueRole) {
         d->edit(index.row(), value);
     } else if (role == TextRole || (role == Qt::EditRole && index.column() == ValueColumn)) {
-        // A value that came as something else than text stays so, unless its text changes.
-        if (value != row.typed(d->locale))
-            d->edit(index.row(), row.stored(value, d->locale));
+        d->editTyped(index.row(), value);
     } else {
         return false;
     }
@@ -172,9 +169,14 @@ QVariant KeltoParameterModel::headerData(int section, Qt::Orientation orientatio
     }
 }
 
+void KeltoParameterModel::typeText(int row, const QString &text, int session)
+{
+    d->editTyped(row, text, session);
+}
+
 Qt::ItemFlags KeltoParameterModel::flags(const QModelIndex &index) const
 {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+    if (!d->isRow(index.row()))
         return Qt::NoItemFlags;
     Qt::ItemFlags flags = Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
     if (d->counting.at(index.row()))

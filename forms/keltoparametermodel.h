@@ -162,11 +162,16 @@ Q_SIGNALS:
     /// A value was changed by a view, setData(), resetToDefaults(), undo or redo.
     void edited();
     void completeChanged(bool complete);
-    /// findings() gives something else than before.
+    /// findings() may give something else than before.
     void findingsChanged();
 
 private:
+    friend class KeltoParameterFormPrivate;
     friend class KeltoParameterModelPrivate;
+
+    /// As setData() with the role TextRole. What is typed in one session is one step to undo.
+    void typeText(int row, const QString &text, int session);
+
     std::unique_ptr<KeltoParameterModelPrivate> d;
 };
 

@@ -43,6 +43,8 @@ public:
     /// concerns a single row. Those in session 0 stay apart.
     void edit(const Changes &changes, const QString &text, int session = 0);
     void edit(int row, const QVariant &value, int session = 0);
+    /// The same with what a person typed.
+    void editTyped(int row, const QVariant &typed, int session = 0);
 
     void setNames();
     /// Tells that the values of these rows have changed, and of others whether they count.

@@ -164,7 +164,7 @@ void KeltoParameterModelPrivate::edit(const Changes &changes, const QString &tex
     Changes real;
     std::copy_if(changes.cbegin(), changes.cend(), std::back_inserter(real),
                  [](const ValueChange &change) {
-                     return !isSameValue(change.before, change.after);
+                     return !isSameState(change.before, change.after);
                  });
     if (!real.isEmpty())
         undoStack.push(new ValueCommand(this, real, text, session));
@@ -174,6 +174,13 @@ void KeltoParameterModelPrivate::edit(int row, const QVariant &value, int sessio
 {
     edit({ { row, rows.at(row).value, value } },
          KeltoParameterModel::tr("Edit %1").arg(rows.at(row).name(mode.hints)), session);
+}
+
+void KeltoParameterModelPrivate::editTyped(int row, const QVariant &typed, int session)
+{
+    // A value that came as something else than text stays so, unless its text changes.
+    if (typed != rows.at(row).typed(locale))
+        edit(row, rows.at(row).stored(typed, locale), session);
 }
 
 /// The names that findings have are those that views show.

@@ -67,7 +67,7 @@ QString storedText(const QVariant &value)
 {
     // An INI file gives a text with commas as a list.
     if (value.userType() == QMetaType::QStringList || value.userType() == QMetaType::QVariantList)
-        return value.toStringList().join(QStringLiteral(", "));
+        return value.toStringList().join(QLatin1Char(','));
     return value.toString();
 }
 

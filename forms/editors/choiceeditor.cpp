@@ -53,9 +53,8 @@ ChoiceEditor::Choices ChoiceEditor::choices(const QModelIndex &index)
         all += { { QStringLiteral("true"), KeltoParameterModel::tr("Yes") },
                  { QStringLiteral("false"), KeltoParameterModel::tr("No") } };
     const QString value = storedText(index.data(KeltoParameterModel::ValueRole));
-    const bool isKnown = std::any_of(all.cbegin(), all.cend(), [&](const auto &choice) {
-        return choice.first == value;
-    });
+    const bool isKnown = std::any_of(all.cbegin(), all.cend(),
+                                     [&](const auto &choice) { return choice.first == value; });
     if (!isKnown && !value.isEmpty())
         all.append({ value, value });
     return all;
@@ -80,7 +79,6 @@ void ChoiceEditor::show(const QModelIndex &index)
     m_isShowing = true;
     offer(choices(index));
     m_box->setPlaceholderText(ChoiceBox::tr("Choose"));
-    m_box->setCurrentIndex(
-        m_box->findData(storedText(index.data(KeltoParameterModel::ValueRole))));
+    m_box->setCurrentIndex(m_box->findData(storedText(index.data(KeltoParameterModel::ValueRole))));
     m_isShowing = false;
 }

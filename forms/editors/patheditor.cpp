@@ -70,8 +70,7 @@ void PathEditor::browse()
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setWindowTitle(m_index.data(KeltoParameterModel::NameRole).toString());
     setUp(dialog, m_index.data(KeltoParameterModel::KindRole).toInt());
-    const QStringList filters
-        = m_index.data(KeltoParameterModel::FileFiltersRole).toStringList();
+    const QStringList filters = m_index.data(KeltoParameterModel::FileFiltersRole).toStringList();
     if (!filters.isEmpty())
         dialog->setNameFilters(filters);
     const QFileInfo current(m_widget->line()->text());
@@ -107,8 +106,7 @@ void ColorEditor::pick()
 {
     auto *dialog = new QColorDialog(QColor(m_widget->line()->text()), m_widget);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    QObject::connect(dialog, &QColorDialog::colorSelected, m_widget, [this](const QColor &color) {
-        listener()->choose(row(), color.name());
-    });
+    QObject::connect(dialog, &QColorDialog::colorSelected, m_widget,
+                     [this](const QColor &color) { listener()->choose(row(), color.name()); });
     dialog->open();
 }

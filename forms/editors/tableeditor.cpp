@@ -6,6 +6,8 @@
 #include "keltoparametermodel.h"
 #include "keltotableeditor_p.h"
 
+#include <QHash>
+
 namespace {
 
 struct Shape
@@ -14,19 +16,21 @@ struct Shape
     KeltoParameterModel::Kind cells;
 };
 
+/// The words for single numbers are known for several, too.
 Shape shapeOf(const QString &objectName)
 {
-    if (objectName == QLatin1String("QVector<float>")
-        || objectName == QLatin1String("QVector<double>"))
-        return { 1, KeltoParameterModel::Number };
-    if (objectName == QLatin1String("QVector<int>"))
-        return { 1, KeltoParameterModel::WholeNumber };
-    if (objectName == QLatin1String("QVector<QPointF>"))
-        return { 2, KeltoParameterModel::Number };
-    if (objectName == QLatin1String("QVector<QPoint>"))
-        return { 2, KeltoParameterModel::WholeNumber };
-    return { objectName == QLatin1String("QVector<QStringList>") ? 0 : 1,
-             KeltoParameterModel::Text };
+    static const QHash<QString, Shape> shapes {
+        { QStringLiteral("float"), { 1, KeltoParameterModel::Number } },
+        { QStringLiteral("double"), { 1, KeltoParameterModel::Number } },
+        { QStringLiteral("int"), { 1, KeltoParameterModel::WholeNumber } },
+        { QStringLiteral("QVector<float>"), { 1, KeltoParameterModel::Number } },
+        { QStringLiteral("QVector<double>"), { 1, KeltoParameterModel::Number } },
+        { QStringLiteral("QVector<int>"), { 1, KeltoParameterModel::WholeNumber } },
+        { QStringLiteral("QVector<QPointF>"), { 2, KeltoParameterModel::Number } },
+        { QStringLiteral("QVector<QPoint>"), { 2, KeltoParameterModel::WholeNumber } },
+        { QStringLiteral("QVector<QStringList>"), { 0, KeltoParameterModel::Text } },
+    };
+    return shapes.value(objectName, { 1, KeltoParameterModel::Text });
 }
 
 const KeltoParameterModel &modelOf(const QModelIndex &index)
@@ -39,8 +43,7 @@ const KeltoParameterModel &modelOf(const QModelIndex &index)
 TableEditor::TableEditor(EditorListener *listener, const QModelIndex &index, QWidget *parent)
     : ValueEditor(listener, index.row())
 {
-    const Shape shape
-        = shapeOf(modelOf(index).parameter(index.row()).parameterObjectName());
+    const Shape shape = shapeOf(modelOf(index).parameter(index.row()).parameterObjectName());
     m_table = new KeltoTableEditor(shape.columns, shape.cells, parent);
     QObject::connect(m_table, &KeltoTableEditor::edited, m_table,
                      [this] { this->listener()->choose(row(), m_table->value()); });
@@ -57,4 +60,9 @@ void TableEditor::show(const QModelIndex &index)
     const QStringList value = index.data(KeltoParameterModel::ValueRole).toStringList();
     if (value != m_table->value())
         m_table->setValue(value);
+}
+
+void TableEditor::mark(const QVector<KeltoItemFinding> &findings)
+{
+    m_table->setFindings(findings);
 }

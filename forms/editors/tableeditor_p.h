@@ -16,6 +16,7 @@ public:
 
     QWidget *widget() override;
     void show(const QModelIndex &index) override;
+    void mark(const QVector<KeltoItemFinding> &findings) override;
 
 private:
     KeltoTableEditor *m_table;

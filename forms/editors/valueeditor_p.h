@@ -4,8 +4,11 @@
 #ifndef VALUEEDITOR_P_H
 #define VALUEEDITOR_P_H
 
+#include <Kelto/KeltoItemFinding>
+
 #include <QModelIndex>
 #include <QVariant>
+#include <QVector>
 
 #include <memory>
 
@@ -42,6 +45,8 @@ public:
     virtual QWidget *field() { return widget(); }
     /// Shows the value and the texts that the model has for the row. Calls no listener.
     virtual void show(const QModelIndex &index) = 0;
+    /// What is wrong with the value. The form says so itself; an editor may also mark the place.
+    virtual void mark(const QVector<KeltoItemFinding> & /*findings*/) { }
 
 protected:
     EditorListener *listener() const { return m_listener; }

@@ -1,0 +1,92 @@
+// SPDX-FileCopyrightText: The Kelto developers
+// SPDX-License-Identifier: MIT
+
+#ifndef KELTOPARAMETERFORM_P_H
+#define KELTOPARAMETERFORM_P_H
+
+#include "keltoparameterform.h"
+
+#include "formrow_p.h"
+#include "keltoparametermodel.h"
+
+#include <QHash>
+#include <QPointer>
+
+#include <memory>
+#include <vector>
+
+class QGroupBox;
+class QLabel;
+class QLineEdit;
+class QScrollArea;
+class QToolButton;
+
+class KeltoParameterFormPrivate : public EditorListener
+{
+public:
+    explicit KeltoParameterFormPrivate(KeltoParameterForm *form);
+
+    void choose(int row, const QVariant &typed) override;
+    void type(int row, const QVariant &typed) override;
+    void finishTyping(int row) override;
+    QUndoStack *undoStack() const override { return model->undoStack(); }
+
+    void setModel(KeltoParameterModel *newModel);
+    void setOwnModel(std::unique_ptr<KeltoParameterModel> newModel);
+    QModelIndex index(int row) const;
+    /// The editor of a row; nullptr where there is none.
+    QWidget *field(int row) const;
+    /// Whether the search leaves the row visible.
+    bool isFound(int row) const;
+
+    void showRows(int first, int last);
+    void showVisibility(int row);
+    void showEveryVisibility();
+    void showFindings();
+    void showTexts();
+    void followLocale();
+
+    KeltoParameterForm *q;
+    std::unique_ptr<KeltoParameterModel> ownModel;
+    QPointer<KeltoParameterModel> model;
+
+    bool isAdvancedVisible = false;
+
+    QLineEdit *search = nullptr;
+    QScrollArea *area = nullptr;
+    QToolButton *advanced = nullptr;
+    QLabel *summary = nullptr;
+
+private:
+    using Rows = std::vector<std::unique_ptr<FormRow>>;
+
+    struct Box
+    {
+        QGroupBox *widget = nullptr;
+        std::vector<int> rows;
+        int visibleRows = 0;
+    };
+
+    void dropRows();
+    void connectModel();
+    void build();
+    void sortIntoBoxes();
+    void fill(Box *box, QWidget *parent);
+    void alignLabels() const;
+    void setTabOrder() const;
+    void showTitles(int first, int last) const;
+    bool isWanted(int row) const;
+    QString summaryText() const;
+    QString links(const QVector<int> &linkedRows) const;
+
+    std::vector<Box> m_boxes;
+    /// By the rows of the model.
+    Rows m_rows;
+    std::vector<int> m_boxOfRow;
+    /// What is typed into one editor without a break is one session.
+    int m_session = 1;
+    /// The row whose editor just told of a change. It shows the text as it is typed.
+    int m_typedRow = -1;
+};
+
+#endif
