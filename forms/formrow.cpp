@@ -85,6 +85,8 @@ void FormRow::show(const QModelIndex &index)
     showUnit(unit);
     showDescription(index);
     m_editor->show(index);
+    // Its words may be others in this language.
+    m_isFindingShown = false;
 }
 
 void FormRow::showUnit(const QString &unit)
@@ -109,14 +111,16 @@ void FormRow::showDescription(const QModelIndex &index)
 void FormRow::showFindings(const QModelIndex &index, const QVector<KeltoItemFinding> &findings)
 {
     const QString text = index.data(Model::FindingRole).toString();
-    if (text == m_finding)
+    if (m_isFindingShown && text == m_finding)
         return;
+    m_isFindingShown = true;
     m_finding = text;
     showDescription(index);
     m_editor->mark(findings);
-    if (!m_mark)
+    if (!m_mark && !findings.isEmpty())
         m_mark = new FindingMark(m_grid->parentWidget());
-    showMark(findings);
+    if (m_mark)
+        showMark(findings);
 }
 
 void FormRow::showMark(const QVector<KeltoItemFinding> &findings)

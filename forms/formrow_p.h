@@ -49,6 +49,7 @@ private:
     QLabel *m_unit = nullptr;
     FindingMark *m_mark = nullptr;
     QString m_finding;
+    bool m_isFindingShown = false;
     bool m_isMarkBelow = false;
     bool m_isVisible = true;
 };

@@ -18,15 +18,6 @@
 
 #include <utility>
 
-namespace {
-
-bool isUndoOrRedo(const QKeyEvent &event)
-{
-    return event.matches(QKeySequence::Undo) || event.matches(QKeySequence::Redo);
-}
-
-} // namespace
-
 KeltoParameterForm::KeltoParameterForm(QWidget *parent)
     : KeltoParameterForm(nullptr, parent)
 {

@@ -104,8 +104,8 @@ void KeltoParameterFormPrivate::setModel(KeltoParameterModel *newModel)
 /// Leaves the editors alive for as long as one of them may be telling of a change.
 void KeltoParameterFormPrivate::dropRows()
 {
-    QWidget *contents = area->takeWidget();
     const auto rows = std::make_shared<Rows>(std::exchange(m_rows, Rows()));
+    QWidget *contents = area->takeWidget();
     if (!contents)
         return;
     QObject::connect(contents, &QObject::destroyed, [rows] { rows->clear(); });

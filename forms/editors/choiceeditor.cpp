@@ -6,6 +6,7 @@
 #include "keltoparametermodel.h"
 #include "parameterrow_p.h"
 
+#include <QKeyEvent>
 #include <QVariantMap>
 #include <QWheelEvent>
 
@@ -17,6 +18,15 @@ ChoiceBox::ChoiceBox(QWidget *parent)
     setFocusPolicy(Qt::StrongFocus);
     // The longest of many choices is not to make the form wide.
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+}
+
+void ChoiceBox::keyPressEvent(QKeyEvent *event)
+{
+    // It would search for the character of the key.
+    if (isUndoOrRedo(*event))
+        event->ignore();
+    else
+        QComboBox::keyPressEvent(event);
 }
 
 void ChoiceBox::wheelEvent(QWheelEvent *event)

@@ -21,6 +21,7 @@ public:
     explicit ChoiceBox(QWidget *parent);
 
 protected:
+    void keyPressEvent(QKeyEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
 };
 

@@ -37,7 +37,7 @@ void ValueLine::showText(const QString &text)
 
 void ValueLine::keyPressEvent(QKeyEvent *event)
 {
-    if (event->matches(QKeySequence::Undo) || event->matches(QKeySequence::Redo))
+    if (isUndoOrRedo(*event))
         event->ignore();
     else
         QLineEdit::keyPressEvent(event);

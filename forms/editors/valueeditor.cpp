@@ -9,6 +9,13 @@
 #include "editors/tableeditor_p.h"
 #include "keltoparametermodel.h"
 
+#include <QKeyEvent>
+
+bool isUndoOrRedo(const QKeyEvent &event)
+{
+    return event.matches(QKeySequence::Undo) || event.matches(QKeySequence::Redo);
+}
+
 std::unique_ptr<ValueEditor> makeEditor(const QModelIndex &index, EditorListener *listener,
                                         QWidget *parent)
 {

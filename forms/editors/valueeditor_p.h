@@ -12,8 +12,12 @@
 
 #include <memory>
 
+class QKeyEvent;
 class QUndoStack;
 class QWidget;
+
+/// Whether the key is one that the form wants from its editors, to undo or redo a step of its own.
+bool isUndoOrRedo(const QKeyEvent &event);
 
 /// Where editors send what a person does. The rows are those of a KeltoParameterModel.
 class EditorListener
