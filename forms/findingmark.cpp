@@ -10,14 +10,14 @@
 namespace {
 
 constexpr int spacing = 4;
-constexpr int textFlags = Qt::TextWordWrap | Qt::AlignVCenter;
+constexpr int textFlags = Qt::TextWordWrap | Qt::AlignTop;
 
 } // namespace
 
 FindingMark::FindingMark(QWidget *parent)
     : QWidget(parent)
 {
-    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Minimum);
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
 }
@@ -53,7 +53,8 @@ QSize FindingMark::sizeHint() const
 
 QSize FindingMark::minimumSizeHint() const
 {
-    return { iconSize() + spacing + 10 * fontMetrics().averageCharWidth(), iconSize() };
+    const int few = iconSize() + spacing + 10 * fontMetrics().averageCharWidth();
+    return { qMin(few, sizeHint().width()), iconSize() };
 }
 
 int FindingMark::heightForWidth(int width) const
@@ -64,14 +65,14 @@ int FindingMark::heightForWidth(int width) const
 void FindingMark::paintEvent(QPaintEvent * /*event*/)
 {
     QPainter painter(this);
-    const QSize icon(iconSize(), iconSize());
-    const QRect iconRect
-        = QStyle::alignedRect(layoutDirection(), Qt::AlignLeft | Qt::AlignTop, icon, rect());
-    style()->standardIcon(QStyle::SP_MessageBoxWarning, nullptr, this).paint(&painter, iconRect);
-    const int start = iconSize() + spacing;
-    const QRect textRect
-        = QStyle::visualRect(layoutDirection(), rect(), rect().adjusted(start, 0, 0, 0));
+    // Icon and first line have one centre.
+    const int excess = (fontMetrics().height() - iconSize()) / 2;
+    const QRect iconRect(0, qMax(0, excess), iconSize(), iconSize());
+    const QRect textRect = rect().adjusted(iconSize() + spacing, qMax(0, -excess), 0, 0);
+    style()
+        ->standardIcon(QStyle::SP_MessageBoxWarning, nullptr, this)
+        .paint(&painter, QStyle::visualRect(layoutDirection(), rect(), iconRect));
     const int flags = int(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft)) | textFlags;
-    style()->drawItemText(&painter, textRect, flags, palette(), isEnabled(), m_text,
-                          QPalette::WindowText);
+    style()->drawItemText(&painter, QStyle::visualRect(layoutDirection(), rect(), textRect), flags,
+                          palette(), isEnabled(), m_text, QPalette::WindowText);
 }

@@ -31,6 +31,11 @@ QString joined(const QStringList &texts, const QString &separator)
     return filled.join(separator);
 }
 
+QString missingText()
+{
+    return KeltoParameterForm::tr("missing");
+}
+
 /// Whether nothing but the row itself is needed to see what to do.
 bool isPlainAbsence(const QVector<KeltoItemFinding> &findings)
 {
@@ -51,6 +56,10 @@ FormRow::FormRow(const QModelIndex &index, EditorListener *listener, QGridLayout
     field()->setObjectName(index.data(Model::KeyRole).toString());
     m_label->setTextFormat(Qt::PlainText);
     m_label->setBuddy(field());
+    // Beside a table they stand at its top.
+    if (index.data(Model::KindRole) == Model::Table)
+        m_alignment = Qt::AlignLeading | Qt::AlignTop;
+    m_label->setAlignment(m_alignment);
     grid->addWidget(m_label, m_gridRow, LabelColumn);
     grid->addWidget(m_editor->widget(), m_gridRow, EditorColumn);
 }
@@ -70,6 +79,22 @@ QVector<QWidget *> FormRow::tabStops() const
 int FormRow::labelWidth() const
 {
     return m_label->sizeHint().width();
+}
+
+int FormRow::unitWidth() const
+{
+    return m_unit ? m_unit->sizeHint().width() : 0;
+}
+
+void FormRow::alignColumns(QGridLayout *grid, int labelWidth, int unitWidth)
+{
+    // The room for the mark is kept, or editors would change their width while someone types.
+    FindingMark mark(nullptr);
+    mark.setText(missingText());
+    grid->setColumnMinimumWidth(LabelColumn, labelWidth);
+    grid->setColumnMinimumWidth(UnitColumn, unitWidth);
+    grid->setColumnMinimumWidth(MarkColumn, mark.sizeHint().width());
+    grid->setColumnStretch(EditorColumn, 1);
 }
 
 void FormRow::show(const QModelIndex &index)
@@ -96,6 +121,7 @@ void FormRow::showUnit(const QString &unit)
     if (!m_unit) {
         m_unit = new QLabel(m_grid->parentWidget());
         m_unit->setTextFormat(Qt::PlainText);
+        m_unit->setAlignment(m_alignment);
         m_unit->setVisible(m_isVisible);
         m_grid->addWidget(m_unit, m_gridRow, UnitColumn);
     }
@@ -129,7 +155,7 @@ void FormRow::showMark(const QVector<KeltoItemFinding> &findings)
     m_mark->setToolTip(m_finding);
     // A form that is not filled in yet has such a mark in every row: there it takes no line more.
     const bool isBelow = !isPlainAbsence(findings);
-    m_mark->setText(isBelow ? m_finding : KeltoParameterForm::tr("missing"));
+    m_mark->setText(isBelow ? m_finding : missingText());
     if (m_grid->indexOf(m_mark) >= 0 && isBelow == m_isMarkBelow)
         return;
     m_isMarkBelow = isBelow;
@@ -137,7 +163,7 @@ void FormRow::showMark(const QVector<KeltoItemFinding> &findings)
     if (isBelow)
         m_grid->addWidget(m_mark, m_gridRow + 1, EditorColumn, 1, MarkColumn);
     else
-        m_grid->addWidget(m_mark, m_gridRow, MarkColumn);
+        m_grid->addWidget(m_mark, m_gridRow, MarkColumn, Qt::AlignVCenter);
 }
 
 void FormRow::setVisible(bool visible)

@@ -26,8 +26,11 @@ public:
     QWidget *field() const { return m_editor->field(); }
     /// All that Tab goes through, in order.
     QVector<QWidget *> tabStops() const;
-    /// How much room name and symbol take.
+    /// How much room name and symbol take, and the unit.
     int labelWidth() const;
+    int unitWidth() const;
+    /// Gives the columns of @p grid the widths that those of other grids have as well.
+    static void alignColumns(QGridLayout *grid, int labelWidth, int unitWidth);
 
     /// Shows value and texts that the model has now.
     void show(const QModelIndex &index);
@@ -45,6 +48,7 @@ private:
     int m_gridRow;
     std::unique_ptr<ValueEditor> m_editor;
     QLabel *m_label;
+    Qt::Alignment m_alignment = Qt::AlignLeading | Qt::AlignVCenter;
     /// Only where there is one.
     QLabel *m_unit = nullptr;
     FindingMark *m_mark = nullptr;

@@ -118,7 +118,7 @@ void KeltoParameterForm::setAdvancedVisible(bool visible)
 {
     d->isAdvancedVisible = visible;
     d->advanced->setChecked(visible);
-    d->advanced->setArrowType(visible ? Qt::DownArrow : Qt::RightArrow);
+    d->showArrow();
     d->showEveryVisibility();
 }
 
@@ -168,8 +168,11 @@ void KeltoParameterForm::changeEvent(QEvent *event)
         d->followLocale();
         d->showTexts();
         d->model->retranslate();
+        d->alignColumns();
     } else if (event->type() == QEvent::LocaleChange) {
         d->model->setLocale(locale());
+    } else if (event->type() == QEvent::LayoutDirectionChange) {
+        d->showArrow();
     }
 }
 

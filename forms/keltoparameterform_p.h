@@ -44,6 +44,8 @@ public:
     void showEveryVisibility();
     void showFindings();
     void showTexts();
+    void showArrow() const;
+    void alignColumns() const;
     void followLocale();
 
     KeltoParameterForm *q;
@@ -72,7 +74,6 @@ private:
     void build();
     void sortIntoBoxes();
     void fill(Box *box, QWidget *parent);
-    void alignLabels() const;
     void setTabOrder() const;
     void showTitles(int first, int last) const;
     bool isWanted(int row) const;

@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QScrollArea>
+#include <QStyle>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -34,7 +35,6 @@ KeltoParameterFormPrivate::KeltoParameterFormPrivate(KeltoParameterForm *form)
     advanced->setObjectName(QStringLiteral("kelto_advanced"));
     advanced->setCheckable(true);
     advanced->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    advanced->setArrowType(Qt::RightArrow);
     advanced->setAutoRaise(true);
     advanced->hide();
     summary->setObjectName(QStringLiteral("kelto_summary"));
@@ -54,6 +54,7 @@ KeltoParameterFormPrivate::KeltoParameterFormPrivate(KeltoParameterForm *form)
         q->focusParameter(index(link.toInt()).data(Model::KeyRole).toString());
     });
     showTexts();
+    showArrow();
 }
 
 void KeltoParameterFormPrivate::choose(int row, const QVariant &typed)
@@ -149,7 +150,7 @@ void KeltoParameterFormPrivate::build()
     }
     layout->addStretch(1);
     showRows(0, model->rowCount() - 1);
-    alignLabels();
+    alignColumns();
     area->setWidget(contents);
     setTabOrder();
     showEveryVisibility();
@@ -175,21 +176,28 @@ void KeltoParameterFormPrivate::fill(Box *box, QWidget *parent)
 {
     box->widget = new QGroupBox(parent);
     auto *grid = new QGridLayout(box->widget);
-    grid->setColumnStretch(1, 1);
+    grid->setHorizontalSpacing(
+        2
+        * box->widget->style()->pixelMetric(QStyle::PM_LayoutHorizontalSpacing, nullptr,
+                                            box->widget));
     int position = 0;
     for (const int row : box->rows)
         m_rows.at(row) = std::make_unique<FormRow>(index(row), this, grid, position++);
     box->visibleRows = position;
 }
 
-/// Editors of all boxes begin at the same place.
-void KeltoParameterFormPrivate::alignLabels() const
+/// Editors of all boxes begin and end at the same places.
+void KeltoParameterFormPrivate::alignColumns() const
 {
-    int width = 0;
-    for (const auto &row : m_rows)
-        width = qMax(width, row->labelWidth());
+    int labelWidth = 0;
+    int unitWidth = 0;
+    for (const auto &row : m_rows) {
+        labelWidth = qMax(labelWidth, row->labelWidth());
+        unitWidth = qMax(unitWidth, row->unitWidth());
+    }
     for (const Box &box : m_boxes)
-        static_cast<QGridLayout *>(box.widget->layout())->setColumnMinimumWidth(0, width);
+        FormRow::alignColumns(static_cast<QGridLayout *>(box.widget->layout()), labelWidth,
+                              unitWidth);
 }
 
 /// The rows stand in front of what was there before them.
@@ -276,6 +284,13 @@ void KeltoParameterFormPrivate::showTexts()
     search->setAccessibleName(KeltoParameterForm::tr("Search"));
     advanced->setText(KeltoParameterForm::tr("Advanced parameters"));
     summary->setAccessibleName(KeltoParameterForm::tr("Summary"));
+}
+
+/// Points to where more is: down when it is shown, else in the direction of reading.
+void KeltoParameterFormPrivate::showArrow() const
+{
+    const Qt::ArrowType closed = q->isRightToLeft() ? Qt::LeftArrow : Qt::RightArrow;
+    advanced->setArrowType(isAdvancedVisible ? Qt::DownArrow : closed);
 }
 
 /// A program that changes its language changes the default locale as well. Widgets keep the one

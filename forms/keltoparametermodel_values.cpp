@@ -68,6 +68,15 @@ private:
     QVector<QPair<QString, QVariant>> m_others;
 };
 
+/// The sentence without what stands in the row anyway.
+QString briefText(KeltoItemFinding finding)
+{
+    const VParameter &whole = finding.parameter;
+    finding.parameter.set(QVariant(), whole.name(), {}, {}, {}, whole.parameterObjectName(),
+                          whole.isMulti());
+    return finding.text();
+}
+
 bool isSameState(const QVariant &first, const QVariant &second)
 {
     return isSameValue(first, second) || (isEmptyValue(first) && isEmptyValue(second));
@@ -226,7 +235,7 @@ void KeltoParameterModelPrivate::gatherFindings()
         if (row < 0)
             continue;
         QString &text = findingTexts[row];
-        text += (text.isEmpty() ? QString() : QStringLiteral("\n")) + finding.text();
+        text += (text.isEmpty() ? QString() : QStringLiteral("\n")) + briefText(finding);
     }
 }
 

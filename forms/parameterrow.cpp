@@ -30,10 +30,12 @@ Kind kindOf(const VParameter &parameter, bool hasChoices)
     return kinds.value(parameter.parameterObjectName(), Kind::Text);
 }
 
-/// Whether the second of two names is only what the translation of the first gives.
+/// Whether the second of two names is no more than the item's translation of the first, or not
+/// translated yet, as in an item that comes from a file.
 bool isTranslation(const QPair<QString, QString> &names, const KeltoItemHints &hints)
 {
-    return names.second.isEmpty() || names.second == hints.translated(names.first);
+    return names.second.isEmpty() || names.second == names.first
+        || names.second == hints.translated(names.first);
 }
 
 QString shownBool(const QString &stored)

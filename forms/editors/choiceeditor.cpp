@@ -16,8 +16,10 @@ ChoiceBox::ChoiceBox(QWidget *parent)
     : QComboBox(parent)
 {
     setFocusPolicy(Qt::StrongFocus);
-    // The longest of many choices is not to make the form wide.
-    setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    // It is as wide as its choices where there is room, and no long one keeps the form from
+    // becoming narrow.
+    setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    setMinimumContentsLength(6);
 }
 
 void ChoiceBox::keyPressEvent(QKeyEvent *event)
@@ -76,12 +78,8 @@ void ChoiceEditor::offer(const Choices &choices)
         return;
     m_offered = choices;
     m_box->clear();
-    int longest = 0;
-    for (const auto &choice : choices) {
+    for (const auto &choice : choices)
         m_box->addItem(choice.second, choice.first);
-        longest = qMax(longest, choice.second.size());
-    }
-    m_box->setMinimumContentsLength(qMin(longest, 30));
 }
 
 void ChoiceEditor::show(const QModelIndex &index)
