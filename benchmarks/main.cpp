@@ -9,6 +9,8 @@
 
 #include <Kelto/VIniSettings>
 
+#include <QApplication>
+
 #include <iostream>
 
 #include <malloc.h>
@@ -46,6 +48,12 @@ int main(int argc, char **argv)
     addFileRows();
     addItemRows();
     addHintRows();
+#ifdef KELTO_BENCHMARK_FORMS
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
+    addFormRows();
+#endif
     const int result = runRows(argc, argv);
     printMemory();
     return result;

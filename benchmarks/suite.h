@@ -130,6 +130,8 @@ void addFileRows();
 void addItemRows();
 /// The hints of module items, their translation, and what is missing.
 void addHintRows();
+/// Forms for parameters. They need a QApplication.
+void addFormRows();
 
 /// Runs the rows and prints them as a table.
 /// @return the exit code: 1 when an answer was wrong or nothing was run, 2 for an unknown flag.

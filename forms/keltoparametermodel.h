@@ -84,7 +84,7 @@ public:
         ChoicesRole, ///< "choices": a list of maps with "value" and "label".
         FileFiltersRole, ///< "fileFilters".
         HelpRole, ///< "help".
-        FindingRole, ///< "finding": what is wrong, in sentences, one on each line.
+        FindingRole, ///< "finding": what is wrong, in short sentences, one on each line.
         AdvancedRole, ///< "advanced": shown on demand only.
         OptionalRole, ///< "optional": may stay empty.
         CountsRole, ///< "counts": whether it counts beside the other values.

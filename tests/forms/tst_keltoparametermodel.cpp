@@ -382,7 +382,7 @@ void tst_KeltoParameterModel::findsWhatIsWrong()
              QStringList({ "Attribute/Length:" + QString::number(KeltoItemFinding::OutsideLimits),
                            "Attribute/Force:" + QString::number(KeltoItemFinding::NotANumber) }));
     QCOMPARE(valueOf(model, "Force").data(Model::FindingRole).toString(),
-             model.findings().at(1).text());
+             "Point load: \"much\" is not a number.");
     // A value that could not be meant for another parameter is none of its concern.
     model.setValues({ { "Attribute/length", "2" }, { "Attribute/Case", "none" } });
     QCOMPARE(kindsOfFindings(model),
