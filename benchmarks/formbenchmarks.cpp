@@ -96,6 +96,15 @@ constexpr auto texts = [](const Window &window) {
 
 } // namespace
 
+/// Values of none of the parameters, so that each is marked as missing.
+Filled empty(int size)
+{
+    Filled input = filled(size);
+    for (auto &value : input.values)
+        value = { QString(), QString() };
+    return input;
+}
+
 void addFormRows()
 {
     const Row row { "form of n parameters, built and filled", { 100, 250, 500, 1000, 2000 } };
@@ -104,4 +113,7 @@ void addFormRows()
     const Row shownRow { "the same, and shown", row.sizes };
     compare(shownRow, texts, library(filled, shown(form)),
             baseline("bare QLabel and QLineEdit (at most 2)", 2000, filled, shown(bareWidgets)));
+    const Row emptyRow { "form of n missing values, built and shown", row.sizes };
+    compare(emptyRow, texts, library(empty, shown(form)),
+            baseline("bare QLabel and QLineEdit (at most 2)", 2000, empty, shown(bareWidgets)));
 }

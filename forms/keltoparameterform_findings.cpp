@@ -27,6 +27,7 @@ void KeltoParameterFormPrivate::showFindings()
         if (row >= 0)
             findingsOfRow[row].append(finding);
     }
+    const LayoutPause pause(this);
     for (int row = 0; row < findingsOfRow.size(); ++row)
         m_rows.at(row)->showFindings(index(row), findingsOfRow.at(row));
     summary->setText(summaryText());

@@ -69,6 +69,20 @@ private:
         int visibleRows = 0;
     };
 
+    /// Holds the layouts back while many widgets are shown or hidden: each of them would lay out all
+    /// of them.
+    class LayoutPause
+    {
+    public:
+        explicit LayoutPause(const KeltoParameterFormPrivate *form);
+        ~LayoutPause();
+
+    private:
+        void setEnabled(bool enabled) const;
+
+        const KeltoParameterFormPrivate *m_form;
+    };
+
     void dropRows();
     void connectModel();
     void build();

@@ -20,6 +20,25 @@
 
 using Model = KeltoParameterModel;
 
+KeltoParameterFormPrivate::LayoutPause::LayoutPause(const KeltoParameterFormPrivate *form)
+    : m_form(form)
+{
+    setEnabled(false);
+}
+
+KeltoParameterFormPrivate::LayoutPause::~LayoutPause()
+{
+    setEnabled(true);
+}
+
+void KeltoParameterFormPrivate::LayoutPause::setEnabled(bool enabled) const
+{
+    if (const QWidget *contents = m_form->area->widget())
+        contents->layout()->setEnabled(enabled);
+    for (const Box &box : m_form->m_boxes)
+        box.widget->layout()->setEnabled(enabled);
+}
+
 KeltoParameterFormPrivate::KeltoParameterFormPrivate(KeltoParameterForm *form)
     : q(form)
     , search(new QLineEdit(form))
@@ -106,6 +125,8 @@ void KeltoParameterFormPrivate::setModel(KeltoParameterModel *newModel)
 void KeltoParameterFormPrivate::dropRows()
 {
     const auto rows = std::make_shared<Rows>(std::exchange(m_rows, Rows()));
+    m_boxes.clear();
+    m_boxOfRow.clear();
     QWidget *contents = area->takeWidget();
     if (!contents)
         return;
@@ -158,8 +179,6 @@ void KeltoParameterFormPrivate::build()
 
 void KeltoParameterFormPrivate::sortIntoBoxes()
 {
-    m_boxes.clear();
-    m_boxOfRow.clear();
     QHash<QString, int> boxOfGroup;
     for (int row = 0; row < model->rowCount(); ++row) {
         const QString group = index(row).data(Model::GroupRole).toString();
@@ -220,6 +239,7 @@ void KeltoParameterFormPrivate::setTabOrder() const
 
 void KeltoParameterFormPrivate::showRows(int first, int last)
 {
+    const LayoutPause pause(this);
     for (int row = first; row <= last; ++row) {
         if (row != m_typedRow)
             m_rows.at(row)->show(index(row));
@@ -270,6 +290,7 @@ void KeltoParameterFormPrivate::showVisibility(int row)
 
 void KeltoParameterFormPrivate::showEveryVisibility()
 {
+    const LayoutPause pause(this);
     bool hasAdvanced = false;
     for (int row = 0; row < model->rowCount(); ++row) {
         showVisibility(row);

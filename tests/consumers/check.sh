@@ -2,7 +2,8 @@
 # SPDX-FileCopyrightText: The Kelto developers
 # SPDX-License-Identifier: MIT
 
-# Checks the installed package from outside.
+# Checks the installed package from outside. The second library, with forms, is checked
+# where it is built.
 # check.sh CHECK SOURCE-DIR BUILD-DIR WORK-DIR [ARGUMENT...]
 # Ends with 77 where a tool is missing.
 
@@ -44,8 +45,8 @@ files_below() {
 check_components() {
     local parts=$work_dir/components
     cmake --install "$build_dir" --prefix "$parts" --component Runtime >/dev/null
-    if files_below "$parts" | grep -vE '/libkelto\.so\.1(\.[0-9]+)*$'; then
-        fail "the component Runtime holds the files above, and should hold the library alone."
+    if files_below "$parts" | grep -vE '/libkelto(-forms)?\.so\.1(\.[0-9]+)*$'; then
+        fail "the component Runtime holds the files above, and should hold the libraries alone."
     fi
     cmake --install "$build_dir" --prefix "$parts" --component Development >/dev/null
     diff <(files_below "$work_dir/prefix") <(files_below "$parts") ||
@@ -118,11 +119,88 @@ build_with_qmake() {
     make
 }
 
+write_forms_host() {
+    rm -rf "$work_dir/$what"
+    mkdir -p "$work_dir/$what"
+    cd "$work_dir/$what"
+    cp "$source_dir/tests/consumers/forms.cpp" main.cpp
+}
+
+# Runs ./host, which needs both libraries.
+run_forms_host() {
+    LD_LIBRARY_PATH=$(library_dir) QT_QPA_PLATFORM=offscreen timeout 60 ./host >output ||
+        fail "the host failed."
+    diff <(printf '%s\n' Attribute/Length=5 Unit/Length=mm) output ||
+        fail "the host printed what is on the right."
+}
+
+build_forms_with_cmake() {
+    cat >CMakeLists.txt <<EOF
+cmake_minimum_required(VERSION 3.16)
+project(host LANGUAGES CXX)
+find_package(Kelto 1.1 REQUIRED COMPONENTS Forms)
+add_executable(host main.cpp)
+target_link_libraries(host PRIVATE Kelto::Forms)
+EOF
+    configure . build -DCMAKE_PREFIX_PATH="$prefix"
+    cmake --build build
+    cp build/host host
+}
+
+build_forms_with_pkgconfig() {
+    need pkg-config
+    PKG_CONFIG_PATH=$(library_dir)/pkgconfig
+    export PKG_CONFIG_PATH
+    # shellcheck disable=SC2046 # the flags are words
+    "${CXX:-c++}" main.cpp -o host $(pkg-config --cflags --libs kelto-forms)
+    [ "$(pkg-config --modversion kelto-forms)" = "$(pkg-config --modversion kelto)" ] ||
+        fail "the versions of the two libraries differ."
+}
+
+build_forms_with_qmake() {
+    need qmake make pkg-config g++
+    PKG_CONFIG_PATH=$(library_dir)/pkgconfig
+    export PKG_CONFIG_PATH
+    cat >host.pro <<EOF
+SOURCES += main.cpp
+TARGET = host
+CONFIG += c++17 link_pkgconfig
+PKGCONFIG += kelto-forms
+EOF
+    QT_SELECT=5 qmake host.pro
+    make
+}
+
+# A component that is not there is not found, and without REQUIRED the caller is told so.
+check_unknown_component() {
+    rm -rf unknown
+    mkdir unknown
+    cat >unknown/CMakeLists.txt <<EOF
+cmake_minimum_required(VERSION 3.16)
+project(host LANGUAGES CXX)
+find_package(Kelto 1.1 QUIET COMPONENTS Forms Plots)
+if(Kelto_FOUND OR NOT Kelto_Forms_FOUND OR Kelto_Plots_FOUND)
+    message(FATAL_ERROR "Kelto was found with a component that does not exist.")
+endif()
+find_package(Kelto 1.1 QUIET COMPONENTS Forms OPTIONAL_COMPONENTS Plots)
+if(NOT Kelto_FOUND OR NOT TARGET Kelto::Forms)
+    message(FATAL_ERROR "Kelto was not found for lack of an optional component.")
+endif()
+find_package(Kelto 1.2 QUIET)
+if(Kelto_FOUND)
+    message(FATAL_ERROR "A later version than the installed one was found.")
+endif()
+EOF
+    configure unknown unknown/build -DCMAKE_PREFIX_PATH="$prefix"
+}
+
+# check_symbols NAME EXPORTED...
 check_symbols() {
     need objdump nm
-    local library
-    library=$(library_dir)/libkelto.so
-    objdump -p "$library" | grep -q 'SONAME *libkelto\.so\.1$' || fail "the SONAME is not libkelto.so.1."
+    local name=$1 library
+    shift
+    library=$(library_dir)/$name.so
+    objdump -p "$library" | grep -q "SONAME *${name}\\.so\\.1\$" || fail "the SONAME is not $name.so.1."
     if objdump -p "$library" | grep -E 'R(UN)?PATH'; then
         fail "the library holds the search path above, and should hold none."
     fi
@@ -155,6 +233,9 @@ project(outside LANGUAGES CXX)
 add_subdirectory("$source_dir" kelto)
 add_executable(outside outside.cpp)
 target_link_libraries(outside PRIVATE Kelto::Kelto)
+if(TARGET Kelto::Forms)
+    target_link_libraries(outside PRIVATE Kelto::Forms)
+endif()
 install(FILES CMakeLists.txt DESTINATION share/outside)
 EOF
     echo 'int main() { }' >subproject/outside.cpp
@@ -184,7 +265,16 @@ cmake | pkgconfig | qmake)
     "build_with_$what"
     run_host
     ;;
-symbols | headers | subproject | absolute)
+forms_cmake | forms_pkgconfig | forms_qmake)
+    write_forms_host
+    "build_forms_with_${what#forms_}"
+    run_forms_host
+    ;;
+symbols | forms_symbols)
+    cd "$work_dir"
+    check_symbols "$@"
+    ;;
+headers | subproject | absolute | unknown_component)
     cd "$work_dir"
     "check_$what" "$@"
     ;;
