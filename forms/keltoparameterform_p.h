@@ -69,8 +69,8 @@ private:
         int visibleRows = 0;
     };
 
-    /// Holds the layouts back while many widgets are shown or hidden: each of them would lay out all
-    /// of them.
+    /// Holds the layouts back while many widgets are shown or hidden: each of them would lay out
+    /// all of them.
     class LayoutPause
     {
     public:

@@ -14,8 +14,8 @@
 int main(int argc, char *argv[])
 {
     const QApplication application(argc, argv);
-    KeltoParameterForm form({ VParameter(2.0, QStringLiteral("Length"), QStringLiteral("mm"),
-                                         QStringLiteral("L")) });
+    KeltoParameterForm form(
+        { VParameter(2.0, QStringLiteral("Length"), QStringLiteral("mm"), QStringLiteral("L")) });
     const KeltoResultView view;
     qobject_cast<QLineEdit *>(form.editor(QStringLiteral("Length")))->setText(QStringLiteral("5"));
     const KeltoParameterModel *model = form.model();
