@@ -116,23 +116,31 @@ bool KeltoParameterForm::isSummaryVisible() const
 
 void KeltoParameterForm::setAdvancedVisible(bool visible)
 {
-    d->isAdvancedVisible = visible;
+    if (std::exchange(d->isAdvancedVisible, visible) == visible)
+        return;
     d->advanced->setChecked(visible);
     d->showArrow();
     d->showEveryVisibility();
+    Q_EMIT advancedVisibleChanged(visible);
 }
 
 void KeltoParameterForm::setSearchVisible(bool visible)
 {
+    if (isSearchVisible() == visible)
+        return;
     d->search->setVisible(visible);
     // A search that cannot be seen is not to hide anything.
     if (!visible)
         d->search->clear();
+    Q_EMIT searchVisibleChanged(visible);
 }
 
 void KeltoParameterForm::setSummaryVisible(bool visible)
 {
+    if (isSummaryVisible() == visible)
+        return;
     d->summary->setVisible(visible);
+    Q_EMIT summaryVisibleChanged(visible);
 }
 
 void KeltoParameterForm::focusParameter(QString key)
@@ -179,9 +187,9 @@ void KeltoParameterForm::changeEvent(QEvent *event)
 void KeltoParameterForm::keyPressEvent(QKeyEvent *event)
 {
     if (event->matches(QKeySequence::Undo))
-        d->model->undoStack()->undo();
+        d->step(&QUndoStack::undo);
     else if (event->matches(QKeySequence::Redo))
-        d->model->undoStack()->redo();
+        d->step(&QUndoStack::redo);
     else
         QWidget::keyPressEvent(event);
 }

@@ -35,9 +35,12 @@ class KeltoParameterModel;
 class KELTO_FORMS_EXPORT KeltoParameterForm : public QWidget
 {
     Q_OBJECT
-    Q_PROPERTY(bool advancedVisible READ isAdvancedVisible WRITE setAdvancedVisible)
-    Q_PROPERTY(bool searchVisible READ isSearchVisible WRITE setSearchVisible)
-    Q_PROPERTY(bool summaryVisible READ isSummaryVisible WRITE setSummaryVisible)
+    Q_PROPERTY(bool advancedVisible READ isAdvancedVisible WRITE setAdvancedVisible NOTIFY
+                   advancedVisibleChanged)
+    Q_PROPERTY(
+        bool searchVisible READ isSearchVisible WRITE setSearchVisible NOTIFY searchVisibleChanged)
+    Q_PROPERTY(bool summaryVisible READ isSummaryVisible WRITE setSummaryVisible NOTIFY
+                   summaryVisibleChanged)
 
 public:
     /// A form without parameters.
@@ -88,6 +91,10 @@ Q_SIGNALS:
     /// The same as of the model.
     void edited();
     void completeChanged(bool complete);
+
+    void advancedVisibleChanged(bool visible);
+    void searchVisibleChanged(bool visible);
+    void summaryVisibleChanged(bool visible);
 
 protected:
     /// Keeps the shortcuts to undo and redo from being taken by the window.

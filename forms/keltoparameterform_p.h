@@ -31,6 +31,9 @@ public:
     void finishTyping(int row) override;
     QUndoStack *undoStack() const override { return model->undoStack(); }
 
+    /// Undoes or redoes a step, and brings what it changes into view.
+    void step(void (QUndoStack::*undoOrRedo)());
+
     void setModel(KeltoParameterModel *newModel);
     void setOwnModel(std::unique_ptr<KeltoParameterModel> newModel);
     QModelIndex index(int row) const;
@@ -102,6 +105,7 @@ private:
     int m_session = 1;
     /// The row whose editor just told of a change. It shows the text as it is typed.
     int m_typedRow = -1;
+    bool m_isStepping = false;
 };
 
 #endif

@@ -13,6 +13,7 @@
 #include <QScrollArea>
 #include <QStyle>
 #include <QToolButton>
+#include <QUndoStack>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -97,8 +98,17 @@ void KeltoParameterFormPrivate::finishTyping(int row)
         m_rows.at(row)->show(index(row));
 }
 
+void KeltoParameterFormPrivate::step(void (QUndoStack::*undoOrRedo)())
+{
+    ++m_session;
+    m_isStepping = true;
+    (undoStack()->*undoOrRedo)();
+    m_isStepping = false;
+}
+
 void KeltoParameterFormPrivate::setOwnModel(std::unique_ptr<KeltoParameterModel> newModel)
 {
+    newModel->setLocale(q->locale());
     setModel(newModel.get());
     ownModel = std::move(newModel);
 }
@@ -246,6 +256,8 @@ void KeltoParameterFormPrivate::showRows(int first, int last)
         showVisibility(row);
     }
     showTitles(first, last);
+    if (m_isStepping)
+        area->ensureWidgetVisible(m_rows.at(last)->field());
 }
 
 void KeltoParameterFormPrivate::showTitles(int first, int last) const

@@ -271,8 +271,10 @@ QLocale KeltoParameterModel::locale() const
 
 void KeltoParameterModel::setLocale(QLocale locale)
 {
-    if (std::exchange(d->locale, locale) != locale)
-        d->tellChanged(0, d->rows.size() - 1);
+    if (std::exchange(d->locale, locale) == locale)
+        return;
+    d->tellChanged(0, d->rows.size() - 1);
+    Q_EMIT localeChanged();
 }
 
 void KeltoParameterModel::retranslate()

@@ -49,7 +49,7 @@ class KELTO_FORMS_EXPORT KeltoParameterModel : public QAbstractTableModel
 {
     Q_OBJECT
     Q_PROPERTY(bool complete READ isComplete NOTIFY completeChanged)
-    Q_PROPERTY(QLocale locale READ locale WRITE setLocale)
+    Q_PROPERTY(QLocale locale READ locale WRITE setLocale NOTIFY localeChanged)
 
 public:
     enum Column { NameColumn, SymbolColumn, ValueColumn, UnitColumn, ColumnCount };
@@ -164,6 +164,7 @@ Q_SIGNALS:
     void completeChanged(bool complete);
     /// findings() may give something else than before.
     void findingsChanged();
+    void localeChanged();
 
 private:
     friend class KeltoParameterFormPrivate;

@@ -74,11 +74,16 @@ readme_block() {
         "$source_dir/README.md"
 }
 
-write_host() {
+# An empty directory for a host, which becomes the current one.
+start_host() {
     local host_dir=$work_dir/$what
     rm -rf "$host_dir"
     mkdir -p "$host_dir"
     cd "$host_dir"
+}
+
+write_host() {
+    start_host
     readme_block cpp >main.cpp
     [ -s main.cpp ] || fail "README.md holds no C++ block."
     cat "$source_dir/tests/consumers/acceptdialog.cpp" >>main.cpp
@@ -120,9 +125,7 @@ build_with_qmake() {
 }
 
 write_forms_host() {
-    rm -rf "$work_dir/$what"
-    mkdir -p "$work_dir/$what"
-    cd "$work_dir/$what"
+    start_host
     cp "$source_dir/tests/consumers/forms.cpp" main.cpp
 }
 

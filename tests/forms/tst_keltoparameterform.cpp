@@ -363,6 +363,12 @@ void tst_KeltoParameterForm::followsItsLocale()
     QEvent languageChange(QEvent::LanguageChange);
     QCoreApplication::sendEvent(form.get(), &languageChange);
     QCOMPARE(editorOf<QLineEdit>(*form, "a")->text(), "2,5");
+    // It may come from the window, too.
+    QWidget window;
+    window.setLocale(QLocale(QLocale::German));
+    auto *inner = new Form({ VParameter(plainEntry("a")) }, KeltoItemHints(), &window);
+    inner->setValues({ { "Attribute/a", "2.5" } });
+    QCOMPARE(editorOf<QLineEdit>(*inner, "a")->text(), "2,5");
     form->unsetLocale();
     QLocale::setDefault(QLocale(QLocale::English));
     QCoreApplication::sendEvent(form.get(), &languageChange);
@@ -443,8 +449,10 @@ void tst_KeltoParameterForm::hidesAdvancedParameters()
     QCOMPARE(boxTitles(*form), QStringList("Size"));
     auto *button = form->findChild<QToolButton *>("kelto_advanced");
     QVERIFY(button->isVisible());
+    QSignalSpy changed(form.get(), &Form::advancedVisibleChanged);
     QTest::keyClick(button, Qt::Key_Space);
     QVERIFY(form->isAdvancedVisible());
+    QCOMPARE(changed.count(), 1);
     QCOMPARE(boxTitles(*form), QStringList({ "Size", "Other" }));
     QVERIFY(form->editor("b")->isVisible());
     form->setAdvancedVisible(false);
@@ -526,6 +534,12 @@ void tst_KeltoParameterForm::focusesParameters()
     form->focusParameter("p99");
     QVERIFY(form->editor("p99")->hasFocus());
     QVERIFY(!form->editor("p99")->visibleRegion().isEmpty());
+    QTest::keyClicks(form->editor("p99"), "5");
+    form->focusParameter("p07");
+    QTest::keyClick(form->editor("p07"), Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(editorOf<QLineEdit>(*form, "p99")->text(), "");
+    QVERIFY(!form->editor("p99")->visibleRegion().isEmpty());
+    form->focusParameter("p99");
     form->focusParameter("unknown");
     QVERIFY(form->editor("p99")->hasFocus());
 
