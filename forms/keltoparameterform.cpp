@@ -56,9 +56,8 @@ KeltoParameterForm::KeltoParameterForm(KeltoParameterModel *model, QWidget *pare
 
 KeltoParameterForm::~KeltoParameterForm()
 {
-    // Neither the model nor an editor is to call what is gone already.
     d->model->disconnect(this);
-    delete d->area;
+    d->deleteRows();
 }
 
 KeltoParameterModel *KeltoParameterForm::model() const

@@ -62,7 +62,8 @@ QString KeltoParameterFormPrivate::summaryText() const
 QString KeltoParameterFormPrivate::links(const QVector<int> &linkedRows) const
 {
     QStringList names;
-    for (const int row : linkedRows.mid(0, namedAtMost))
+    const QVector<int> named = linkedRows.mid(0, namedAtMost);
+    for (const int row : named)
         names.append(QStringLiteral("<a href=\"%1\">%2</a>")
                          .arg(QString::number(row),
                               index(row).data(Model::NameRole).toString().toHtmlEscaped()));

@@ -36,6 +36,7 @@ public:
 
     void setModel(KeltoParameterModel *newModel);
     void setOwnModel(std::unique_ptr<KeltoParameterModel> newModel);
+    void deleteRows();
     QModelIndex index(int row) const;
     /// The editor of a row; nullptr where there is none.
     QWidget *field(int row) const;

@@ -131,6 +131,13 @@ void KeltoParameterFormPrivate::setModel(KeltoParameterModel *newModel)
         q, [this] { showFindings(); }, Qt::QueuedConnection);
 }
 
+/// An editor that is deleted loses the focus first, and finds no row any more to tell of it.
+void KeltoParameterFormPrivate::deleteRows()
+{
+    const Rows rows = std::exchange(m_rows, Rows());
+    delete area->takeWidget();
+}
+
 /// Leaves the editors alive for as long as one of them may be telling of a change.
 void KeltoParameterFormPrivate::dropRows()
 {

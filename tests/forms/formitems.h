@@ -20,7 +20,7 @@ using Entries = QVector<QPair<QString, QVariant>>;
 inline QStringList plainEntry(const QString &key, const QString &objectName = "float",
                               const QString &subGroup = "Size")
 {
-    return { subGroup, key, objectName, "false", "mm", "", key.left(1), key, subGroup };
+    return { subGroup, key, objectName, "false", "mm", "", key.mid(0, 1), key, subGroup };
 }
 
 inline QStringList multiEntry(const QString &key, const QString &objectName)
