@@ -272,6 +272,9 @@ void tst_KeltoParameterModel::keepsWhatIsNotEdited()
     QFETCH(QVariant, value);
     Model *model = modelOf(plainEntry("a", objectName), {}, this);
     model->setValues({ { "Attribute/a", value } });
+    // Another type is another value, however equal.
+    model->setValues({ { "Attribute/a", value.toString() } });
+    model->setValues({ { "Attribute/a", value } });
     // A view writes back what it shows.
     const QModelIndex index = valueOf(*model, "a");
     QVERIFY(type(model, "a", index.data(Qt::EditRole)));
@@ -398,6 +401,7 @@ void tst_KeltoParameterModel::findsTheSameWithoutAnItem()
     const QVector<Entries> lists { {},
                                    { { "Attribute/Length", "0.5" }, { "Attribute/Case", "end" } },
                                    { { "Attribute/Case", "none" }, { "Attribute/Length", "x" } },
+                                   { { "Attribute/Case", "none" }, { "Attribute/Length", "99" } },
                                    { { "Attribute/Case", "side" }, { "Attribute/Depth", "-1" } } };
     for (const Entries &list : lists) {
         model.setValues(list);
