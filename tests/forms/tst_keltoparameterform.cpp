@@ -1,34 +1,19 @@
 // SPDX-FileCopyrightText: The Kelto developers
 // SPDX-License-Identifier: MIT
 
-#include "forms/formitems.h"
+#include "forms/shownform.h"
 
-#include <Kelto/Forms/KeltoParameterForm>
-#include <Kelto/Forms/KeltoParameterModel>
-
-#include <QColorDialog>
 #include <QComboBox>
-#include <QFileDialog>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMenu>
 #include <QPointer>
 #include <QScrollArea>
 #include <QSignalSpy>
-#include <QTest>
-#include <QTimer>
 #include <QToolButton>
 #include <QTranslator>
 #include <QUndoStack>
 #include <QVBoxLayout>
-
-#include <memory>
-
-using Form = KeltoParameterForm;
-using Model = KeltoParameterModel;
-
-Q_DECLARE_METATYPE(Entries)
 
 namespace {
 
@@ -44,30 +29,6 @@ public:
     }
     bool isEmpty() const override { return false; }
 };
-
-std::unique_ptr<Form> shownForm(const AUTH_INF &item)
-{
-    const AUTH_SET registry = registryOf(item);
-    auto form = std::make_unique<Form>(&registry, "Statics", "Bend");
-    form->resize(500, 600);
-    form->show();
-    return QTest::qWaitForWindowActive(form.get()) ? std::move(form) : nullptr;
-}
-
-QVariant stored(const Form &form, const QString &key)
-{
-    const Entries values = form.values();
-    for (const auto &value : values) {
-        if (value.first == "Attribute/" + key)
-            return value.second;
-    }
-    return QVariant();
-}
-
-template <typename Editor> Editor *editorOf(const Form &form, const QString &key)
-{
-    return qobject_cast<Editor *>(form.findChild<QWidget *>(key));
-}
 
 QLabel *labelOf(const Form &form, const QString &key)
 {
@@ -121,27 +82,12 @@ QStringList boxTitles(const Form &form)
 
 } // namespace
 
-/// The form, used as a person uses it.
+/// The form around its editors.
 class tst_KeltoParameterForm : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { QLocale::setDefault(QLocale::c()); }
-    void cleanup() { QLocale::setDefault(QLocale::c()); }
-
-    void editsEachKind_data();
-    void editsEachKind();
-    void showsEachKind_data();
-    void showsEachKind();
-    void choosesWithKeys();
-    void offersNothingForOptionalChoices();
-    void leavesChoicesToTheFocusedWheel();
-    void browsesForFiles_data();
-    void browsesForFiles();
-    void picksColours();
-    void typesNumbersOfTheLocale();
-    void followsItsLocale();
     void laysOutBoxesAndRows();
     void explainsItsEditorsToEveryone();
     void goesThroughEverythingByTab();
@@ -151,9 +97,6 @@ private Q_SLOTS:
     void saysWhatIsWrongAtTheRow();
     void summarizesWhatIsMissing();
     void focusesParameters();
-    void undoesWhatIsTypedAsOne();
-    void undoesWithinTheWholeForm();
-    void offersUndoOfTheFormInMenus();
     void followsTheLanguage();
     void isMirroredFromRightToLeft();
     void showsModels();
@@ -162,218 +105,6 @@ private Q_SLOTS:
     void readsNamesAsPlainTexts();
     void isEmptyWithoutParameters();
 };
-
-void tst_KeltoParameterForm::editsEachKind_data()
-{
-    QTest::addColumn<QString>("objectName");
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QVariant>("stored");
-    QTest::newRow("number") << "float"
-                            << "-2.50e3" << QVariant("-2.50e3");
-    QTest::newRow("no number") << "double"
-                               << "2.5m" << QVariant("2.5m");
-    QTest::newRow("whole number") << "int"
-                                  << "7" << QVariant("7");
-    QTest::newRow("text") << "text"
-                          << "a, b" << QVariant("a, b");
-    QTest::newRow("unknown word") << "tensor"
-                                  << "t" << QVariant("t");
-    QTest::newRow("file") << "file"
-                          << "/a" << QVariant("/a");
-    QTest::newRow("new file") << "newfile"
-                              << "/b" << QVariant("/b");
-    QTest::newRow("directory") << "directory"
-                               << "/c" << QVariant("/c");
-    QTest::newRow("colour") << "color"
-                            << "#102030" << QVariant("#102030");
-}
-
-void tst_KeltoParameterForm::editsEachKind()
-{
-    QFETCH(QString, objectName);
-    QFETCH(QString, typed);
-    const auto form = shownForm(beam({ plainEntry("a.b", objectName) }));
-    auto *line = editorOf<QLineEdit>(*form, "a.b");
-    QVERIFY(line);
-    QCOMPARE(form->editor("a.b"), line);
-    QSignalSpy edited(form.get(), &Form::edited);
-    line->setFocus();
-    QTest::keyClicks(line, typed);
-    QTest::keyClick(line, Qt::Key_Return);
-    QCOMPARE(line->text(), typed);
-    QTEST(stored(*form, "a.b"), "stored");
-    QCOMPARE(edited.count(), typed.size());
-    line->selectAll();
-    QTest::keyClick(line, Qt::Key_Delete);
-    QCOMPARE(stored(*form, "a.b"), QVariant());
-}
-
-void tst_KeltoParameterForm::showsEachKind_data()
-{
-    QTest::addColumn<QString>("objectName");
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<QString>("shown");
-    QTest::newRow("double") << "float" << QVariant(0.25) << "0.25";
-    QTest::newRow("no number") << "float" << QVariant("12 mm") << "12 mm";
-    QTest::newRow("yes") << "bool" << QVariant(true) << "Yes";
-    QTest::newRow("no") << "bool" << QVariant("false") << "No";
-    QTest::newRow("neither") << "bool" << QVariant("maybe") << "maybe";
-    QTest::newRow("not answered") << "bool" << QVariant() << "";
-    QTest::newRow("colour") << "color" << QVariant("red") << "red";
-}
-
-// Showing is no editing: what comes out is what came in.
-void tst_KeltoParameterForm::showsEachKind()
-{
-    QFETCH(QString, objectName);
-    QFETCH(QVariant, value);
-    const auto form = shownForm(beam({ plainEntry("a", objectName) }));
-    QSignalSpy edited(form.get(), &Form::edited);
-    form->setValues({ { "Attribute/a", value } });
-    QWidget *editor = form->editor("a");
-    QTEST(editor->property(qobject_cast<QComboBox *>(editor) ? "currentText" : "text").toString(),
-          "shown");
-    editor->setFocus();
-    QTest::keyClick(editor, Qt::Key_Tab);
-    QCOMPARE(stored(*form, "a"), value);
-    QCOMPARE(stored(*form, "a").userType(), value.userType());
-    QCOMPARE(edited.count(), 0);
-}
-
-void tst_KeltoParameterForm::choosesWithKeys()
-{
-    const auto form = shownForm(caseBeam());
-    auto *box = editorOf<QComboBox>(*form, "Case");
-    QVERIFY(box);
-    QCOMPARE(box->currentIndex(), -1);
-    QTest::keyClick(box, Qt::Key_Down);
-    QCOMPARE(stored(*form, "Case"), QVariant("none"));
-    QTest::keyClicks(box, "At");
-    QCOMPARE(stored(*form, "Case"), QVariant("end"));
-    // What is stored and no choice is kept, until another is chosen.
-    form->setValues({ { "Attribute/Case", "side" } });
-    QCOMPARE(box->currentText(), "side");
-    QCOMPARE(box->count(), 3);
-    QTest::keyClick(box, Qt::Key_Home);
-    QCOMPARE(stored(*form, "Case"), QVariant("none"));
-    QCOMPARE(box->count(), 2);
-}
-
-void tst_KeltoParameterForm::offersNothingForOptionalChoices()
-{
-    const auto form = shownForm(beam({ plainEntry("a", "bool") }, { { "Optional.a", "true" } }));
-    auto *box = editorOf<QComboBox>(*form, "a");
-    QVERIFY(box);
-    QTest::keyClick(box, Qt::Key_End);
-    QCOMPARE(stored(*form, "a"), QVariant("false"));
-    QTest::keyClick(box, Qt::Key_Home);
-    QCOMPARE(stored(*form, "a"), QVariant(""));
-}
-
-void tst_KeltoParameterForm::leavesChoicesToTheFocusedWheel()
-{
-    const auto form = shownForm(caseBeam());
-    auto *box = editorOf<QComboBox>(*form, "Case");
-    box->setCurrentIndex(0);
-    form->editor("Length")->setFocus();
-    const auto turn = [box] {
-        QWheelEvent event(QPointF(5, 5), box->mapToGlobal(QPointF(5, 5).toPoint()), QPoint(),
-                          QPoint(0, -120), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-        QCoreApplication::sendEvent(box, &event);
-    };
-    turn();
-    QCOMPARE(box->currentIndex(), 0);
-    box->setFocus();
-    turn();
-    QCOMPARE(box->currentIndex(), 1);
-}
-
-void tst_KeltoParameterForm::browsesForFiles_data()
-{
-    QTest::addColumn<QString>("objectName");
-    QTest::addColumn<QFileDialog::AcceptMode>("acceptMode");
-    QTest::addColumn<QFileDialog::FileMode>("fileMode");
-    QTest::newRow("file") << "file" << QFileDialog::AcceptOpen << QFileDialog::ExistingFile;
-    QTest::newRow("new file") << "newfile" << QFileDialog::AcceptSave << QFileDialog::AnyFile;
-    QTest::newRow("directory") << "directory" << QFileDialog::AcceptOpen << QFileDialog::Directory;
-}
-
-void tst_KeltoParameterForm::browsesForFiles()
-{
-    QFETCH(QString, objectName);
-    const auto form = shownForm(
-        beam({ plainEntry("a", objectName) }, { { "Files.a", "Tables (*.csv);;All (*)" } }));
-    auto *button = form->findChild<QToolButton *>("kelto_browse");
-    QVERIFY(button);
-    QCOMPARE(button->accessibleName(), "Browse for a");
-    button->click();
-    auto *dialog = form->findChild<QFileDialog *>();
-    QVERIFY(dialog);
-    QTEST(dialog->acceptMode(), "acceptMode");
-    QTEST(dialog->fileMode(), "fileMode");
-    QCOMPARE(dialog->nameFilters(), QStringList({ "Tables (*.csv)", "All (*)" }));
-    Q_EMIT dialog->fileSelected("/chosen/path");
-    QCOMPARE(stored(*form, "a"), QVariant("/chosen/path"));
-    QCOMPARE(editorOf<QLineEdit>(*form, "a")->text(), "/chosen/path");
-}
-
-void tst_KeltoParameterForm::picksColours()
-{
-    const auto form = shownForm(beam({ plainEntry("a", "color") }));
-    form->setValues({ { "Attribute/a", "#00ff00" } });
-    form->findChild<QToolButton *>("kelto_browse")->click();
-    auto *dialog = form->findChild<QColorDialog *>();
-    QVERIFY(dialog);
-    QCOMPARE(dialog->currentColor(), QColor(0, 255, 0));
-    Q_EMIT dialog->colorSelected(QColor(255, 0, 16));
-    QCOMPARE(stored(*form, "a"), QVariant("#ff0010"));
-}
-
-void tst_KeltoParameterForm::typesNumbersOfTheLocale()
-{
-    QLocale::setDefault(QLocale(QLocale::German));
-    const auto form = shownForm(beam({ plainEntry("a"), plainEntry("b") }));
-    auto *line = editorOf<QLineEdit>(*form, "a");
-    line->setFocus();
-    QTest::keyClicks(line, "2,50");
-    QCOMPARE(stored(*form, "a"), QVariant("2.50"));
-    line->selectAll();
-    QTest::keyClicks(line, "1.234");
-    QCOMPARE(line->text(), "1.234");
-    // Not until it is left does the line show how it was understood.
-    QTest::keyClick(line, Qt::Key_Tab);
-    QCOMPARE(line->text(), "1,234");
-    QCOMPARE(stored(*form, "a"), QVariant("1.234"));
-    line->setFocus();
-    line->selectAll();
-    QTest::keyClicks(line, "1.234,5");
-    QTest::keyClick(line, Qt::Key_Tab);
-    QCOMPARE(line->text(), "1.234,5");
-    QCOMPARE(form->findings().constFirst().kind, KeltoItemFinding::NotANumber);
-}
-
-void tst_KeltoParameterForm::followsItsLocale()
-{
-    const auto form = shownForm(beam({ plainEntry("a") }));
-    form->setValues({ { "Attribute/a", "2.5" } });
-    form->setLocale(QLocale(QLocale::French));
-    QCOMPARE(editorOf<QLineEdit>(*form, "a")->text(), "2,5");
-    QCOMPARE(stored(*form, "a"), QVariant("2.5"));
-    // A locale that was set is not changed by another language of the program.
-    QEvent languageChange(QEvent::LanguageChange);
-    QCoreApplication::sendEvent(form.get(), &languageChange);
-    QCOMPARE(editorOf<QLineEdit>(*form, "a")->text(), "2,5");
-    // It may come from the window, too.
-    QWidget window;
-    window.setLocale(QLocale(QLocale::German));
-    auto *inner = new Form({ VParameter(plainEntry("a")) }, KeltoItemHints(), &window);
-    inner->setValues({ { "Attribute/a", "2.5" } });
-    QCOMPARE(editorOf<QLineEdit>(*inner, "a")->text(), "2,5");
-    form->unsetLocale();
-    QLocale::setDefault(QLocale(QLocale::English));
-    QCoreApplication::sendEvent(form.get(), &languageChange);
-    QCOMPARE(editorOf<QLineEdit>(*form, "a")->text(), "2.5");
-}
 
 void tst_KeltoParameterForm::laysOutBoxesAndRows()
 {
@@ -547,60 +278,6 @@ void tst_KeltoParameterForm::focusesParameters()
     conditional->editor("Length")->setFocus();
     conditional->focusParameter("Force");
     QVERIFY(conditional->editor("Length")->hasFocus());
-}
-
-void tst_KeltoParameterForm::undoesWhatIsTypedAsOne()
-{
-    const auto form = shownForm(beam({ plainEntry("a"), plainEntry("b") }));
-    auto *line = editorOf<QLineEdit>(*form, "a");
-    line->setFocus();
-    QTest::keyClicks(line, "12");
-    QTest::keyClick(line, Qt::Key_Return);
-    QTest::keyClicks(line, "34");
-    QCOMPARE(form->model()->undoStack()->count(), 2);
-    QTest::keyClick(line, Qt::Key_Z, Qt::ControlModifier);
-    QCOMPARE(line->text(), "12");
-    QTest::keyClick(line, Qt::Key_Z, Qt::ControlModifier);
-    QCOMPARE(line->text(), "");
-    QTest::keyClick(line, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
-    QCOMPARE(line->text(), "12");
-    QCOMPARE(stored(*form, "a"), QVariant("12"));
-    // Typing there and back again is no step.
-    QTest::keyClick(form->editor("b"), Qt::Key_5);
-    QTest::keyClick(form->editor("b"), Qt::Key_Backspace);
-    QCOMPARE(form->model()->undoStack()->count(), 1);
-}
-
-void tst_KeltoParameterForm::undoesWithinTheWholeForm()
-{
-    const auto form = shownForm(caseBeam());
-    QTest::keyClicks(form->editor("Case"), "At");
-    auto *force = editorOf<QLineEdit>(*form, "Force");
-    force->setFocus();
-    QTest::keyClicks(force, "5");
-    QTest::keyClick(form->editor("Length"), Qt::Key_Z, Qt::ControlModifier);
-    QCOMPARE(force->text(), "");
-    QTest::keyClick(form->editor("Case"), Qt::Key_Z, Qt::ControlModifier);
-    QVERIFY(!force->isVisible());
-    QCOMPARE(editorOf<QComboBox>(*form, "Case")->currentIndex(), -1);
-}
-
-void tst_KeltoParameterForm::offersUndoOfTheFormInMenus()
-{
-    const auto form = shownForm(beam({ plainEntry("a"), plainEntry("b") }));
-    QTest::keyClicks(form->editor("a"), "5");
-    QStringList texts;
-    QTimer::singleShot(0, this, [&texts] {
-        auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
-        const QList<QAction *> actions = menu ? menu->actions() : QList<QAction *>();
-        for (const QAction *action : actions)
-            texts.append(action->isSeparator() ? "-" : action->text());
-        if (menu)
-            menu->close();
-    });
-    QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(1, 1), QPoint(1, 1));
-    QCoreApplication::sendEvent(form->editor("b"), &event);
-    QCOMPARE(texts.mid(0, 3), QStringList({ "Undo Edit a", "Redo", "-" }));
 }
 
 void tst_KeltoParameterForm::followsTheLanguage()
