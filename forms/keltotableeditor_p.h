@@ -26,6 +26,9 @@ class KeltoTableEditorPrivate;
  *
  * Undo is the form's: every change of the user is one edited(), and the keys of QKeySequence::Undo
  * and Redo are left to the parents of the widget.
+ *
+ * The table inside has the object name "kelto_table", the line below it, which says what is wrong,
+ * "kelto_status". The commands are QActions and have object names, too.
  */
 class KeltoTableEditor : public QWidget
 {
@@ -44,9 +47,35 @@ public:
     /// Marks the rows at KeltoItemFinding::position, by words and shape; -1 is the whole table.
     void setFindings(QVector<KeltoItemFinding> findings);
 
+public Q_SLOTS:
+    /// Inserts an empty row below or above the current one, or the first one.
+    void insertRowBelow();
+    void insertRowAbove();
+    /// Deletes the rows of the selected cells.
+    void deleteRows();
+    /// Inserts an empty column behind the current one, where columns are free and there is a row.
+    void insertColumn();
+    /// Deletes the columns of the selected cells, where columns are free, but never all of them.
+    void deleteColumns();
+    /// Copies the selected cells as a spreadsheet takes them.
+    void copy();
+    /// Puts the block on the clipboard over the cells from the current one on. A block that does
+    /// not fit changes nothing and is explained.
+    void paste();
+    /// Lets the user choose a file and imports it.
+    void chooseFile();
+    /// Replaces all rows by those of a CSV file. One that does not fit changes nothing and is
+    /// explained.
+    /// @return whether it was taken over.
+    bool importFile(QString path);
+
 Q_SIGNALS:
     /// The user has changed the value.
     void edited();
+
+protected:
+    void changeEvent(QEvent *event) override;
+    void showEvent(QShowEvent *event) override;
 
 private:
     std::unique_ptr<KeltoTableEditorPrivate> d;
