@@ -105,7 +105,7 @@ void KeltoTableEditorPrivate::retranslate()
 void KeltoTableEditorPrivate::updateStatus()
 {
     const QString problem = current().data(KeltoTableModel::ProblemRole).toString();
-    const QString rows = KeltoTableEditor::tr("%n row(s)", nullptr, model->rowCount());
+    const QString rows = KeltoTableEditor::tr("Rows: %1").arg(model->rowCount());
     say(problem.isEmpty()
             ? rows
             : KeltoTableEditor::tr("Row %1: %2").arg(current().row() + 1).arg(problem));
@@ -348,7 +348,7 @@ bool KeltoTableEditor::importFile(QString path)
     }
     d->apply(d->rowsOf(text));
     d->moveTo(d->model->index(0, 0), d->model->index(0, 0));
-    const QString imported = tr("%n row(s) imported", nullptr, text.rows.size());
+    const QString imported = tr("Imported rows: %1").arg(text.rows.size());
     d->say(text.hasHeadings ? imported + tr(", without the line of headings") : imported);
     return true;
 }

@@ -141,7 +141,7 @@ QString TableTextReader::problemsOf(const QVector<QStringList> &rows, bool hasHe
         }
     }
     if (others > 0)
-        lines.append(tr("And %n more.", nullptr, others));
+        lines.append(tr("And %1 more.").arg(others));
     return lines.join(QLatin1Char('\n'));
 }
 

@@ -122,7 +122,7 @@ void tst_KeltoTableEditor::changesOneCell_data()
     const QString refused = " holds \"|\", which stands between the cells of a row.";
     const auto row
         = [](const char *name, int columns, Model::Kind kind, const char *before, int column,
-             const char *typed, const char *after, const QString &status = "3 row(s)") {
+             const char *typed, const char *after, const QString &status = "Rows: 3") {
               QTest::newRow(name) << columns << kind << QString(before) << column << QString(typed)
                                   << QString(after) << status;
           };
@@ -133,7 +133,7 @@ void tst_KeltoTableEditor::changesOneCell_data()
     row("mended", Array, Model::Number, "1,5", 0, "1,5", "1.5");
     row("y of a point", Points, Model::Number, "1|2", 1, "3,5", "1|3.5");
     row("x of a point with three numbers", Points, Model::Number, "1|2|3", 0, "4", "4|2|3",
-        "3 row(s)");
+        "Rows: 3");
     row("y of a point with three numbers", Points, Model::Number, "1|2|3", 1, "2", "1|2");
     row("missing y", Points, Model::Number, "3", 1, "4", "3|4");
     row("missing y stays", Points, Model::Number, "3", 1, "", "3", "Row 2: A number is missing.");
@@ -362,7 +362,7 @@ void tst_KeltoTableEditor::marksFindings()
     QCOMPARE(editor.status(), QString("Row 2: " + outside.text()));
     editor.setFindings({});
     QCOMPARE(editor.toolTip(1, 0), "");
-    QCOMPARE(editor.status(), "2 row(s)");
+    QCOMPARE(editor.status(), "Rows: 2");
 }
 
 void tst_KeltoTableEditor::followsTheLanguage()
@@ -376,11 +376,11 @@ void tst_KeltoTableEditor::followsTheLanguage()
         QVERIFY2(action->text().startsWith("<"), qPrintable(action->objectName()));
     QCOMPARE(editor.heading(1), "<y>");
     QCOMPARE(editor.toolTip(0, 1), "<\"x\" is not a number.>");
-    QCOMPARE(editor.status(), "<1 row(s)>");
+    QCOMPARE(editor.status(), "<Rows: 1>");
     QCoreApplication::removeTranslator(&pseudo);
     QCoreApplication::processEvents();
     QCOMPARE(editor.heading(1), "y");
-    QCOMPARE(editor.status(), "1 row(s)");
+    QCOMPARE(editor.status(), "Rows: 1");
 }
 
 void tst_KeltoTableEditor::followsTheLocale()

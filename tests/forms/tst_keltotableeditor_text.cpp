@@ -263,9 +263,9 @@ void tst_KeltoTableEditorText::imports()
         QCOMPARE(editor.status(),
                  QString("Nothing was imported from " + file.fileName() + ".\n" + problem));
     else if (QByteArray(QTest::currentDataTag()).startsWith("headings"))
-        QCOMPARE(editor.status(), "2 row(s) imported, without the line of headings");
+        QCOMPARE(editor.status(), "Imported rows: 2, without the line of headings");
     else
-        QCOMPARE(editor.status(), QString("%1 row(s) imported").arg(value.size()));
+        QCOMPARE(editor.status(), QString("Imported rows: %1").arg(value.size()));
 }
 
 void tst_KeltoTableEditorText::importsBytes_data()
