@@ -53,6 +53,7 @@ public:
     KeltoTableModel *model;
     KeltoTableView *table;
     QLabel *status;
+    bool hasMessage = false;
     QVector<Command> commands;
 };
 
@@ -65,6 +66,7 @@ KeltoTableEditorPrivate::KeltoTableEditorPrivate(KeltoTableEditor *editor, const
     table->setObjectName(QStringLiteral("kelto_table"));
     status->setObjectName(QStringLiteral("kelto_status"));
     status->setWordWrap(true);
+    status->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     status->setTextFormat(Qt::PlainText);
     status->setTextInteractionFlags(Qt::TextSelectableByMouse);
 }
@@ -95,6 +97,8 @@ void KeltoTableEditorPrivate::retranslate()
     for (const Command &command : qAsConst(commands)) {
         QAction *action = command.action;
         action->setText(KeltoTableEditor::tr(command.text));
+        // Buttons would leave out the dots.
+        action->setIconText(action->text());
         const QString keys = action->shortcut().toString(QKeySequence::NativeText);
         action->setToolTip(QStringLiteral("%1 (%2)").arg(action->text(), keys));
     }
@@ -106,14 +110,16 @@ void KeltoTableEditorPrivate::updateStatus()
 {
     const QString problem = current().data(KeltoTableModel::ProblemRole).toString();
     const QString rows = KeltoTableEditor::tr("Rows: %1").arg(model->rowCount());
-    say(problem.isEmpty()
-            ? rows
-            : KeltoTableEditor::tr("Row %1: %2").arg(current().row() + 1).arg(problem));
+    status->setText(problem.isEmpty()
+                        ? rows
+                        : KeltoTableEditor::tr("Row %1: %2").arg(current().row() + 1).arg(problem));
+    hasMessage = false;
 }
 
 void KeltoTableEditorPrivate::say(const QString &text)
 {
     status->setText(text);
+    hasMessage = true;
 }
 
 /// One range at most: the view selects no other.
@@ -213,7 +219,12 @@ KeltoTableEditor::KeltoTableEditor(int columns, KeltoParameterModel::Kind cellKi
     connect(d->model, &KeltoTableModel::cellRefused, this,
             [this](const QString &problem) { d->say(problem); });
     connect(d->table->selectionModel(), &QItemSelectionModel::currentChanged, this,
-            [this] { d->updateStatus(); });
+            [this](const QModelIndex & /*current*/, const QModelIndex &previous) {
+                // On getting the focus the table takes its first cell, which is no reason to drop
+                // what was said.
+                if (previous.isValid() || !d->hasMessage)
+                    d->updateStatus();
+            });
     d->model->setLocale(locale());
     d->retranslate();
 }
@@ -348,8 +359,10 @@ bool KeltoTableEditor::importFile(QString path)
     }
     d->apply(d->rowsOf(text));
     d->moveTo(d->model->index(0, 0), d->model->index(0, 0));
-    const QString imported = tr("Imported rows: %1").arg(text.rows.size());
-    d->say(text.hasHeadings ? imported + tr(", without the line of headings") : imported);
+    const QString imported = text.hasHeadings
+        ? tr("Imported rows: %1, without the line of headings")
+        : tr("Imported rows: %1");
+    d->say(imported.arg(text.rows.size()));
     return true;
 }
 

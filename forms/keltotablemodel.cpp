@@ -9,6 +9,16 @@
 
 #include <algorithm>
 
+namespace {
+
+QVariant markFor(const QString &problem)
+{
+    return problem.isEmpty() ? QVariant()
+                             : QApplication::style()->standardIcon(QStyle::SP_MessageBoxWarning);
+}
+
+} // namespace
+
 KeltoTableModel::KeltoTableModel(const TableCells &cells, QObject *parent)
     : QAbstractTableModel(parent)
     , m_cells(cells)
@@ -31,13 +41,15 @@ QVariant KeltoTableModel::data(const QModelIndex &index, int role) const
 {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid))
         return QVariant();
+    const QString &element = m_elements.at(index.row());
     switch (role) {
     case Qt::DisplayRole:
     case Qt::EditRole:
-        return m_cells.shown(m_cells.split(m_elements.at(index.row())).value(index.column()),
-                             m_locale);
+        return m_cells.shown(m_cells.split(element).value(index.column()), m_locale);
     case Qt::TextAlignmentRole:
         return int((m_cells.isOfNumbers() ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+    case Qt::DecorationRole:
+        return markFor(m_cells.problem(element, index.column()));
     case ProblemRole:
     case Qt::ToolTipRole:
     case Qt::AccessibleDescriptionRole:
@@ -77,9 +89,7 @@ QVariant KeltoTableModel::headerData(int section, Qt::Orientation orientation, i
     case Qt::AccessibleDescriptionRole:
         return finding;
     case Qt::DecorationRole:
-        return finding.isEmpty()
-            ? QVariant()
-            : QApplication::style()->standardIcon(QStyle::SP_MessageBoxWarning);
+        return markFor(finding);
     default:
         return QVariant();
     }

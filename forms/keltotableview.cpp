@@ -5,18 +5,19 @@
 
 #include "keltotablemodel_p.h"
 
-#include <QApplication>
 #include <QEvent>
 #include <QHeaderView>
 #include <QLineEdit>
-#include <QScrollBar>
 #include <QStyledItemDelegate>
 
 namespace {
 
 constexpr int visibleRows = 6;
 
-/// Marks what is wrong, and leaves a cell alone whose editor was opened and closed again.
+constexpr QChar leftToRight(0x2066);
+constexpr QChar endOfDirection(0x2069);
+
+/// Colours what is wrong, and leaves a cell alone whose editor was opened and closed again.
 class CellDelegate : public QStyledItemDelegate
 {
 public:
@@ -34,10 +35,11 @@ protected:
     void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
     {
         QStyledItemDelegate::initStyleOption(option, index);
-        if (index.data(KeltoTableModel::ProblemRole).toString().isEmpty())
+        // Minus signs and exponents stay where they belong among words of the other direction.
+        if (option->direction == Qt::RightToLeft)
+            option->text = leftToRight + option->text + endOfDirection;
+        if (option->icon.isNull())
             return;
-        option->features |= QStyleOptionViewItem::HasDecoration;
-        option->icon = QApplication::style()->standardIcon(QStyle::SP_MessageBoxWarning);
         const bool isDark = option->palette.base().color().lightness() < 128;
         option->palette.setColor(QPalette::Text, QColor(isDark ? 0xff9090 : 0xa00000));
     }
@@ -78,6 +80,7 @@ void KeltoTableView::updateSizes()
     verticalHeader()->setMinimumSectionSize(rowHeight);
     verticalHeader()->setDefaultSectionSize(rowHeight);
     horizontalHeader()->setMinimumSectionSize(fontMetrics().averageCharWidth() * 8);
+    horizontalHeader()->setDefaultSectionSize(fontMetrics().averageCharWidth() * 10);
     setFixedHeight(visibleRows * rowHeight + horizontalHeader()->sizeHint().height()
                    + 2 * frameWidth());
 }

@@ -101,7 +101,9 @@ void tst_KeltoTableEditor::showsWhatItGot()
     QStringList found;
     for (int row = 0; row < cells.size(); ++row) {
         for (int column = 0; column < editor.table->model()->columnCount(); ++column) {
-            if (!editor.toolTip(row, column).isEmpty())
+            const bool isMarked = !editor.index(row, column).data(Qt::DecorationRole).isNull();
+            QCOMPARE(isMarked, !editor.toolTip(row, column).isEmpty());
+            if (isMarked)
                 found.append(QString("%1 %2 ").arg(row).arg(column) + editor.toolTip(row, column));
         }
     }

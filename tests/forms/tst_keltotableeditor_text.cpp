@@ -309,7 +309,12 @@ void tst_KeltoTableEditorText::importsNothingWithoutAFile()
     QVERIFY(!editor.importFile(directory.filePath("none.csv")));
     QVERIFY(!editor.importFile(directory.path()));
     QCOMPARE(editor.value(), QStringList("1"));
-    QVERIFY(editor.status().startsWith("Nothing was imported from " + directory.path() + "."));
+    const QString status = editor.status();
+    QVERIFY(status.startsWith("Nothing was imported from " + directory.path() + "."));
+    // The focus comes back from the file dialog.
+    QVERIFY(editor.activate());
+    QCOMPARE(editor.table->currentIndex(), editor.index(0, 0));
+    QCOMPARE(editor.status(), status);
 }
 
 QTEST_MAIN(tst_KeltoTableEditorText)
