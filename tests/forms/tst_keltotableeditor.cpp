@@ -3,6 +3,8 @@
 
 #include "tableeditorsupport.h"
 
+#include <Kelto/Forms/KeltoParameterForm>
+
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
@@ -47,6 +49,7 @@ private Q_SLOTS:
     void followsTheLanguage();
     void followsTheLocale();
     void leavesUndoToTheForm();
+    void isUndoneByTheForm();
     void isReachedByKeysAndScreenReaders();
     void holdsTenThousandRows();
 };
@@ -408,6 +411,30 @@ void tst_KeltoTableEditor::leavesUndoToTheForm()
     QVERIFY(QTest::qWaitForWindowActive(&form));
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Z, Qt::ControlModifier);
     QCOMPARE(undone.size(), 1);
+}
+
+void tst_KeltoTableEditor::isUndoneByTheForm()
+{
+    KeltoParameterForm form(
+        { VParameter(QVariant(), { "Loads", "Loads" }, {}, "F", {}, "QVector<QPointF>", true) });
+    const QVector<QPair<QString, QVariant>> before { { "Attribute/Loads", QStringList("1|2") },
+                                                     { "Unit/Loads", "" } };
+    form.setValues(before);
+    form.show();
+    form.activateWindow();
+    auto *table = form.editor("Loads")->findChild<QTableView *>("kelto_table");
+    table->setFocus();
+    QVERIFY(QTest::qWaitForWindowActive(&form));
+    QTest::keyClick(table, Qt::Key_Insert);
+    QTest::keyClick(table, Qt::Key_Delete);
+    QTest::keyClick(table, Qt::Key_Delete);
+    QCOMPARE(table->model()->rowCount(), 0);
+    QTest::keyClick(table, Qt::Key_Z, Qt::ControlModifier);
+    QTest::keyClick(table, Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(form.values().first().second, QVariant(QStringList({ "1|2", "|" })));
+    QCOMPARE(table->model()->rowCount(), 2);
+    QTest::keyClick(table, Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(form.values(), before);
 }
 
 void tst_KeltoTableEditor::isReachedByKeysAndScreenReaders()
