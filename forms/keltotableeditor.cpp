@@ -8,6 +8,7 @@
 #include "keltotableview_p.h"
 #include "tabletext_p.h"
 
+#include <QAccessible>
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
@@ -26,8 +27,10 @@ class KeltoTableEditorPrivate
 public:
     KeltoTableEditorPrivate(KeltoTableEditor *editor, const TableCells &cells);
 
+    void addCommands(QLayout *buttons);
     void addCommand(void (KeltoTableEditor::*slot)(), const char *name, const char *text,
                     const QKeySequence &keys, QLayout *buttons);
+    void listen();
     void retranslate();
     void updateStatus();
     /// Says something until the next change or move.
@@ -71,6 +74,33 @@ KeltoTableEditorPrivate::KeltoTableEditorPrivate(KeltoTableEditor *editor, const
     status->setTextInteractionFlags(Qt::TextSelectableByMouse);
 }
 
+/// The rare ones are only in the context menu.
+void KeltoTableEditorPrivate::addCommands(QLayout *buttons)
+{
+    using Editor = KeltoTableEditor;
+    addCommand(&Editor::insertRowBelow, "kelto_insertRowBelow",
+               QT_TRANSLATE_NOOP("KeltoTableEditor", "Insert Row"), Qt::Key_Insert, buttons);
+    addCommand(&Editor::insertRowAbove, "kelto_insertRowAbove",
+               QT_TRANSLATE_NOOP("KeltoTableEditor", "Insert Row Above"),
+               Qt::ALT + Qt::SHIFT + Qt::Key_Insert, nullptr);
+    addCommand(&Editor::deleteRows, "kelto_deleteRows",
+               QT_TRANSLATE_NOOP("KeltoTableEditor", "Delete Rows"), QKeySequence::Delete, buttons);
+    if (model->cells().isFree()) {
+        addCommand(&Editor::insertColumn, "kelto_insertColumn",
+                   QT_TRANSLATE_NOOP("KeltoTableEditor", "Insert Column"), Qt::ALT + Qt::Key_Insert,
+                   buttons);
+        addCommand(&Editor::deleteColumns, "kelto_deleteColumns",
+                   QT_TRANSLATE_NOOP("KeltoTableEditor", "Delete Columns"),
+                   Qt::ALT + Qt::Key_Delete, buttons);
+    }
+    addCommand(&Editor::copy, "kelto_copy", QT_TRANSLATE_NOOP("KeltoTableEditor", "Copy"),
+               QKeySequence::Copy, nullptr);
+    addCommand(&Editor::paste, "kelto_paste", QT_TRANSLATE_NOOP("KeltoTableEditor", "Paste"),
+               QKeySequence::Paste, nullptr);
+    addCommand(&Editor::chooseFile, "kelto_import",
+               QT_TRANSLATE_NOOP("KeltoTableEditor", "Import..."), Qt::CTRL + Qt::Key_I, buttons);
+}
+
 void KeltoTableEditorPrivate::addCommand(void (KeltoTableEditor::*slot)(), const char *name,
                                          const char *text, const QKeySequence &keys,
                                          QLayout *buttons)
@@ -90,6 +120,23 @@ void KeltoTableEditorPrivate::addCommand(void (KeltoTableEditor::*slot)(), const
     button->setToolButtonStyle(Qt::ToolButtonTextOnly);
     button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     buttons->addWidget(button);
+}
+
+void KeltoTableEditorPrivate::listen()
+{
+    QObject::connect(model, &KeltoTableModel::cellEdited, q, [this] {
+        updateStatus();
+        Q_EMIT q->edited();
+    });
+    QObject::connect(model, &KeltoTableModel::cellRefused, q,
+                     [this](const QString &problem) { say(problem); });
+    QObject::connect(table->selectionModel(), &QItemSelectionModel::currentChanged, q,
+                     [this](const QModelIndex & /*current*/, const QModelIndex &previous) {
+                         // On getting the focus the table takes its first cell, which is no reason
+                         // to drop what was said.
+                         if (previous.isValid() || !hasMessage)
+                             updateStatus();
+                     });
 }
 
 void KeltoTableEditorPrivate::retranslate()
@@ -120,6 +167,8 @@ void KeltoTableEditorPrivate::say(const QString &text)
 {
     status->setText(text);
     hasMessage = true;
+    QAccessibleEvent alert(status, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
 }
 
 /// One range at most: the view selects no other.
@@ -181,29 +230,8 @@ KeltoTableEditor::KeltoTableEditor(int columns, KeltoParameterModel::Kind cellKi
     , d(std::make_unique<KeltoTableEditorPrivate>(this, TableCells(columns, cellKind)))
 {
     auto *buttons = new QVBoxLayout;
-    const auto add = [&](auto slot, const char *name, const char *text, const QKeySequence &keys,
-                         bool hasButton) {
-        d->addCommand(slot, name, text, keys, hasButton ? buttons : nullptr);
-    };
-    add(&KeltoTableEditor::insertRowBelow, "kelto_insertRowBelow", QT_TR_NOOP("Insert Row"),
-        Qt::Key_Insert, true);
-    add(&KeltoTableEditor::insertRowAbove, "kelto_insertRowAbove", QT_TR_NOOP("Insert Row Above"),
-        Qt::ALT + Qt::SHIFT + Qt::Key_Insert, false);
-    add(&KeltoTableEditor::deleteRows, "kelto_deleteRows", QT_TR_NOOP("Delete Rows"),
-        QKeySequence::Delete, true);
-    const bool isFree = d->model->cells().isFree();
-    if (isFree) {
-        add(&KeltoTableEditor::insertColumn, "kelto_insertColumn", QT_TR_NOOP("Insert Column"),
-            Qt::ALT + Qt::Key_Insert, true);
-        add(&KeltoTableEditor::deleteColumns, "kelto_deleteColumns", QT_TR_NOOP("Delete Columns"),
-            Qt::ALT + Qt::Key_Delete, true);
-    }
-    add(&KeltoTableEditor::copy, "kelto_copy", QT_TR_NOOP("Copy"), QKeySequence::Copy, false);
-    add(&KeltoTableEditor::paste, "kelto_paste", QT_TR_NOOP("Paste"), QKeySequence::Paste, false);
-    add(&KeltoTableEditor::chooseFile, "kelto_import", QT_TR_NOOP("Import..."),
-        Qt::CTRL + Qt::Key_I, true);
+    d->addCommands(buttons);
     buttons->addStretch();
-
     auto *layout = new QGridLayout(this);
     layout->setContentsMargins(QMargins());
     layout->addWidget(d->table, 0, 0);
@@ -211,20 +239,7 @@ KeltoTableEditor::KeltoTableEditor(int columns, KeltoParameterModel::Kind cellKi
     layout->addWidget(d->status, 1, 0, 1, 2);
     layout->setColumnStretch(0, 1);
     setFocusProxy(d->table);
-
-    connect(d->model, &KeltoTableModel::cellEdited, this, [this] {
-        d->updateStatus();
-        Q_EMIT edited();
-    });
-    connect(d->model, &KeltoTableModel::cellRefused, this,
-            [this](const QString &problem) { d->say(problem); });
-    connect(d->table->selectionModel(), &QItemSelectionModel::currentChanged, this,
-            [this](const QModelIndex & /*current*/, const QModelIndex &previous) {
-                // On getting the focus the table takes its first cell, which is no reason to drop
-                // what was said.
-                if (previous.isValid() || !d->hasMessage)
-                    d->updateStatus();
-            });
+    d->listen();
     d->model->setLocale(locale());
     d->retranslate();
 }

@@ -111,6 +111,7 @@ Result resultOf(const VParameter &parameter, const QHash<QString, QVariant> &val
     Result result;
     result.row = ParameterRow(parameter, hints);
     const QVariant value = values.value(result.row.key, parameter.value());
+    result.row.value = value;
     result.isList = isList(value);
     if (result.isList) {
         const QVariantList elements = elementsOf(value);
@@ -167,6 +168,10 @@ QString ResultTable::shownCell(const Result &result, const QVariant &cell) const
 
 QString ResultTable::shown(const Result &result, const ResultCells &value) const
 {
+    using Kind = KeltoParameterModel::Kind;
+    const Kind kind = result.row.kind;
+    if (kind == Kind::Bool || kind == Kind::Choice)
+        return result.row.shown(m_hints, locale);
     QStringList texts;
     for (const QVariant &cell : value)
         texts.append(shownCell(result, cell));

@@ -71,7 +71,7 @@ TableText TableTextReader::readFile(const QByteArray &bytes) const
 TableText TableTextReader::read(const QString &text, bool isFile) const
 {
     TableText first;
-    const QVector<QChar> separators = separatorsOf(text);
+    const QVector<QChar> separators = separatorsOf(text, isFile);
     for (const QChar separator : separators) {
         const TableText found = check(DelimitedText::read(text, separator), isFile);
         if (found.problem.isEmpty())
@@ -83,11 +83,12 @@ TableText TableTextReader::read(const QString &text, bool isFile) const
 }
 
 /// In the order in which they are tried, with that of the last resort last.
-QVector<QChar> TableTextReader::separatorsOf(const QString &text) const
+QVector<QChar> TableTextReader::separatorsOf(const QString &text, bool isFile) const
 {
     QVector<QChar> separators;
-    for (const char candidate : { '\t', ';', ',' }) {
-        const QLatin1Char separator(candidate);
+    const QString candidates
+        = isFile || m_cells.isOfNumbers() ? QStringLiteral("\t;,") : QStringLiteral("\t");
+    for (const QChar separator : candidates) {
         if (!DelimitedText::isDivided(text, separator))
             continue;
         if (m_cells.isOfNumbers() && separator == m_locale.decimalPoint())

@@ -25,7 +25,7 @@ struct TableText
  * Reads tables that come from other programs: all of it or nothing.
  *
  * Cells are divided by tabs, ";" or ",", whichever fits first: the table gets as many columns as it
- * takes, and numbers where it holds numbers. So "1,5" is one number where "," is the decimal sign,
+ * takes, and numbers where it holds numbers. Texts from the clipboard are divided by tabs only. So "1,5" is one number where "," is the decimal sign,
  * and two where it is not. Where nothing fits, the problems are those of the first separator that
  * there is.
  */
@@ -47,7 +47,7 @@ private:
     TableText check(QVector<QStringList> rows, bool isFile) const;
     QString problemsOf(const QVector<QStringList> &rows, bool hasHeadings) const;
     QString problemOf(const QString &cell, int column) const;
-    QVector<QChar> separatorsOf(const QString &text) const;
+    QVector<QChar> separatorsOf(const QString &text, bool isFile) const;
     bool isHeadings(const QVector<QStringList> &rows) const;
     bool isNumber(const QString &cell) const;
 

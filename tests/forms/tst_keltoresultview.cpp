@@ -164,7 +164,7 @@ void tst_KeltoResultView::showsValues_data()
     row("text of digits", "007.10", "text", false, one("007.10"), "007.10", "007.10");
     row("text with signs", "a|b, \"c\"", "text", false, one("a|b, \"c\""), "a|b, \"c\"",
         "\"a|b, \"\"c\"\"\"");
-    row("truth", true, "bool", false, one("true"), "true", "true");
+    row("truth", true, "bool", false, one("Yes"), "true", "true");
     row("nothing", QVariant(), "float", false, one("no value"), "", "");
     row("empty text", "", "text", false, one("no value"), "", "");
     row("point", QPointF(1.5, -2), "QPointF", false, one("1,5; -2"), "1,5; -2", "1.5,-2");

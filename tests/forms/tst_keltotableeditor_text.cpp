@@ -78,6 +78,7 @@ void tst_KeltoTableEditorText::pastes_data()
         { "a\nb|say \"c\"" });
     row("texts with signs", Rows, Model::Text, "de", "1,5\ta;b\n", { "1,5|a;b" });
     row("rows of several lengths", Rows, Model::Text, "en", "a\tb\nc\n", { "a|b", "c" });
+    row("sentence", Rows, Model::Text, "en", "Yes; well, no\n", { "Yes; well, no" });
     row("inch", Rows, Model::Text, "en", "5\"\t6\"\n", { "5\"|6\"" });
     row("texts in an array", Array, Model::Text, "en", "a|b\nc\n", { "a|b", "c" });
     row("nothing", Array, Model::Number, "en", "", {}, "There is nothing to take over.");
