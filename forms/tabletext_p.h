@@ -25,9 +25,9 @@ struct TableText
  * Reads tables that come from other programs: all of it or nothing.
  *
  * Cells are divided by tabs, ";" or ",", whichever fits first: the table gets as many columns as it
- * takes, and numbers where it holds numbers. Texts from the clipboard are divided by tabs only. So "1,5" is one number where "," is the decimal sign,
- * and two where it is not. Where nothing fits, the problems are those of the first separator that
- * there is.
+ * takes, and numbers where it holds numbers. Texts from the clipboard are divided by tabs only. So
+ * "1,5" is one number where "," is the decimal sign, and two where it is not. Where nothing fits,
+ * the problems are those of the first separator that there is.
  */
 class TableTextReader
 {
