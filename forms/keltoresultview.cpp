@@ -257,8 +257,12 @@ int KeltoResultView::significantDigits() const
 
 void KeltoResultView::setSignificantDigits(int digits)
 {
-    d->table.significantDigits = qBound(1, digits, 17);
+    const int allowed = qBound(1, digits, 17);
+    if (allowed == d->table.significantDigits)
+        return;
+    d->table.significantDigits = allowed;
     d->show();
+    Q_EMIT significantDigitsChanged(allowed);
 }
 
 QString KeltoResultView::text() const

@@ -34,7 +34,8 @@ class KeltoResultViewPrivate;
 class KELTO_FORMS_EXPORT KeltoResultView : public QWidget
 {
     Q_OBJECT
-    Q_PROPERTY(int significantDigits READ significantDigits WRITE setSignificantDigits)
+    Q_PROPERTY(int significantDigits READ significantDigits WRITE setSignificantDigits NOTIFY
+                   significantDigitsChanged)
 
 public:
     explicit KeltoResultView(QWidget *parent = nullptr);
@@ -77,6 +78,9 @@ public Q_SLOTS:
     void copyAsCells();
     /// Lets the user choose a file for saveCsv(), and says what is wrong with it.
     void exportCsv();
+
+Q_SIGNALS:
+    void significantDigitsChanged(int digits);
 
 protected:
     /// Sets all texts anew when the language or the locale has changed.

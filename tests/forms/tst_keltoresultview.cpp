@@ -11,6 +11,7 @@
 #include <QClipboard>
 #include <QFile>
 #include <QPolygonF>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTranslator>
@@ -231,7 +232,10 @@ void tst_KeltoResultView::roundsToSignificantDigits()
     QFETCH(QString, shown);
     View view({ result("R", 12.345) });
     QCOMPARE(view.significantDigits(), 6);
+    QSignalSpy changes(&view, &KeltoResultView::significantDigitsChanged);
     QVERIFY(view.setProperty("significantDigits", digits));
+    QVERIFY(view.setProperty("significantDigits", digits));
+    QCOMPARE(changes, QList<QVariantList>({ { taken } }));
     QCOMPARE(view.significantDigits(), taken);
     QCOMPARE(rowsOf(view), QStringList("R_tr / s / " + shown + " / mm"));
     view.setResults({ result("R", 12.345) });
