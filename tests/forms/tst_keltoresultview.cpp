@@ -34,7 +34,8 @@ QStringList rowsOf(const KeltoResultView &view, const QModelIndex &parent = QMod
         for (int column = 0; column < model->columnCount(parent); ++column)
             cells.append(model->index(row, column, parent).data().toString());
         rows.append(cells.join(" / "));
-        for (const QString &inside : rowsOf(view, model->index(row, 0, parent)))
+        const QStringList children = rowsOf(view, model->index(row, 0, parent));
+        for (const QString &inside : children)
             rows.append("  " + inside);
     }
     return rows;
@@ -75,10 +76,14 @@ AUTH_INF item()
     return item;
 }
 
-const Entries itemValues { { "Result/Stress", 1234.56789 },
-                           { "Attribute/Line", QStringList { "0|0.1", "1|0.25" } },
-                           { "Stress", "later ones do not count" },
-                           { "Result/Unknown", 1 } };
+/// Values for its results, and some that do not count.
+Entries itemValues()
+{
+    return { { "Result/Stress", 1234.56789 },
+             { "Attribute/Line", QStringList { "0|0.1", "1|0.25" } },
+             { "Stress", "later ones do not count" },
+             { "Result/Unknown", 1 } };
+}
 
 class Pseudo : public QTranslator
 {
@@ -245,7 +250,7 @@ void tst_KeltoResultView::roundsToSignificantDigits()
 void tst_KeltoResultView::showsResultsInOrderOfHints()
 {
     const KeltoItemHints hints(item(), "Bend");
-    const View view(hints.results(), itemValues, hints);
+    const View view(hints.results(), itemValues(), hints);
     QCOMPARE(rowsOf(view),
              QStringList({ "Size /  /  / ", "  Line / L / 2 values / ", "    1 /  / 0; 0.1 / mm; N",
                            "    2 /  / 1; 0.25 / mm; N", "Strength /  /  / ",
@@ -275,7 +280,7 @@ void tst_KeltoResultView::showsNothingAtFirst()
 void tst_KeltoResultView::copiesAsText()
 {
     const KeltoItemHints hints(item(), "Bend");
-    View view(hints.results(), itemValues, hints, "de");
+    View view(hints.results(), itemValues(), hints, "de");
     view.copyAsText();
     const QString text = "Size\n"
                          "  Line (L): 2 values\n"
@@ -295,7 +300,7 @@ void tst_KeltoResultView::copiesAsText()
 void tst_KeltoResultView::copiesForASpreadsheet()
 {
     const KeltoItemHints hints(item(), "Bend");
-    View view(hints.results(), itemValues, hints, "de");
+    View view(hints.results(), itemValues(), hints, "de");
     view.copyAsCells();
     QCOMPARE(QApplication::clipboard()->text(),
              "Size\tLine\tL\tmm; N\t0\t0,1\n"
@@ -323,7 +328,7 @@ void tst_KeltoResultView::copiesWhatIsSelected()
     QFETCH(QVector<int>, path);
     QFETCH(QString, text);
     const KeltoItemHints hints(item(), "Bend");
-    View view(hints.results(), itemValues, hints);
+    View view(hints.results(), itemValues(), hints);
     QTreeView *tree = treeOf(view);
     QModelIndex index;
     for (const int row : qAsConst(path))
@@ -336,7 +341,7 @@ void tst_KeltoResultView::copiesWhatIsSelected()
 void tst_KeltoResultView::writesCsv()
 {
     const KeltoItemHints hints(item(), "Bend");
-    View view(hints.results(), itemValues, hints, "de");
+    View view(hints.results(), itemValues(), hints, "de");
     const QByteArray csv = "Sub-group,Name,Symbol,Unit,Value,\r\n"
                            "Size,Line,L,mm; N,0,0.1\r\n"
                            "Size,Line,L,mm; N,1,0.25\r\n"
@@ -370,7 +375,7 @@ void tst_KeltoResultView::saysWhatKeepsItFromWriting()
 void tst_KeltoResultView::followsTheLanguage()
 {
     const KeltoItemHints hints(item(), "Bend");
-    View view(hints.results(), itemValues, hints);
+    View view(hints.results(), itemValues(), hints);
     const QStringList before = rowsOf(view);
     Pseudo pseudo;
     QCoreApplication::installTranslator(&pseudo);
@@ -383,7 +388,8 @@ void tst_KeltoResultView::followsTheLanguage()
     const QTreeView *tree = treeOf(view);
     QCOMPARE(tree->accessibleName(), "<Results>");
     QCOMPARE(tree->model()->headerData(2, Qt::Horizontal).toString(), "<Value>");
-    for (const QAction *action : tree->actions())
+    const QList<QAction *> actions = tree->actions();
+    for (const QAction *action : actions)
         QVERIFY2(action->text().startsWith("<"), qPrintable(action->objectName()));
     QCoreApplication::removeTranslator(&pseudo);
     QCoreApplication::processEvents();
