@@ -1,0 +1,80 @@
+// SPDX-FileCopyrightText: The Kelto developers
+// SPDX-License-Identifier: MIT
+
+#include <Kelto/AUTH_SET>
+#include <Kelto/Forms/KeltoParameterForm>
+#include <Kelto/Forms/KeltoResultView>
+#include <Kelto/UTaskSelectDialog>
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <cmath>
+
+int main(int argc, char *argv[])
+{
+    QApplication application(argc, argv);
+
+    // The module stands in a file. Kelto would take a missing one for an empty one.
+    const QString moduleFile = QCoreApplication::applicationDirPath() + "/cantilever.ini";
+    if (!QFileInfo::exists(moduleFile)) {
+        QMessageBox::critical(nullptr, "Minimal", "There is no file " + moduleFile);
+        return 1;
+    }
+    AUTH_INF cantilever;
+    cantilever.load_ini(moduleFile);
+    AUTH_SET registry("Minimal", "1.0", { cantilever });
+
+    // The user confirms the mode. Without a current one the dialog would have nothing selected.
+    registry.current_group = cantilever.group;
+    registry.current_mode = cantilever.inner_mode_nameList.value(0);
+    UTaskSelectDialog dialog;
+    dialog.set(&registry);
+    dialog.show(); // waits until it is closed
+    if (dialog.operateIndex != 0)
+        return 0; // cancelled
+    const QString group = registry.current_group;
+    const int mode = registry.exclusive_group_select(group);
+
+    // The form knows names, units, defaults and limits from the file.
+    QWidget window;
+    KeltoParameterForm form(&registry, group, mode);
+    QPushButton calculate("&Calculate");
+    KeltoResultView results;
+    QVBoxLayout layout(&window);
+    for (QWidget *part : { static_cast<QWidget *>(&form), static_cast<QWidget *>(&calculate),
+                           static_cast<QWidget *>(&results) })
+        layout.addWidget(part);
+
+    // The values of the last time.
+    const QString valueFile = "minimal-values.ini";
+    QVector<QPair<QString, QVariant>> values;
+    if (QFileInfo::exists(valueFile) && registry.load(valueFile, &values))
+        form.setValues(values);
+
+    // One can calculate when nothing is missing or wrong.
+    calculate.setEnabled(form.isComplete());
+    QObject::connect(&form, &KeltoParameterForm::completeChanged, &calculate,
+                     &QPushButton::setEnabled);
+
+    QObject::connect(&calculate, &QPushButton::clicked, [&] {
+        values = form.values();
+        registry.save(valueFile, &values);
+        registry.getCalculationLData(values);
+        const auto number = [&](const char *key) {
+            return registry.value_cal(QString("Attribute/") + key).toDouble();
+        };
+        const double inertia = number("Width") * std::pow(number("Height"), 3) / 12; // mm⁴
+        const double stiffness = number("Elastic modulus") * inertia; // N·mm²
+        const double place = mode == 0 ? 3 : 8; // at the end, or spread over the length
+        const double bent = number("Force") * std::pow(number("Length"), 3) / place / stiffness;
+        const KeltoItemHints hints(&registry, group, mode);
+        results.setResults(hints.results(), { { "Deflection", bent } }, hints);
+    });
+
+    window.show();
+    return application.exec();
+}
