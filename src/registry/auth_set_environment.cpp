@@ -5,7 +5,7 @@
 
 #include "auth_set.h"
 
-#include "core/filecopies_p.h"
+#include "core/files_p.h"
 #include "core/inifile_p.h"
 #include "registry/auth_set_p.h"
 
