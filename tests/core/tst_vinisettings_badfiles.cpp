@@ -217,6 +217,16 @@ private Q_SLOTS:
         QCOMPARE(filesIn("."), QStringList { "f.ini" });
     }
 
+    void leavesAKeyWithTwoSlashesAsItIs()
+    {
+        QVERIFY(writeFile("f.ini", "[a]\n/b=1\n"));
+        for (int i = 1; i <= 3; ++i)
+            VIniSettings(Entries { { "c", i } }).saveLocal("f.ini");
+        QCOMPARE(fileContent("f.ini"), QByteArray("[General]\nc=3\n\n[a]\n\\b=1\n"));
+        // QSettings looks it up without one of them.
+        QCOMPARE(copies().constFirst(), QByteArray("[General]\nc=2\n\n[a]\n\\b=1\n"));
+    }
+
     void keepsTheNewestFiveCopies()
     {
         // The third name is not free.

@@ -359,6 +359,13 @@ private Q_SLOTS:
         store.saveLocal();
         QCOMPARE(fileContent(path()), QByteArray("[General]\na=1\n"));
         QCOMPARE(fileContent("../store.ini"), QByteArray(""));
+
+        // The same from somebody else holds texts only, whatever this process has written here.
+        QVERIFY(QDir().mkdir("third"));
+        QVERIFY(QFile::copy(path(), "third/" + path()));
+        QVERIFY(QDir::setCurrent("third"));
+        store.setPath(path());
+        QCOMPARE(described(store.value("a")), described(QVariant("1")));
     }
 
     void savesThroughALink()
