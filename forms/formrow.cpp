@@ -18,6 +18,8 @@ using Model = KeltoParameterModel;
 namespace {
 
 enum GridColumn { LabelColumn, EditorColumn, UnitColumn, MarkColumn };
+// From the editor to the mark.
+constexpr int wholeSpan = MarkColumn - EditorColumn + 1;
 
 QString withoutMnemonics(QString text)
 {
@@ -50,18 +52,17 @@ FormRow::FormRow(const QModelIndex &index, EditorListener *listener, QGridLayout
                  int position)
     : m_grid(grid)
     , m_gridRow(2 * position)
+    , m_isWide(index.data(Model::KindRole) == Model::Table)
     , m_editor(makeEditor(index, listener, grid->parentWidget()))
     , m_label(new QLabel(grid->parentWidget()))
 {
     field()->setObjectName(index.data(Model::KeyRole).toString());
     m_label->setTextFormat(Qt::PlainText);
     m_label->setBuddy(field());
-    // Beside a table they stand at its top.
-    if (index.data(Model::KindRole) == Model::Table)
-        m_alignment = Qt::AlignLeading | Qt::AlignTop;
-    m_label->setAlignment(m_alignment);
+    if (m_isWide)
+        m_label->setAlignment(Qt::AlignLeading | Qt::AlignTop);
     grid->addWidget(m_label, m_gridRow, LabelColumn);
-    grid->addWidget(m_editor->widget(), m_gridRow, EditorColumn);
+    grid->addWidget(m_editor->widget(), m_gridRow, EditorColumn, 1, m_isWide ? wholeSpan : 1);
 }
 
 QVector<QWidget *> FormRow::tabStops() const
@@ -103,7 +104,8 @@ void FormRow::show(const QModelIndex &index)
     const QString symbol = index.data(Model::SymbolRole).toString();
     const QString unit = index.data(Model::UnitRole).toString();
     const QString help = index.data(Model::HelpRole).toString();
-    m_label->setText(withoutMnemonics(joined({ name, symbol }, QStringLiteral("  "))));
+    m_label->setText(withoutMnemonics(
+        joined({ name, symbol, m_isWide ? unit : QString() }, QStringLiteral("  "))));
     m_label->setToolTip(help);
     field()->setToolTip(help);
     field()->setAccessibleName(joined({ name, symbol, unit }, QStringLiteral(", ")));
@@ -116,12 +118,11 @@ void FormRow::show(const QModelIndex &index)
 
 void FormRow::showUnit(const QString &unit)
 {
-    if (!m_unit && unit.isEmpty())
+    if (m_isWide || (!m_unit && unit.isEmpty()))
         return;
     if (!m_unit) {
         m_unit = new QLabel(m_grid->parentWidget());
         m_unit->setTextFormat(Qt::PlainText);
-        m_unit->setAlignment(m_alignment);
         m_unit->setVisible(m_isVisible);
         m_grid->addWidget(m_unit, m_gridRow, UnitColumn);
     }
@@ -154,14 +155,15 @@ void FormRow::showMark(const QVector<KeltoItemFinding> &findings)
     m_mark->setVisible(m_isVisible && !findings.isEmpty());
     m_mark->setToolTip(m_finding);
     // A form that is not filled in yet has such a mark in every row: there it takes no line more.
-    const bool isBelow = !isPlainAbsence(findings);
-    m_mark->setText(isBelow ? m_finding : missingText());
+    const bool isAbsence = isPlainAbsence(findings);
+    const bool isBelow = m_isWide || !isAbsence;
+    m_mark->setText(isAbsence ? missingText() : m_finding);
     if (m_grid->indexOf(m_mark) >= 0 && isBelow == m_isMarkBelow)
         return;
     m_isMarkBelow = isBelow;
     m_grid->removeWidget(m_mark);
     if (isBelow)
-        m_grid->addWidget(m_mark, m_gridRow + 1, EditorColumn, 1, MarkColumn);
+        m_grid->addWidget(m_mark, m_gridRow + 1, EditorColumn, 1, wholeSpan);
     else
         m_grid->addWidget(m_mark, m_gridRow, MarkColumn, Qt::AlignVCenter);
 }

@@ -46,9 +46,10 @@ private:
 
     QGridLayout *m_grid;
     int m_gridRow;
+    /// A table takes the room of unit and mark as well: these stand beside its name and below it.
+    bool m_isWide;
     std::unique_ptr<ValueEditor> m_editor;
     QLabel *m_label;
-    Qt::Alignment m_alignment = Qt::AlignLeading | Qt::AlignVCenter;
     /// Only where there is one.
     QLabel *m_unit = nullptr;
     FindingMark *m_mark = nullptr;

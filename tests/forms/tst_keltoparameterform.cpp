@@ -89,6 +89,7 @@ class tst_KeltoParameterForm : public QObject
 
 private Q_SLOTS:
     void laysOutBoxesAndRows();
+    void givesTablesTheRoomOfTheRow();
     void explainsItsEditorsToEveryone();
     void goesThroughEverythingByTab();
     void hidesWhatDoesNotCount();
@@ -117,6 +118,17 @@ void tst_KeltoParameterForm::laysOutBoxesAndRows()
     QVERIFY(form->editor("a")->y() < form->editor("c")->y());
     QCOMPARE(labelOf(*form, "a")->x(), labelOf(*form, "c")->x());
     QCOMPARE(form->editor("a")->x(), form->editor("b")->x());
+}
+
+void tst_KeltoParameterForm::givesTablesTheRoomOfTheRow()
+{
+    const auto form = shownForm(beam({ plainEntry("a"), multiEntry("b", "QVector<double>") }));
+    QCOMPARE(labelOf(*form, "b")->text(), "b  b  mm");
+    QVERIFY(form->editor("b")->width() > form->editor("a")->width());
+    QTRY_COMPARE(visibleMarks(*form), QStringList({ "missing", "missing" }));
+    form->setValues({ { "Attribute/a", "1" }, { "Attribute/b", QStringList { "1", "x" } } });
+    QVERIFY(waitForFindings(*form));
+    QCOMPARE(visibleMarks(*form), QStringList("b, value 2: \"x\" is not a number."));
 }
 
 void tst_KeltoParameterForm::explainsItsEditorsToEveryone()
