@@ -9,11 +9,17 @@
 #include <Kelto/Forms/KeltoResultView>
 
 #include <QApplication>
+#include <QFile>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTimer>
 
 namespace {
+
+bool isAgain()
+{
+    return QCoreApplication::arguments().contains("again");
+}
 
 void end(const char *complaint)
 {
@@ -38,7 +44,7 @@ void enter(const KeltoParameterForm *form, const char *key, const char *text)
 void calculate(const QWidget *window, const KeltoParameterForm *form)
 {
     auto *button = window->findChild<QPushButton *>();
-    if (!QCoreApplication::arguments().contains("again")) {
+    if (!isAgain()) {
         if (form->isComplete() || button->isEnabled())
             return end("nothing is missing at the start");
         enter(form, "Length", "1000");
@@ -70,6 +76,8 @@ void look()
 
 void lookOften()
 {
+    if (!isAgain())
+        QFile::remove("minimal-values.ini");
     auto *timer = new QTimer(qApp);
     QObject::connect(timer, &QTimer::timeout, timer, look);
     timer->start(10);
