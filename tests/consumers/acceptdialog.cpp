@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Kelto developers
 // SPDX-License-Identifier: MIT
 
-// Appended to the host of the README, which stays as it is: presses "Accept" in
+// Appended to a host, which stays as it is: presses "Accept" in
 // the dialog that the host opens.
 
 #include <QApplication>

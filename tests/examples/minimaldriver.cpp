@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Kelto developers
 // SPDX-License-Identifier: MIT
 
-// Linked to the minimal host, which stays as it is: accepts its dialog, enters what is missing,
+// Built with the minimal host, which stays as it is: accepts its dialog, enters what is missing,
 // calculates, and ends it with 0 if all was as expected. Run again, it expects the values of the
 // first time. An argument that ends in ".png" gets a picture of the window.
 
