@@ -370,20 +370,6 @@ QString unknownUnit(const QVector<QStringList> &entries)
 
 } // namespace
 
-QString Calculator::hintText(const AUTH_INF &module, const QString &mode, const QString &hint,
-                             const QString &key)
-{
-    const QString name = hint + QLatin1Char('.') + key;
-    QString text;
-    for (const VDataItem &extra : module.extraKey) {
-        if (extra.key == name + QLatin1Char('@') + mode)
-            return extra.value.toString();
-        if (extra.key == name)
-            text = extra.value.toString();
-    }
-    return text;
-}
-
 Outcome<Computation> Calculator::calculate(const AUTH_INF &module, const QString &mode,
                                            const Values &values)
 {

@@ -34,11 +34,6 @@ struct Computation
 /// in every language.
 namespace Calculator {
 
-/// What the module says about a parameter or result in the extra key "<hint>.<key>", or
-/// "<hint>.<key>@<mode>" where the mode differs.
-QString hintText(const AUTH_INF &module, const QString &mode, const QString &hint,
-                 const QString &key);
-
 /// Computes one inner mode of a module.
 ///
 /// Numbers may be given as numbers or as texts. One without a unit in @p values has the unit of its

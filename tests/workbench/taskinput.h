@@ -8,6 +8,7 @@
 #include "modules.h"
 
 #include <Kelto/AUTH_INF>
+#include <Kelto/KeltoItemHints>
 
 #include <QMap>
 #include <QStringList>
@@ -32,21 +33,19 @@ inline QString modeOf(const QString &task)
     return task.section(':', 1);
 }
 
-inline QString hintOf(const QString &task, const char *hint, const QString &key)
+inline KeltoItemHints hintsOf(const QString &task)
 {
-    return Calculator::hintText(moduleOf(task), modeOf(task), hint, key);
+    return { moduleOf(task), modeOf(task) };
 }
 
 /// What a form holds when a task is chosen, with some values that differ.
 inline Changes inputOf(const QString &task, const Changes &changes)
 {
     Changes input;
+    const KeltoItemHints hints = hintsOf(task);
     const QStringList keys = moduleOf(task).inner_mode_keylist_of(modeOf(task));
-    for (const QString &key : keys) {
-        const QString text = hintOf(task, "Default", key);
-        const QStringList several = text.split("; ");
-        input.insert(key, several.size() > 1 ? QVariant(several) : QVariant(text));
-    }
+    for (const QString &key : keys)
+        input.insert(key, hints.defaultValue(key));
     for (auto it = changes.cbegin(); it != changes.cend(); ++it)
         input.insert(it.key(), it.value());
     return input;

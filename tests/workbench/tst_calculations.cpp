@@ -205,10 +205,11 @@ private Q_SLOTS:
     {
         QFETCH(QString, task);
         QFETCH(QString, key);
+        const KeltoItemHints hints = hintsOf(task);
         // Of a list, the last number.
         const auto problemWith = [&](const QVariant &value) {
             Changes changes { { "Initial tension", QString() } };
-            if (hintOf(task, "When", key).contains("tube"))
+            if (hints.conditionValues(key).contains("tube"))
                 changes.insert("Section", "tube");
             QStringList list = inputOf(task, {}).value(key).toStringList();
             if (list.size() > 1)
@@ -217,19 +218,16 @@ private Q_SLOTS:
             return outcomeOf(task, changes).problem;
         };
         const QString demand = key + ": enter a number.";
-        if (!hintOf(task, "Choices", key).isEmpty()) {
+        if (!hints.choices(key).isEmpty()) {
             for (const char *choice : { "", "Rectangle", "1" })
                 QCOMPARE(problemWith(choice), key + ": choose one of the values on offer.");
             return;
         }
         QCOMPARE(problemWith("two"), demand);
-        QCOMPARE(problemWith(QString()),
-                 hintOf(task, "Optional", key) == "true" ? QString() : demand);
-        const bool hasMinimum = !hintOf(task, "Min", key).isEmpty();
-        for (const char *limit : { "Min", "Max" }) {
-            const QString text = hintOf(task, limit, key);
-            QVERIFY(text.isEmpty() || problemWith(text).isEmpty());
-        }
+        QCOMPARE(problemWith(QString()), hints.isOptional(key) ? QString() : demand);
+        const bool hasMinimum = hints.minimum(key) > -infinite;
+        for (const double limit : { hints.minimum(key), hints.maximum(key) })
+            QVERIFY(std::isinf(limit) || problemWith(limit).isEmpty());
         QVector<double> refused { infinite, notANumber };
         if (!hasMinimum)
             refused << 0 << -1;
@@ -277,23 +275,6 @@ private Q_SLOTS:
             QCOMPARE(outcomeOf(task, {}).problem, QString("This task has no calculation."));
         QCOMPARE(Wall::steady({}, 20, 0).problem,
                  QString("Layer thickness: enter at least one layer."));
-    }
-
-    /// The hint of a result names the modes that compute it, no more and no less.
-    void resultsBelongToTheirModes()
-    {
-        for (const QString &task : allTasks()) {
-            QStringList belonging;
-            const auto declared = moduleOf(task).output_results;
-            for (const QStringList &entry : declared) {
-                const QString key = entry.value(KeltoParameterEntry::Key);
-                const QString modes = hintOf(task, "Belong", key);
-                if (modes.isEmpty() || modes.split('|').contains(modeOf(task)))
-                    belonging.append(key);
-            }
-            belonging.sort();
-            QCOMPARE(QStringList(resultsOf(outcomeOf(task, {})).keys()), belonging);
-        }
     }
 };
 
