@@ -4,10 +4,22 @@
 #ifndef LANGUAGES_H
 #define LANGUAGES_H
 
+#include <QStringList>
+#include <QVector>
+
+class AUTH_INF;
+class AUTH_SET;
 class QLocale;
 
-/// Installs the translations for the language of @p locale; texts without one stay English. To be
-/// called once, after the QApplication was made and before any text is looked up.
+/// The names of the locales whose languages the program speaks.
+QStringList languageNames();
+
+/// Installs the translations for the language of @p locale in place of those installed before;
+/// texts without one stay English. Windows are told by an event QEvent::LanguageChange.
 void installTranslations(const QLocale &locale);
+
+/// Does that, and gives @p registry the modules @p modules with their texts in the language; what
+/// is selected stays selected.
+void useLanguage(const QLocale &locale, AUTH_SET *registry, QVector<AUTH_INF> modules);
 
 #endif

@@ -8,10 +8,14 @@
 
 int main(int argc, char *argv[])
 {
-    QApplication application(argc, argv);
     nameApplication();
-    const Options options = readOptions(QCoreApplication::arguments());
+    const Options options = [&] {
+        // Help and complaints need no display; a QApplication would end the program without one.
+        const QCoreApplication early(argc, argv);
+        return readOptions(QCoreApplication::arguments());
+    }();
+    QApplication application(argc, argv);
     Workbench workbench(options);
-    workbench.open(options.task);
+    workbench.open(options);
     return QApplication::exec();
 }

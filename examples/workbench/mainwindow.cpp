@@ -3,305 +3,441 @@
 
 #include "mainwindow.h"
 
-#include "numbers.h"
+#include "ui_mainwindow.h"
+
+#include "languages.h"
+#include "report.h"
+#include "studydialog.h"
 
 #include <Kelto/AUTH_SET>
-#include <Kelto/KeltoItemParameterVerify>
+#include <Kelto/Forms/KeltoParameterModel>
 #include <Kelto/UTaskSelectDialog>
-#include <Kelto/VIniSettings>
-#include <Kelto/VParameter>
 
+#include <QCloseEvent>
 #include <QCoreApplication>
-#include <QHBoxLayout>
-#include <QHeaderView>
-#include <QLabel>
-#include <QMenuBar>
-#include <QPushButton>
-#include <QSignalBlocker>
-#include <QTableWidget>
-#include <QVBoxLayout>
-
-#include <algorithm>
+#include <QDir>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QLocale>
+#include <QMessageBox>
+#include <QPdfWriter>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QStyle>
+#include <QUndoStack>
 
 namespace {
 
-enum Column { NameColumn, SymbolColumn, ValueColumn, UnitColumn, GroupColumn };
+// Keys of the set values, which the registry keeps for the next run.
+const QLatin1String lastTask("Task/Last");
+const QLatin1String recentProjects("Project/Recent");
+const QLatin1String geometryKey("Window/Geometry");
+const QLatin1String layoutKey("Window/Layout");
+const QLatin1String languageKey("Window/Language");
 
-/// A table as high as its rows, in which the column of the values takes the remaining width.
-QTableWidget *newTable(const QString &objectName, const QStringList &header)
-{
-    auto *table = new QTableWidget(0, header.size());
-    table->setObjectName(objectName);
-    table->setHorizontalHeaderLabels(header);
-    table->verticalHeader()->hide();
-    table->horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    table->horizontalHeader()->setSectionResizeMode(ValueColumn, QHeaderView::Stretch);
-    table->horizontalHeader()->setHighlightSections(false);
-    table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    table->setAlternatingRowColors(true);
-    table->setSelectionMode(QAbstractItemView::SingleSelection);
-    table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    table->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
-    table->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Maximum);
-    return table;
-}
+const int recentCount = 8;
 
-/// Gives each column but that of the values the same width in both tables.
-void alignColumns(QTableWidget *first, QTableWidget *second)
+/// @p values, with those of @p others in place of their own where both have a key.
+Values overlaid(Values values, const Values &others)
 {
-    const int gap = first->fontMetrics().horizontalAdvance(QLatin1Char('m'));
-    for (const int column : { NameColumn, SymbolColumn, UnitColumn, GroupColumn }) {
-        int width = 0;
-        for (const QTableWidget *table : { first, second }) {
-            const QAbstractItemView *view = table; // declares the size hint public
-            width = std::max({ width, table->horizontalHeader()->sectionSizeHint(column),
-                               view->sizeHintForColumn(column) });
-        }
-        first->setColumnWidth(column, width + gap);
-        second->setColumnWidth(column, width + gap);
+    for (auto &value : values) {
+        const QVariant other = valueOf(others, value.first);
+        if (other.isValid())
+            value.second = other;
     }
-}
-
-/// @param editable whether the user may change the value; the other columns are for reading
-void fillTable(QTableWidget *table, const QVector<VParameter> &parameters, bool editable)
-{
-    const QSignalBlocker blocker(table);
-    table->clearContents();
-    table->setRowCount(parameters.size());
-    for (int row = 0; row < parameters.size(); ++row) {
-        const VParameter &parameter = parameters.at(row);
-        const QStringList texts { parameter.name().second, parameter.symbol(), QString(),
-                                  parameter.unit().first, parameter.group().second };
-        for (int column = 0; column < table->columnCount(); ++column) {
-            auto *item = new QTableWidgetItem(texts.at(column));
-            if (!editable || column != ValueColumn)
-                item->setFlags(item->flags() & ~Qt::ItemIsEditable);
-            table->setItem(row, column, item);
-        }
-    }
-}
-
-void setValueText(QTableWidget *table, int row, const QString &text)
-{
-    const QSignalBlocker blocker(table);
-    table->item(row, ValueColumn)->setText(text);
-    // A list of many numbers may be wider than the column.
-    table->item(row, ValueColumn)->setToolTip(text);
-}
-
-/// The key under which Kelto keeps the value of a parameter, once it has one.
-QString valueKey(const VParameter &parameter)
-{
-    return QStringLiteral("Attribute/") + parameter.name().first;
-}
-
-QLabel *newLabel(const QString &objectName)
-{
-    auto *label = new QLabel;
-    label->setObjectName(objectName);
-    label->setWordWrap(true);
-    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    return label;
-}
-
-QLabel *newHeading(const QString &text, double size)
-{
-    auto *label = new QLabel(text);
-    QFont font = label->font();
-    font.setBold(true);
-    font.setPointSizeF(font.pointSizeF() * size);
-    label->setFont(font);
-    return label;
+    return values;
 }
 
 } // namespace
 
-MainWindow::MainWindow(AUTH_SET *registry)
+MainWindow::MainWindow(AUTH_SET *registry, const QVector<AUTH_INF> &modules)
     : m_registry(registry)
+    , m_modules(modules)
+    , m_place(new QLabel)
+    , ui(std::make_unique<Ui::MainWindow>())
 {
-    setWindowTitle(QCoreApplication::applicationName());
-    createWidgets();
-    createMenu();
-    connect(m_chooseTask, &QPushButton::clicked, this, &MainWindow::chooseTask);
-    connect(m_parameters, &QTableWidget::cellChanged, this, &MainWindow::takeValue);
-    showTask();
-    // The longest task fits with its default values, whatever the font.
+    ui->setupUi(this);
+    // What Qt Designer cannot say.
+    ui->message->setBackgroundRole(QPalette::ToolTipBase);
+    ui->message->setForegroundRole(QPalette::ToolTipText);
+    ui->sheet->setSizes({ 4500, 5500 });
+    ui->resultsAndPlots->setSizes({ 4500, 5500 });
+    ui->newProject->setIcon(style()->standardIcon(QStyle::SP_FileIcon));
+    ui->open->setIcon(style()->standardIcon(QStyle::SP_DialogOpenButton));
+    ui->save->setIcon(style()->standardIcon(QStyle::SP_DialogSaveButton));
+    ui->calculate->setIcon(style()->standardIcon(QStyle::SP_ArrowForward));
+    ui->study->setIcon(style()->standardIcon(QStyle::SP_FileDialogDetailedView));
+    ui->log->toggleViewAction()->setObjectName(QStringLiteral("showLog"));
+    ui->viewMenu->addAction(ui->log->toggleViewAction());
+    ui->statusBar->addPermanentWidget(m_place);
+    m_place->setObjectName(QStringLiteral("place"));
+    connect(ui->undo, &QAction::triggered, this, [this] { m_model->undoStack()->undo(); });
+    connect(ui->redo, &QAction::triggered, this, [this] { m_model->undoStack()->redo(); });
+    connect(ui->defaults, &QAction::triggered, this, [this] { m_model->resetToDefaults(); });
+    connect(ui->languages, &QActionGroup::triggered, this,
+            [this](const QAction *action) { setLanguage(action->objectName()); });
     const QFontMetrics metrics = fontMetrics();
-    setMinimumWidth(100 * metrics.averageCharWidth());
-    resize(120 * metrics.averageCharWidth(), 36 * metrics.height());
+    resize(160 * metrics.averageCharWidth(), 44 * metrics.height());
+    restoreGeometry(m_registry->value_set(geometryKey).toByteArray());
+    restoreState(m_registry->value_set(layoutKey).toByteArray());
+    showTask({}, {});
+}
+
+MainWindow::~MainWindow() = default;
+
+// --- Projects --------------------------------------------------------------------
+
+void MainWindow::newProject()
+{
+    if (!mayGoOn())
+        return;
+    const auto last = tasksNamed(*m_registry, m_registry->value_set(lastTask).toString());
+    if (confirmTask(last.isEmpty() ? allTasks(*m_registry).value(0) : last.first()))
+        startProject(chosenTask());
+}
+
+void MainWindow::startProject(const Task &task)
+{
+    m_project = {};
+    showTask(task, {});
+}
+
+void MainWindow::openProject(const QString &path)
+{
+    if (!mayGoOn())
+        return;
+    Project project = m_project;
+    const QString problem = Project::open(*m_registry, path, &project);
+    if (!problem.isEmpty())
+        return tell(problem);
+    const auto tasks = tasksNamed(*m_registry, project.task());
+    if (!confirmTask(tasks.value(0)))
+        return;
+    m_project = project;
+    const Task task = chosenTask();
+    showTask(task, m_project.values());
+    QStringList sentences = m_project.differences(*m_registry, task);
+    if (tasks.isEmpty())
+        sentences.prepend(
+            tr("The project is for the task \"%1\", which is not on offer.").arg(m_project.task()));
+    if (!m_project.lockProblem().isEmpty())
+        sentences.prepend(tr("The project can only be read. %1").arg(m_project.lockProblem()));
+    tell(sentences.join(QLatin1Char('\n')));
+    remember();
+    log(QStringLiteral("Opened ") + m_project.path());
+}
+
+void MainWindow::chooseProject()
+{
+    const QString path = QFileDialog::getOpenFileName(this, tr("Open project"), m_project.path(),
+                                                      tr("Projects (*.ini)"));
+    if (!path.isEmpty())
+        openProject(path);
+}
+
+bool MainWindow::save()
+{
+    return m_project.path().isEmpty() || !m_project.lockProblem().isEmpty()
+        ? saveAs()
+        : saveTo(m_project.path());
+}
+
+bool MainWindow::saveAs()
+{
+    const QString name = m_project.path().isEmpty()
+        ? m_task.module.codeFunctionName + QLatin1String(".ini")
+        : m_project.path();
+    const QString path
+        = QFileDialog::getSaveFileName(this, tr("Save project"), name, tr("Projects (*.ini)"));
+    return !path.isEmpty() && saveTo(path);
+}
+
+bool MainWindow::saveTo(const QString &path)
+{
+    m_project.setTask(m_task, ui->form->values());
+    const QString problem = m_project.save(*m_registry, path);
+    if (!problem.isEmpty()) {
+        tell(problem);
+        return QMessageBox::question(this, tr("Save project"),
+                                     problem + QLatin1Char('\n')
+                                         + tr("Save the project in another place?"))
+            == QMessageBox::Yes
+            && saveAs();
+    }
+    remember();
+    setWindowModified(false);
+    updateTitle();
+    tell({});
+    ui->statusBar->showMessage(tr("Saved."), 5000);
+    log(QStringLiteral("Saved ") + m_project.path());
+    return true;
+}
+
+/// Puts the project on top of the recent ones.
+void MainWindow::remember()
+{
+    QStringList recent = m_registry->value_set(recentProjects).toStringList();
+    recent.removeAll(m_project.path());
+    recent.prepend(m_project.path());
+    m_registry->setValueInSet(recentProjects, QStringList(recent.mid(0, recentCount)));
+}
+
+/// Whether nothing would be lost, or the user wants it so.
+bool MainWindow::mayGoOn()
+{
+    if (!isWindowModified())
+        return true;
+    const auto answer
+        = QMessageBox::question(this, tr("Save project"),
+                                tr("The project has changes that are not saved."),
+                                QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel,
+                                QMessageBox::Save);
+    return answer == QMessageBox::Discard || (answer == QMessageBox::Save && save());
+}
+
+void MainWindow::offerRecent()
+{
+    ui->recent->clear();
+    const QStringList recent = m_registry->value_set(recentProjects).toStringList();
+    for (const QString &path : recent)
+        ui->recent->addAction(QDir::toNativeSeparators(path).replace(QLatin1Char('&'),
+                                                                     QLatin1String("&&")),
+                              this, [this, path] { openProject(path); });
+}
+
+// --- Tasks -----------------------------------------------------------------------
+
+/// Whether the user accepted a task in Kelto's dialog.
+bool MainWindow::confirmTask(const Task &preselected)
+{
+    selectTask(*m_registry, preselected);
+    UTaskSelectDialog dialog;
+    dialog.setWindowTitle(tr("Confirm task"));
+    // Offers every mode of every exclusive group, with the selected one preselected.
+    dialog.set(m_registry);
+    // Waits until the dialog has closed. Afterwards the registry holds what the user accepted.
+    dialog.show();
+    const bool isAccepted = dialog.operateIndex == 0; // after "Accept" and after "Default"
+    if (!isAccepted)
+        selectTask(*m_registry, m_task);
+    return isAccepted;
+}
+
+/// The task that was accepted in the dialog, which knows names only: where modes of several modules
+/// have one name, the user chooses the module.
+Task MainWindow::chosenTask()
+{
+    const QString name
+        = m_registry->stdModeNameForm(m_registry->current_group, m_registry->current_mode);
+    const QVector<Task> tasks = tasksNamed(*m_registry, name);
+    QStringList modules;
+    for (const Task &task : tasks)
+        modules.append(task.module.name_tr);
+    int chosen = 0;
+    if (tasks.size() > 1)
+        chosen = modules.indexOf(
+            QInputDialog::getItem(this, tr("Confirm task"),
+                                  tr("Several modules have this task. Which one?"), modules, 0,
+                                  false));
+    return tasks.value(qMax(chosen, 0));
 }
 
 void MainWindow::chooseTask()
 {
-    UTaskSelectDialog dialog;
-    dialog.setWindowTitle(tr("Choose task"));
-    // Offers every mode of every exclusive group, with the one accepted last preselected.
-    dialog.set(m_registry);
-    // Waits until the dialog has closed. Afterwards the registry holds what the user accepted.
-    dialog.show();
-    if (dialog.operateIndex != 0) // 0 stands for "Accept" and "Default"
+    if (!confirmTask(m_task))
         return;
-    showCurrentTask();
-}
-
-void MainWindow::showCurrentTask()
-{
-    m_task = currentTask(*m_registry);
-    if (!m_task.isNull()) {
-        rememberTask(*m_registry, m_task);
-        m_registry->log(QStringLiteral("Task: ")
-                        + m_registry->stdModeNameForm(m_task.group.first, m_task.mode.first));
+    // What was entered, and is no default, is kept for other tasks with the same parameters.
+    Values entered;
+    const Values values = ui->form->values();
+    for (const auto &value : values) {
+        if (value.second != m_registry->value_group_at(m_task.id(), value.first))
+            entered.append(value);
     }
-    showTask();
+    m_project.setTask(m_task, entered);
+    showTask(chosenTask(), {});
+    setWindowModified(true);
 }
 
-void MainWindow::showTask()
+/// Shows @p task with @p values; without any with its defaults, in place of which the project may
+/// have values.
+void MainWindow::showTask(const Task &task, const Values &values)
 {
-    if (m_task.isNull()) {
-        m_title->setText(tr("No task chosen"));
-        m_description->setText(
-            tr("Press \"Choose task...\" and accept one of the tasks on offer."));
-    } else {
-        m_title->setText(m_task.title());
-        m_description->setText(m_task.description);
+    m_task = task.inUnitsOf(values);
+    selectTask(*m_registry, task);
+    auto *model = new KeltoParameterModel(m_registry, task.group.first, task.position, this);
+    m_registry->setDefaultSettings(task.id(), model->values());
+    model->setValues(values.isEmpty() ? overlaid(model->values(), m_project.values()) : values);
+    ui->form->setModel(model);
+    delete m_model;
+    m_model = model;
+    ui->sheet->setVisible(!task.isNull());
+    ui->needTask->setEnabled(!task.isNull());
+    m_computation = {};
+    setWindowModified(false);
+    retranslate();
+    if (task.isNull())
+        return;
+    m_registry->setValueInSet(lastTask, task.id());
+    log(QStringLiteral("Task: ") + m_registry->stdModeNameForm(task.group.first, task.mode.first));
+}
+
+void MainWindow::takeEdit()
+{
+    setWindowModified(true);
+    m_computation = {};
+    showResults();
+    tell({});
+}
+
+// --- Results ---------------------------------------------------------------------
+
+void MainWindow::calculate()
+{
+    m_computation = {};
+    const auto findings = ui->form->findings();
+    if (!findings.isEmpty()) {
+        showResults();
+        ui->form->focusParameter(findings.first().valueKey.section(QLatin1Char('/'), 1));
+        return tell(findings.first().text());
     }
-    m_sheet->setVisible(!m_task.isNull());
-    fillParameters();
-    fillTable(m_results, m_task.results, false);
-    alignColumns(m_parameters, m_results);
-    recalculate();
-}
-
-void MainWindow::createMenu()
-{
-    QMenu *menu = menuBar()->addMenu(tr("&Task"));
-    menu->addAction(tr("&Choose task..."), this, &MainWindow::chooseTask,
-                    QKeySequence(Qt::CTRL + Qt::Key_T));
-    menu->addSeparator();
-    menu->addAction(tr("&Quit"), this, &MainWindow::close, QKeySequence::Quit);
-}
-
-void MainWindow::createWidgets()
-{
-    m_title = newHeading(QString(), 1.4);
-    m_title->setObjectName(QStringLiteral("title"));
-    m_description = newLabel(QStringLiteral("description"));
-    m_message = newLabel(QStringLiteral("message"));
-    m_chooseTask = new QPushButton(tr("Choose task..."));
-    m_chooseTask->setObjectName(QStringLiteral("chooseTask"));
-    const QStringList columns { tr("Name"), tr("Symbol"), tr("Value"), tr("Unit"), tr("Group") };
-    m_parameters = newTable(QStringLiteral("parameters"), columns);
-    m_results = newTable(QStringLiteral("results"), columns);
-
-    auto *header = new QHBoxLayout;
-    header->addWidget(m_title, 1);
-    header->addWidget(m_chooseTask);
-
-    m_sheet = new QWidget;
-    auto *sheetLayout = new QVBoxLayout(m_sheet);
-    sheetLayout->setContentsMargins({});
-    sheetLayout->addWidget(newHeading(tr("Parameters"), 1.1));
-    sheetLayout->addWidget(m_parameters);
-    sheetLayout->addWidget(newHeading(tr("Results"), 1.1));
-    sheetLayout->addWidget(m_results);
-    sheetLayout->addWidget(m_message);
-
-    setCentralWidget(new QWidget);
-    auto *layout = new QVBoxLayout(centralWidget());
-    layout->addLayout(header);
-    layout->addWidget(m_description);
-    layout->addWidget(m_sheet);
-    layout->addStretch();
-}
-
-void MainWindow::fillParameters()
-{
-    fillTable(m_parameters, m_task.parameters, true);
-    for (int row = 0; row < m_task.parameters.size(); ++row) {
-        const QString key = m_task.parameters.at(row).name().first;
-        const QString text = Calculator::hintText(m_task.module, m_task.mode.first,
-                                                  QStringLiteral("Default"), key);
-        setValueText(m_parameters, row, m_enteredTexts.value(key, text));
-    }
-}
-
-void MainWindow::takeValue(int row)
-{
-    const QString text = m_parameters->item(row, ValueColumn)->text();
-    setValueText(m_parameters, row, text);
-    m_enteredTexts.insert(m_task.parameters.at(row).name().first, text);
-    recalculate();
-}
-
-void MainWindow::recalculate()
-{
-    if (m_task.isNull())
-        return showProblem(QString());
-
-    const Outcome<Values> entered = enteredValues();
-    if (!entered.isValid())
-        return showProblem(entered.problem);
-
-    m_registry->getCalculationLData(entered.result);
-    const Outcome<Computation> computed
-        = Calculator::calculate(m_task.module, m_task.mode.first, valuesInRegistry());
-    if (!computed.isValid())
-        return showProblem(computed.problem);
-    showResults(computed.result.results);
-}
-
-/// The values of the table with their units, as AUTH_SET::getCalculationLData() takes them.
-Outcome<Values> MainWindow::enteredValues() const
-{
-    Outcome<Values> values;
-    QStringList missing;
-    for (int row = 0; row < m_task.parameters.size(); ++row) {
-        const VParameter &parameter = m_task.parameters.at(row);
-        const QString text = m_parameters->item(row, ValueColumn)->text();
-        if (text.trimmed().isEmpty()) {
-            missing.append(parameter.name().second);
-            continue;
-        }
-        const bool isNumber = parameter.parameterObjectName() != QLatin1String("choice");
-        const auto value
-            = isNumber ? valueFromText(text, parameter.isMulti()) : Outcome<QVariant> { text, {} };
-        if (!value.isValid())
-            return { {}, tr("%1: %2").arg(parameter.name().second, value.problem) };
-        values.result.append({ valueKey(parameter), value.result });
-        values.result.append(
-            { QStringLiteral("Unit/") + parameter.name().first, parameter.unit().first });
-    }
-    if (!KeltoItemParameterVerify::isValid(&m_task.module, &values.result, m_task.mode.first))
-        return { {}, tr("%1: enter a number.").arg(missing.join(QStringLiteral(", "))) };
-    return values;
-}
-
-Values MainWindow::valuesInRegistry() const
-{
+    // From here on the registry holds the input for every part of the program.
+    m_registry->getCalculationLData(ui->form->values());
     Values values;
-    for (const VParameter &parameter : m_task.parameters)
-        values.append({ valueKey(parameter), m_registry->value_cal(valueKey(parameter)) });
-    return values;
-}
-
-void MainWindow::showResults(const Values &results)
-{
-    const VIniSettings values(results);
-    for (int row = 0; row < m_task.results.size(); ++row) {
-        const VParameter &result = m_task.results.at(row);
-        const QVariant value = values.value(valueKey(result));
-        setValueText(m_results, row, textFromNumbers(numbersFromValue(value, result.isMulti())));
+    for (const VParameter &parameter : qAsConst(m_task.parameters)) {
+        for (const char *group : { "Attribute/", "Unit/" }) {
+            const QString key = QLatin1String(group) + parameter.name().first;
+            values.append({ key, m_registry->value_cal(key) });
+        }
     }
-    m_message->setPalette(palette());
-    m_message->setText(tr("All values are valid. Change one, and the results follow."));
+    const auto outcome = Calculator::calculate(m_task.module, m_task.mode.first, values);
+    m_computation = outcome.result;
+    showResults();
+    tell(outcome.problem);
+    log(QStringLiteral("Calculated: ")
+        + (outcome.isValid() ? QStringLiteral("done") : outcome.problem));
 }
 
-void MainWindow::showProblem(const QString &problem)
+void MainWindow::showResults()
 {
-    for (int row = 0; row < m_results->rowCount(); ++row)
-        setValueText(m_results, row, QStringLiteral("–"));
-    QPalette red = palette();
-    red.setColor(QPalette::WindowText, Qt::darkRed);
-    m_message->setPalette(red);
-    m_message->setText(problem);
+    ui->results->setResults(m_computation.results.isEmpty() ? QVector<VParameter>()
+                                                            : m_task.results,
+                            m_computation.results, m_task.hints);
+    ui->plots->setCurves(m_computation.curves);
+    ui->output->setCurrentIndex(m_computation.results.isEmpty() ? 0 : 1);
+}
+
+void MainWindow::studyParameter()
+{
+    calculate();
+    if (m_computation.results.isEmpty())
+        return;
+    StudyDialog(m_registry, m_task, ui->form->values(), this).exec();
+}
+
+void MainWindow::exportReport()
+{
+    calculate();
+    if (m_computation.results.isEmpty())
+        return;
+    const QString path
+        = QFileDialog::getSaveFileName(this, tr("Export report"), QStringLiteral("report.pdf"),
+                                       tr("Documents (*.pdf)"));
+    if (path.isEmpty())
+        return;
+    QPdfWriter writer(path);
+    writer.setPageSize(QPageSize(QPageSize::A4));
+    writer.setPageMargins({ 18, 15, 18, 15 }, QPageLayout::Millimeter);
+    writer.setTitle(m_task.title());
+    makeReport(&writer, path);
+}
+
+void MainWindow::printReport()
+{
+    calculate();
+    QPrinter printer(QPrinter::HighResolution);
+    if (!m_computation.results.isEmpty()
+        && QPrintDialog(&printer, this).exec() == QDialog::Accepted)
+        makeReport(&printer, printer.printerName());
+}
+
+void MainWindow::makeReport(QPagedPaintDevice *device, const QString &place)
+{
+    const Report report { m_project.path(), m_task, ui->form->values(), m_computation.results };
+    if (!report.print(device, ui->plots))
+        return tell(tr("\"%1\" cannot be written.").arg(QDir::toNativeSeparators(place)));
+    ui->statusBar->showMessage(tr("Exported."), 5000);
+    log(QStringLiteral("Exported ") + place);
+}
+
+// --- Window ----------------------------------------------------------------------
+
+void MainWindow::setLanguage(const QString &name)
+{
+    m_registry->setValueInSet(languageKey, name);
+    useLanguage(QLocale(name), m_registry, m_modules);
+    log(QStringLiteral("Language: ") + name);
+}
+
+void MainWindow::changeEvent(QEvent *event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        ui->retranslateUi(this);
+        m_task = taskAt(*m_registry, m_task.group.first, m_task.position)
+                     .inUnitsOf(ui->form->values());
+        retranslate();
+    }
+}
+
+void MainWindow::retranslate()
+{
+    ui->title->setText(m_task.isNull() ? tr("No project") : m_task.title());
+    ui->description->setText(m_task.module.description + QLatin1Char('\n') + m_task.description);
+    ui->description->setVisible(!m_task.isNull());
+    tell(m_task.isNull() ? tr("Begin a new project, or open one.") : QString());
+    updateTitle();
+    showResults();
+}
+
+void MainWindow::updateTitle()
+{
+    const QString name
+        = m_project.path().isEmpty() ? tr("New project") : QFileInfo(m_project.path()).fileName();
+    setWindowTitle(QStringLiteral("%1[*] - %2").arg(name, QCoreApplication::applicationName()));
+    QString place = QDir::toNativeSeparators(m_project.path());
+    if (!m_project.lockProblem().isEmpty())
+        place = tr("%1 (read only)").arg(place);
+    m_place->setText(place);
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    if (!mayGoOn())
+        return event->ignore();
+    m_registry->setValueInSet(geometryKey, saveGeometry());
+    m_registry->setValueInSet(layoutKey, saveState());
+    log(QStringLiteral("Ended"));
+    QMainWindow::closeEvent(event);
+}
+
+/// Says something in the window until the next step; nothing to take it away.
+void MainWindow::tell(const QString &message)
+{
+    ui->message->setText(message);
+    ui->message->setVisible(!message.isEmpty());
+}
+
+void MainWindow::log(const QString &line)
+{
+    m_registry->log(line);
+    ui->logText->follow(m_registry->filepath_log());
+}
+
+void MainWindow::about()
+{
+    QMessageBox::about(this, tr("About %1").arg(QCoreApplication::applicationName()),
+                       tr("%1 %2 computes beams, springs, vessels and walls.\n\n"
+                          "The assumptions of each formula stand with its task.")
+                           .arg(QCoreApplication::applicationName(),
+                                QCoreApplication::applicationVersion()));
 }

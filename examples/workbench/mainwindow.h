@@ -4,57 +4,83 @@
 #ifndef MAINWINDOW_H
 #define MAINWINDOW_H
 
-#include "calculator.h"
-#include "task.h"
+#include "project.h"
 
 #include <QMainWindow>
-#include <QMap>
+
+#include <memory>
 
 class AUTH_SET;
+class KeltoParameterModel;
 class QLabel;
-class QPushButton;
-class QTableWidget;
+class QPagedPaintDevice;
 
-/// Shows the chosen task: its description, a table of parameters to fill in, and the results, which
-/// are computed anew whenever a value changes.
+namespace Ui {
+class MainWindow;
+}
+
+/// Shows a project: its task, the form to fill in, and what was computed from it. Which menus and
+/// actions there are, and what they call, says mainwindow.ui.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
 
 public:
     /// @param registry has to outlive the window.
-    explicit MainWindow(AUTH_SET *registry);
+    /// @param modules those of the registry, as their files have them
+    MainWindow(AUTH_SET *registry, const QVector<AUTH_INF> &modules);
+    ~MainWindow() override;
 
-    /// Lets the user choose a task in Kelto's dialog; after "Cancel" everything stays as it was.
+    /// Begins a new project without asking for its task.
+    void startProject(const Task &task);
+    /// Opens the project at @p path and lets the user confirm its task. What cannot be opened is
+    /// said in the window, and the project in it stays.
+    void openProject(const QString &path);
+
+public Q_SLOTS:
+    /// Lets the user choose a task for a new project.
+    void newProject();
+
+protected:
+    void changeEvent(QEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
+
+private Q_SLOTS:
+    void chooseProject();
+    bool save();
+    bool saveAs();
+    void offerRecent();
     void chooseTask();
-
-    /// Shows the task that is selected in the registry, and remembers it.
-    void showCurrentTask();
+    void takeEdit();
+    void calculate();
+    void studyParameter();
+    void exportReport();
+    void printReport();
+    void about();
 
 private:
-    void createMenu();
-    void createWidgets();
-    void showTask();
-    void fillParameters();
-    void takeValue(int row);
-    void recalculate();
-    Outcome<Values> enteredValues() const;
-    Values valuesInRegistry() const;
-    void showResults(const Values &results);
-    void showProblem(const QString &problem);
+    bool saveTo(const QString &path);
+    void remember();
+    bool mayGoOn();
+    bool confirmTask(const Task &preselected);
+    Task chosenTask();
+    void showTask(const Task &task, const Values &values);
+    void showResults();
+    void makeReport(QPagedPaintDevice *device, const QString &place);
+    void setLanguage(const QString &name);
+    void retranslate();
+    void updateTitle();
+    void tell(const QString &message);
+    void log(const QString &line);
 
     AUTH_SET *m_registry;
+    QVector<AUTH_INF> m_modules;
+    Project m_project;
     Task m_task;
-    /// What the user typed, by parameter key; kept when another task is chosen.
-    QMap<QString, QString> m_enteredTexts;
-    QLabel *m_title = nullptr;
-    QLabel *m_description = nullptr;
-    QPushButton *m_chooseTask = nullptr;
-    /// Everything about a task below its description; hidden without a task.
-    QWidget *m_sheet = nullptr;
-    QTableWidget *m_parameters = nullptr;
-    QTableWidget *m_results = nullptr;
-    QLabel *m_message = nullptr;
+    Computation m_computation;
+    KeltoParameterModel *m_model = nullptr;
+    QLabel *m_place;
+    std::unique_ptr<Ui::MainWindow> ui;
 };
 
 #endif

@@ -3,8 +3,6 @@
 
 #include "modules.h"
 
-#include "moduletexts.h"
-
 #include <Kelto/AUTH_INF>
 
 #include <QCoreApplication>
@@ -24,7 +22,6 @@ Outcome<AUTH_INF> moduleFromFile(const QFileInfo &file)
                  QStringLiteral("The file \"%1\" holds no module: the section \"KeltoItem\" "
                                 "with a \"name\" is missing.")
                      .arg(file.filePath()) };
-    translateTexts(module);
     return { module, {} };
 }
 

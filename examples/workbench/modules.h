@@ -6,14 +6,14 @@
 
 #include "calculations/outcome.h"
 
+#include <QCoreApplication>
 #include <QString>
 #include <QVector>
 
 class AUTH_INF;
 
-// The calculation modules of the workbench, with their texts in the language of the program (so the
-// translations have to be installed before). Each module is described in one place, a file of the
-// directory "modules", and reaches the program in either of two ways.
+// The calculation modules of the workbench. Each is described in one place, a file of the directory
+// "modules", and reaches the program in either of two ways.
 
 /// Where the files lie unless the user says otherwise: beside the program.
 QString moduleDirectory();
@@ -25,5 +25,12 @@ Outcome<QVector<AUTH_INF>> modulesFromFiles(const QString &directory);
 /// The modules of the same files as they were when the program was built. The generator writes this
 /// function.
 QVector<AUTH_INF> compiledModules();
+
+/// The translation context of the modules: the name that their files hold as "Tr_ObjectName", and
+/// the class whose tr() the source text made from the files calls.
+class ModuleTexts
+{
+    Q_DECLARE_TR_FUNCTIONS(ModuleTexts)
+};
 
 #endif

@@ -3,84 +3,103 @@
 
 #include "task.h"
 
-#include "calculator.h"
-
 #include <Kelto/AUTH_SET>
+#include <Kelto/KeltoParameterEntry>
 
 #include <algorithm>
 #include <iterator>
 
-namespace {
-
-/// Where the settings of the program hold the task that was remembered last.
-QString lastTaskKey()
+QVariant valueOf(const Values &values, const QString &key)
 {
-    return QStringLiteral("Task/Last");
+    for (const auto &value : values) {
+        if (value.first == key)
+            return value.second;
+    }
+    return {};
 }
-
-/// The results that the mode has; the module declares those of all its modes.
-QVector<VParameter> resultsOf(const AUTH_SET &registry, const AUTH_INF &module, const QString &mode)
-{
-    const QVector<VParameter> declared = registry.defaultResultList(&module);
-    QVector<VParameter> results;
-    std::copy_if(declared.cbegin(), declared.cend(), std::back_inserter(results),
-                 [&](const VParameter &result) {
-                     const QString modes
-                         = Calculator::hintText(module, mode, QStringLiteral("Belong"),
-                                                result.name().first);
-                     return modes.isEmpty() || modes.split(QLatin1Char('|')).contains(mode);
-                 });
-    return results;
-}
-
-} // namespace
 
 QString Task::title() const
 {
     return QStringLiteral("%1 › %2 › %3").arg(group.second, module.name_tr, mode.second);
 }
 
-Task currentTask(const AUTH_SET &registry)
+QString Task::id() const
 {
-    // The registry counts the modes of a group over all of its modules: position 3 of "Statics" is
-    // the first mode of the second module.
-    const QString group = registry.current_group;
-    const int position = registry.exclusive_group_select(group);
-    const QString moduleName = registry.exclusive_group_orginal_model(group, position);
-    if (moduleName.isEmpty())
-        return {};
+    return group.first + QLatin1Char('/') + module.name + QLatin1Char('/') + mode.first;
+}
 
-    Task task;
-    task.group = registry.findExclusiveGroupName(group);
-    task.mode = registry.currentExclusiveGroupSelect(group);
-    task.description = registry.exclusive_group_mode_description(group).value(position).second;
-    task.parameters = registry.defaultParameterList(group, task.mode.first);
-    task.module = registry.AUTH_INF_DATA().value(registry.index(moduleName));
-    task.results = resultsOf(registry, task.module, task.mode.first);
+Task Task::inUnitsOf(const Values &values) const
+{
+    Task task = *this;
+    for (VParameter &parameter : task.parameters) {
+        QStringList sets = parameter.toSetsForm();
+        const QVariant unit = valueOf(values, QStringLiteral("Unit/") + parameter.name().first);
+        sets[KeltoParameterEntry::Unit] = unit.isValid() ? unit.toString() : parameter.unit().first;
+        parameter.set(sets);
+    }
     return task;
 }
 
-bool selectTask(AUTH_SET &registry, const QString &standardName)
+Task taskAt(const AUTH_SET &registry, const QString &group, int position)
 {
-    const QString plainName = registry.currentModeMatching({ standardName }).value(0);
-    const QStringList parts = plainName.split(QLatin1Char(':'));
-    if (parts.size() != 3) // application, group, mode
-        return false;
+    // The registry counts the modes of a group over all of its modules: position 3 of "Statics" is
+    // the first mode of the second module.
+    const auto modes = registry.exclusive_group_mode_description(group);
+    if (position < 0 || position >= modes.size())
+        return {};
+    const int module = modes.at(position).first;
+    const auto first = std::find_if(modes.cbegin(), modes.cend(),
+                                    [module](const auto &mode) { return mode.first == module; });
+    const int mode = position - int(std::distance(modes.cbegin(), first));
 
-    registry.current_group = parts.at(1);
-    registry.current_mode = parts.at(2);
-    registry.exclusive_group_set_mode(registry.current_group, registry.current_mode);
-    return true;
+    Task task;
+    task.group = registry.findExclusiveGroupName(group);
+    task.position = position;
+    task.module = registry.AUTH_INF_DATA().value(module);
+    task.mode = { task.module.inner_mode_nameList.value(mode),
+                  task.module.inner_mode_nameList_tr.value(mode) };
+    task.description = modes.at(position).second;
+    task.hints = KeltoItemHints(&registry, group, position);
+    task.parameters = task.hints.parameters();
+    task.results = task.hints.results();
+    return task;
 }
 
-void rememberTask(AUTH_SET &registry, const Task &task)
+Task currentTask(const AUTH_SET &registry)
 {
-    registry.setValueInSet(lastTaskKey(),
-                           registry.stdModeNameForm(task.group.first, task.mode.first));
+    return taskAt(registry, registry.current_group,
+                  registry.exclusive_group_select(registry.current_group));
 }
 
-void recallTask(AUTH_SET &registry)
+QVector<Task> allTasks(const AUTH_SET &registry)
 {
-    if (!selectTask(registry, registry.value_set(lastTaskKey()).toString()))
-        selectTask(registry, registry.currentModeList().value(0).first);
+    QVector<Task> tasks;
+    const QStringList groups = registry.exclusive_group_namelist();
+    for (const QString &group : groups) {
+        const int count = registry.exclusive_group_mode_count(group);
+        for (int position = 0; position < count; ++position)
+            tasks.append(taskAt(registry, group, position));
+    }
+    return tasks;
+}
+
+void selectTask(AUTH_SET &registry, const Task &task)
+{
+    if (task.isNull())
+        return;
+    registry.current_group = task.group.first;
+    registry.current_mode = task.mode.first;
+    registry.exclusive_group_set_mode(task.group.first, task.position);
+}
+
+QVector<Task> tasksNamed(const AUTH_SET &registry, const QString &standardName)
+{
+    QVector<Task> tasks = allTasks(registry);
+    const auto isOther = [&](const Task &task) {
+        return standardName != task.id()
+            && standardName != registry.stdModeNameForm(task.group.first, task.mode.first)
+            && standardName != registry.stdModeNameForm(task.group.second, task.mode.second);
+    };
+    tasks.erase(std::remove_if(tasks.begin(), tasks.end(), isOther), tasks.end());
+    return tasks;
 }

@@ -4,46 +4,63 @@
 #ifndef TASK_H
 #define TASK_H
 
+#include "calculator.h"
+
 #include <Kelto/AUTH_INF>
+#include <Kelto/KeltoItemHints>
 #include <Kelto/VParameter>
 
 #include <QPair>
 #include <QString>
+#include <QVariant>
 #include <QVector>
 
 class AUTH_SET;
+
+/// The value of @p key in @p values; invalid when there is none.
+QVariant valueOf(const Values &values, const QString &key);
 
 /// One mode of one exclusive group with everything that the window shows of it. Names are pairs of
 /// the plain name, which the program works with, and the translated one, which the user reads.
 struct Task
 {
     QPair<QString, QString> group;
+    /// Of the mode in its group. It tells modes apart whose modules gave them one name.
+    int position = -1;
     AUTH_INF module;
     QPair<QString, QString> mode;
     QString description;
-    /// Sorted by plain name, as Kelto returns them.
+    KeltoItemHints hints;
+    /// In the order of the hints.
     QVector<VParameter> parameters;
     QVector<VParameter> results;
 
-    bool isNull() const { return mode.first.isEmpty(); }
+    bool isNull() const { return position < 0; }
 
     /// Group, module and mode as a heading for the user.
     QString title() const;
+    /// The same task with the units in which @p values are given, where these differ.
+    Task inUnitsOf(const Values &values) const;
+    /// Group, module and mode by their plain names, joined by "/": the name in a project.
+    QString id() const;
 };
+
+/// The mode at @p position of @p group; a null task when there is none.
+Task taskAt(const AUTH_SET &registry, const QString &group, int position);
 
 /// The task that is selected in the registry: the selected mode of the group that was accepted
 /// last. A null task as long as none was accepted.
 Task currentTask(const AUTH_SET &registry);
 
-/// Selects the task with the plain or translated standard mode name @p standardName just as
-/// accepting it in the dialog does. Returns false and changes nothing when there is no such task.
-bool selectTask(AUTH_SET &registry, const QString &standardName);
+/// All tasks on offer, in the order of the groups and modes.
+QVector<Task> allTasks(const AUTH_SET &registry);
 
-/// Keeps @p task for recallTask() in the settings of the program.
-void rememberTask(AUTH_SET &registry, const Task &task);
+/// Selects @p task just as accepting it in the dialog does, but by its position; a null task
+/// changes nothing.
+void selectTask(AUTH_SET &registry, const Task &task);
 
-/// Selects the task that was remembered last, be it in an earlier run; the first one when there is
-/// none or when it is no longer on offer.
-void recallTask(AUTH_SET &registry);
+/// The tasks with the plain or translated standard mode name @p standardName, or with @p
+/// standardName as Task::id(). Modes of several modules may share one name.
+QVector<Task> tasksNamed(const AUTH_SET &registry, const QString &standardName);
 
 #endif

@@ -28,14 +28,6 @@ QVector<AUTH_INF> modulesFor(const Options &options)
     return modules.result;
 }
 
-/// Installs the translations first: the texts of the modules are looked up when these are read.
-AUTH_SET registryFor(const Options &options)
-{
-    installTranslations(options.language.isEmpty() ? QLocale() : QLocale(options.language));
-    return { QCoreApplication::applicationName(), QCoreApplication::applicationVersion(),
-             modulesFor(options) };
-}
-
 QString unknownTask(const AUTH_SET &registry, const QString &task)
 {
     QStringList lines { QStringLiteral("Unknown task: ") + task, QStringLiteral("Known tasks:") };
@@ -54,22 +46,27 @@ void nameApplication()
 }
 
 Workbench::Workbench(const Options &options)
-    : m_registry(registryFor(options))
-    , m_window(&m_registry)
+    : m_modules(modulesFor(options))
+    , m_registry(QCoreApplication::applicationName(), QCoreApplication::applicationVersion(),
+                 m_modules)
+    , m_window(&m_registry, m_modules)
 {
+    const QString last = m_registry.value_set(QStringLiteral("Window/Language")).toString();
+    const QString language = options.language.isEmpty() ? last : options.language;
+    useLanguage(language.isEmpty() ? QLocale() : QLocale(language), &m_registry, m_modules);
 }
 
-void Workbench::open(const QString &task)
+void Workbench::open(const Options &options)
 {
     m_registry.log(QStringLiteral("Started, version ") + QCoreApplication::applicationVersion());
-    if (task.isEmpty()) {
-        recallTask(m_registry);
-        m_window.chooseTask();
-    } else {
-        // With a task on the command line there is nothing to ask.
-        if (!selectTask(m_registry, task))
-            quit(Failed, unknownTask(m_registry, task));
-        m_window.showCurrentTask();
-    }
+    const QVector<Task> tasks = tasksNamed(m_registry, options.task);
+    if (!options.task.isEmpty() && tasks.isEmpty())
+        quit(Failed, unknownTask(m_registry, options.task));
     m_window.show();
+    if (!options.task.isEmpty())
+        m_window.startProject(tasks.first());
+    else if (options.project.isEmpty())
+        m_window.newProject();
+    if (!options.project.isEmpty())
+        m_window.openProject(options.project);
 }

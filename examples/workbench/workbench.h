@@ -13,7 +13,7 @@ struct Options;
 /// Gives the application its name and version, which the registry and "--version" tell.
 void nameApplication();
 
-/// The program from its start on: the language, the modules, the one registry, the window.
+/// The program from its start on: the modules, the one registry, the language, the window.
 class Workbench
 {
 public:
@@ -23,11 +23,14 @@ public:
     const AUTH_SET &registry() const { return m_registry; }
     MainWindow &window() { return m_window; }
 
-    /// Opens the window with the task @p task, and ends the program with a message when there is no
-    /// such task. Without one the user is asked, and the task of the earlier run is on offer.
-    void open(const QString &task);
+    /// Opens the window with the project or the task of @p options, and ends the program with a
+    /// message when there is no such task. Without a task the user is asked, and that of the
+    /// project or of the earlier run is on offer.
+    void open(const Options &options);
 
 private:
+    /// As their files have them, in no language in particular.
+    QVector<AUTH_INF> m_modules;
     // The one registry of the program. It has to outlive everything that asks it.
     AUTH_SET m_registry;
     MainWindow m_window;

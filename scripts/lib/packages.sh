@@ -10,16 +10,21 @@ build_packages=(
     g++ cmake ninja-build
     qtbase5-dev qttools5-dev qttools5-dev-tools # Qt 5, and its tools for translations
 )
+host_packages=(
+    libqwt-qt5-dev                       # the plots of the example host
+    qttranslations5-l10n                 # the buttons of Qt's own dialogs in Chinese
+    fonts-dejavu-core fonts-wqy-microhei # Latin and Chinese glyphs
+)
 walk_packages=(
     pkg-config libxcb1-dev libxcb-xtest0-dev # the walk sends real input events
-    xvfb xauth                               # where there is no display
-    fonts-dejavu-core fonts-wqy-microhei     # Latin and Chinese glyphs
+    xvfb xauth openbox                       # where there is no display
 )
 test_packages=(
     make pkg-config          # hosts built with qmake and pkg-config
     clazy libclang-rt-14-dev # Clang with the checks of Qt code, and its sanitizers
     libbenchmark-dev clang-format-14 shellcheck codespell
-    python3 # plants faults
+    python3       # plants faults
+    poppler-utils # reads the report of the example host
 )
 fuzz_packages=(clang-14 libclang-rt-14-dev llvm-14)
 

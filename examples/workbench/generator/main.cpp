@@ -84,8 +84,7 @@ QString sourceText(const QStringList &moduleFiles)
     return QStringLiteral("// Generated from the module files. Change those, not this one.\n\n"
                           "// The texts below are plain literals.\n"
                           "#undef QT_NO_CAST_FROM_ASCII\n\n"
-                          "#include \"modules.h\"\n"
-                          "#include \"moduletexts.h\"\n\n"
+                          "#include \"modules.h\"\n\n"
                           "#include <Kelto/AUTH_INF>\n\n"
                           "namespace {\n\n")
         + functions + QLatin1String("[[maybe_unused]] const char *const hintTexts[] = {\n") + texts

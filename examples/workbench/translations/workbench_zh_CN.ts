@@ -47,18 +47,6 @@
 <context>
     <name>MainWindow</name>
     <message>
-        <source>Choose task</source>
-        <translation>选择任务</translation>
-    </message>
-    <message>
-        <source>No task chosen</source>
-        <translation>未选择任务</translation>
-    </message>
-    <message>
-        <source>Press &quot;Choose task...&quot; and accept one of the tasks on offer.</source>
-        <translation>请按“选择任务...”，并确认其中一个任务。</translation>
-    </message>
-    <message>
         <source>&amp;Task</source>
         <translation>任务(&amp;T)</translation>
     </message>
@@ -71,48 +59,172 @@
         <translation>退出(&amp;Q)</translation>
     </message>
     <message>
-        <source>Choose task...</source>
-        <translation>选择任务...</translation>
+        <source>Calculate (F5) gives results and plots here.</source>
+        <translation>计算 (F5) 后在此显示结果和曲线。</translation>
     </message>
     <message>
-        <source>Name</source>
-        <translation>名称</translation>
+        <source>&amp;Project</source>
+        <translation>项目(&amp;P)</translation>
     </message>
     <message>
-        <source>Symbol</source>
-        <translation>符号</translation>
+        <source>&amp;Recent projects</source>
+        <translation>最近的项目(&amp;R)</translation>
     </message>
     <message>
-        <source>Value</source>
-        <translation>数值</translation>
+        <source>&amp;View</source>
+        <translation>视图(&amp;V)</translation>
     </message>
     <message>
-        <source>Unit</source>
-        <translation>单位</translation>
+        <source>L&amp;anguage</source>
+        <translation>语言(&amp;A)</translation>
     </message>
     <message>
-        <source>Group</source>
-        <translation>分组</translation>
+        <source>&amp;Help</source>
+        <translation>帮助(&amp;H)</translation>
     </message>
     <message>
-        <source>Parameters</source>
-        <translation>参数</translation>
+        <source>Tool bar</source>
+        <translation>工具栏</translation>
     </message>
     <message>
-        <source>Results</source>
-        <translation>结果</translation>
+        <source>Log</source>
+        <translation>日志</translation>
     </message>
     <message>
-        <source>%1: %2</source>
-        <translation>%1：%2</translation>
+        <source>&amp;New...</source>
+        <translation>新建(&amp;N)...</translation>
     </message>
     <message>
-        <source>All values are valid. Change one, and the results follow.</source>
-        <translation>所有数值均有效。修改数值后结果随即更新。</translation>
+        <source>&amp;Open...</source>
+        <translation>打开(&amp;O)...</translation>
     </message>
     <message>
-        <source>%1: enter a number.</source>
-        <translation>%1：请输入数值。</translation>
+        <source>Reset &amp;zoom</source>
+        <translation>重置缩放(&amp;Z)</translation>
+    </message>
+    <message>
+        <source>&amp;About...</source>
+        <translation>关于(&amp;A)...</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>保存(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Save &amp;as...</source>
+        <translation>另存为(&amp;A)...</translation>
+    </message>
+    <message>
+        <source>&amp;Export report...</source>
+        <translation>导出报告(&amp;E)...</translation>
+    </message>
+    <message>
+        <source>&amp;Print report...</source>
+        <translation>打印报告(&amp;P)...</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>撤销(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>重做(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Default values</source>
+        <translation>默认值(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Ca&amp;lculate</source>
+        <translation>计算(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Parameter study...</source>
+        <translation>参数研究(&amp;P)...</translation>
+    </message>
+    <message>
+        <source>The project is for the task &quot;%1&quot;, which is not on offer.</source>
+        <translation>该项目所属的任务“%1”不在可选范围内。</translation>
+    </message>
+    <message>
+        <source>The project can only be read. %1</source>
+        <translation>该项目只能读取。%1</translation>
+    </message>
+    <message>
+        <source>Open project</source>
+        <translation>打开项目</translation>
+    </message>
+    <message>
+        <source>Projects (*.ini)</source>
+        <translation>项目 (*.ini)</translation>
+    </message>
+    <message>
+        <source>Save project</source>
+        <translation>保存项目</translation>
+    </message>
+    <message>
+        <source>Save the project in another place?</source>
+        <translation>是否将项目保存到其他位置？</translation>
+    </message>
+    <message>
+        <source>Saved.</source>
+        <translation>已保存。</translation>
+    </message>
+    <message>
+        <source>The project has changes that are not saved.</source>
+        <translation>项目有未保存的更改。</translation>
+    </message>
+    <message>
+        <source>Confirm task</source>
+        <translation>确认任务</translation>
+    </message>
+    <message>
+        <source>Several modules have this task. Which one?</source>
+        <translation>有多个模块提供该任务。请选择模块：</translation>
+    </message>
+    <message>
+        <source>Export report</source>
+        <translation>导出报告</translation>
+    </message>
+    <message>
+        <source>Documents (*.pdf)</source>
+        <translation>文档 (*.pdf)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be written.</source>
+        <translation>无法写入“%1”。</translation>
+    </message>
+    <message>
+        <source>Exported.</source>
+        <translation>已导出。</translation>
+    </message>
+    <message>
+        <source>No project</source>
+        <translation>没有项目</translation>
+    </message>
+    <message>
+        <source>Begin a new project, or open one.</source>
+        <translation>请新建或打开一个项目。</translation>
+    </message>
+    <message>
+        <source>New project</source>
+        <translation>新项目</translation>
+    </message>
+    <message>
+        <source>%1 (read only)</source>
+        <translation>%1（只读）</translation>
+    </message>
+    <message>
+        <source>About %1</source>
+        <translation>关于 %1</translation>
+    </message>
+    <message>
+        <source>%1 %2 computes beams, springs, vessels and walls.
+
+The assumptions of each formula stand with its task.</source>
+        <translation>%1 %2 可计算梁、弹簧、容器和墙壁。
+
+每个公式的假设见其任务说明。</translation>
     </message>
 </context>
 <context>
@@ -803,14 +915,41 @@
     </message>
 </context>
 <context>
-    <name>Numbers</name>
+    <name>Project</name>
     <message>
-        <source>&quot;%1&quot; is not a number. Write decimals with a point and separate the numbers by semicolons, as in 0.5; 12.</source>
-        <translation>“%1”不是数。小数请用小数点，各数以分号分隔，例如 0.5; 12。</translation>
+        <source>&quot;%1&quot; cannot be read: %2.</source>
+        <translation>无法读取“%1”：%2。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a number. Write decimals with a point, as in 0.5.</source>
-        <translation>“%1”不是数。小数请用小数点，例如 0.5。</translation>
+        <source>&quot;%1&quot; is no project of this program: it names no task.</source>
+        <translation>“%1”不是本程序的项目：其中没有任务。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be written.</source>
+        <translation>无法写入“%1”。</translation>
+    </message>
+    <message>
+        <source>The value &quot;%1&quot; = %2 is not used by any task. It is kept in the project.</source>
+        <translation>没有任务使用值“%1”= %2。该值保留在项目中。</translation>
+    </message>
+    <message>
+        <source>%1 was saved in %2. The task now expects %3.</source>
+        <translation>%1 以 %2 为单位保存。该任务现在使用 %3。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is open in another window (process %2 on %3).</source>
+        <translation>“%1”已在另一个窗口中打开（%3 上的进程 %2）。</translation>
+    </message>
+</context>
+<context>
+    <name>Report</name>
+    <message>
+        <source>Input</source>
+        <translation>输入</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>结果</translation>
     </message>
 </context>
 <context>
@@ -830,6 +969,85 @@
     <message>
         <source>%1: enter at least the initial tension; below it the coils stay closed.</source>
         <translation>%1：不得小于初拉力，否则簧圈保持并紧。</translation>
+    </message>
+</context>
+<context>
+    <name>StudyDialog</name>
+    <message>
+        <source>Parameter study</source>
+        <translation>参数研究</translation>
+    </message>
+    <message>
+        <source>&amp;Parameter</source>
+        <translation>参数(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;From</source>
+        <translation>从(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;to</source>
+        <translation>至(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Steps</source>
+        <translation>步数(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Sho&amp;w</source>
+        <translation>显示(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Results over the parameter</source>
+        <translation>结果随参数的变化</translation>
+    </message>
+    <message>
+        <source>Family of curves</source>
+        <translation>曲线族</translation>
+    </message>
+    <message>
+        <source>&amp;Run</source>
+        <translation>运行(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Save as &amp;CSV...</source>
+        <translation>保存为 CSV(&amp;C)...</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Enter two different numbers between which the parameter is to go.</source>
+        <translation>请输入两个不同的数，作为参数的起止值。</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Canceled after %1 of %2 points.</source>
+        <translation>已取消，共 %2 个点，完成 %1 个。</translation>
+    </message>
+    <message>
+        <source>Not computed at %L1: %2</source>
+        <translation>在 %L1 处未计算：%2</translation>
+    </message>
+    <message>
+        <source>Save as CSV</source>
+        <translation>保存为 CSV</translation>
+    </message>
+    <message>
+        <source>Tables (*.csv)</source>
+        <translation>表格 (*.csv)</translation>
+    </message>
+    <message>
+        <source>Saved as &quot;%1&quot;.</source>
+        <translation>已保存为“%1”。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be written: %2.</source>
+        <translation>无法写入“%1”：%2。</translation>
     </message>
 </context>
 <context>

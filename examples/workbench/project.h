@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: The Kelto developers
+// SPDX-License-Identifier: MIT
+
+#ifndef PROJECT_H
+#define PROJECT_H
+
+#include "task.h"
+
+#include <QCoreApplication>
+
+#include <memory>
+
+class QLockFile;
+
+/// A task and the values entered for it, in an INI file. What the file holds beyond that, be it for
+/// other tasks or from another version of a module, stays in it.
+class Project
+{
+    Q_DECLARE_TR_FUNCTIONS(Project)
+
+public:
+    /// Reads the file at @p path into a new project, in place of @p current. Returns what is wrong,
+    /// and changes nothing then; empty when all went well.
+    static QString open(const AUTH_SET &registry, const QString &path, Project *current);
+
+    /// Writes the file and belongs to it from then on. Returns what went wrong; empty when the file
+    /// was read back as it was meant.
+    QString save(const AUTH_SET &registry, const QString &path);
+
+    /// Empty for a project that was never saved.
+    QString path() const { return m_path; }
+    /// Why the file may not be written; empty when it may.
+    QString lockProblem() const { return m_lockProblem; }
+
+    /// Task::id() of the task.
+    QString task() const;
+    /// Everything in the file.
+    Values values() const { return m_values; }
+
+    /// Takes over @p task and replaces the values of the keys that are in @p values, though not by
+    /// the empty texts of parameters that do not count.
+    void setTask(const Task &task, const Values &values);
+
+    /// What differs between the project and @p task, as it may when the project was saved with
+    /// another version of the module: parameters without a value and what they may have been called
+    /// before, values that no task knows, values in another unit. One sentence each.
+    QStringList differences(const AUTH_SET &registry, const Task &task) const;
+
+private:
+    /// Returns why the file is not to be written.
+    QString lock(const QString &path);
+
+    QString m_path;
+    QString m_lockProblem;
+    /// Shared so that a file can be opened again by the one who has locked it.
+    std::shared_ptr<QLockFile> m_lock;
+    Values m_values;
+};
+
+#endif

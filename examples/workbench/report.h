@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: The Kelto developers
+// SPDX-License-Identifier: MIT
+
+#ifndef REPORT_H
+#define REPORT_H
+
+#include "task.h"
+
+class PlotView;
+class QPagedPaintDevice;
+
+/// What a report tells.
+struct Report
+{
+    QString project;
+    Task task;
+    Values values;
+    Values results;
+
+    /// Draws one page: the task, its assumptions, the input, the results, and below these the
+    /// plots. Text that needs more than its share of the page is made smaller.
+    /// @return whether the device took it
+    bool print(QPagedPaintDevice *device, PlotView *plots) const;
+
+private:
+    QString html() const;
+};
+
+#endif

@@ -1,0 +1,148 @@
+// SPDX-FileCopyrightText: The Kelto developers
+// SPDX-License-Identifier: MIT
+
+#include "study.h"
+
+#include "modules.h"
+
+#include <Kelto/KeltoItemFinding>
+#include <Kelto/KeltoItemParameterVerify>
+
+#include <QLocale>
+
+#include <algorithm>
+
+namespace {
+
+const QLatin1String attribute("Attribute/");
+
+/// A number with as many digits as it has, however the language writes them.
+QString exact(double number)
+{
+    return QString::number(number, 'g', QLocale::FloatingPointShortest);
+}
+
+Outcome<Computation> computation(const Task &task, const Values &values)
+{
+    const auto findings = KeltoItemParameterVerify::explain(&task.module, &values, task.mode.first);
+    return findings.isEmpty() ? Calculator::calculate(task.module, task.mode.first, values)
+                              : Outcome<Computation> { {}, findings.first().text() };
+}
+
+VParameter parameterOf(const Task &task, const QString &key)
+{
+    const auto found
+        = std::find_if(task.parameters.cbegin(), task.parameters.cend(),
+                       [&](const VParameter &parameter) { return parameter.name().first == key; });
+    return found == task.parameters.cend() ? VParameter() : *found;
+}
+
+QString cell(QString text)
+{
+    const bool isPlain = std::none_of(text.cbegin(), text.cend(), [](QChar character) {
+        return QStringLiteral(",;\"\n").contains(character);
+    });
+    const QLatin1Char quote('"');
+    return isPlain ? text : quote + text.replace(quote, QLatin1String("\"\"")) + quote;
+}
+
+QString heading(const VParameter &parameter)
+{
+    return cell(QStringLiteral("%1 [%2]").arg(parameter.name().second, parameter.unit().first));
+}
+
+} // namespace
+
+QVector<StudyPoint> study(const Task &task, const Values &values, const StudyRange &range,
+                          const std::function<bool(int)> &goOn)
+{
+    QVector<StudyPoint> points;
+    Values changed = values;
+    const auto entry = std::find_if(changed.begin(), changed.end(), [&](const auto &value) {
+        return value.first == attribute + range.key;
+    });
+    if (entry == changed.end())
+        return points;
+    for (int i = 0; i <= range.steps; ++i) {
+        // The last point is the end itself, without the rounding of the steps.
+        const double value
+            = i == range.steps ? range.to : range.from + (range.to - range.from) * i / range.steps;
+        entry->second = exact(value);
+        points.append({ value, computation(task, changed) });
+        if (!goOn(points.size()))
+            break;
+    }
+    return points;
+}
+
+QVector<Curve> resultCurves(const Task &task, const StudyRange &range,
+                            const QVector<StudyPoint> &points)
+{
+    const VParameter parameter = parameterOf(task, range.key);
+    QVector<Curve> curves;
+    for (const VParameter &result : task.results) {
+        if (result.isMulti())
+            continue;
+        Curve curve { result.name().first, {}, {}, {} };
+        curve.x.name = range.key;
+        curve.x.unit = parameter.unit().first;
+        curve.y.name = result.name().first;
+        curve.y.unit = result.unit().first;
+        for (const StudyPoint &point : points) {
+            if (point.outcome.isValid())
+                curve.points.append(
+                    { point.value,
+                      valueOf(point.outcome.result.results, attribute + result.name().first)
+                          .toDouble() });
+        }
+        curves.append(curve);
+    }
+    return curves;
+}
+
+QVector<Curve> familyOfCurves(const Task &task, const StudyRange &range,
+                              const QVector<StudyPoint> &points, int count)
+{
+    const VParameter parameter = parameterOf(task, range.key);
+    QVector<Curve> curves;
+    const int members = std::min(count, points.size());
+    for (int i = 0; i < members; ++i) {
+        // Evenly spread, with both ends.
+        const StudyPoint &point
+            = points.at(members < 2 ? 0 : i * (points.size() - 1) / (members - 1));
+        for (const Curve &member : point.outcome.result.curves) {
+            Curve curve = member;
+            const QString value = QStringLiteral("%1 = %L2 %3")
+                                      .arg(parameter.symbol())
+                                      .arg(point.value)
+                                      .arg(parameter.unit().first);
+            curve.name = curve.name == curve.y.name
+                ? value
+                : ModuleTexts::tr(curve.name.toUtf8().constData()) + QLatin1String(", ") + value;
+            curves.append(curve);
+        }
+    }
+    return curves;
+}
+
+QString studyAsCsv(const Task &task, const StudyRange &range, const QVector<StudyPoint> &points)
+{
+    QStringList row { heading(parameterOf(task, range.key)) };
+    for (const VParameter &result : task.results)
+        row.append(heading(result));
+    row.append(QString());
+    QString text = row.join(QLatin1Char(',')) + QLatin1Char('\n');
+    for (const StudyPoint &point : points) {
+        row = QStringList { exact(point.value) };
+        for (const VParameter &result : task.results) {
+            const QVariant value
+                = valueOf(point.outcome.result.results, attribute + result.name().first);
+            row.append(cell(value.type() == QVariant::Double
+                                ? exact(value.toDouble())
+                                : value.toStringList().join(QLatin1String("; "))));
+        }
+        row.append(cell(point.outcome.problem));
+        text += row.join(QLatin1Char(',')) + QLatin1Char('\n');
+    }
+    return text;
+}

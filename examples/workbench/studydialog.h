@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: The Kelto developers
+// SPDX-License-Identifier: MIT
+
+#ifndef STUDYDIALOG_H
+#define STUDYDIALOG_H
+
+#include "study.h"
+
+#include <QDialog>
+
+#include <memory>
+
+class AUTH_SET;
+
+namespace Ui {
+class StudyDialog;
+}
+
+/// Lets one parameter go through a range, and shows what becomes of the results and the curves.
+class StudyDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// @param values those of the form, from which only the parameter differs
+    StudyDialog(AUTH_SET *registry, const Task &task, const Values &values, QWidget *parent);
+    ~StudyDialog() override;
+
+public Q_SLOTS:
+    /// While a study runs, ends that and keeps the window.
+    void reject() override;
+
+private Q_SLOTS:
+    void recallRange();
+    void run();
+    void showCurves();
+    void saveCsv();
+
+private:
+    void offerParameters();
+    bool readRange();
+    QString place(const char *name) const;
+
+    AUTH_SET *m_registry;
+    Task m_task;
+    Values m_values;
+    StudyRange m_range;
+    QVector<StudyPoint> m_points;
+    bool m_isRunning = false;
+    bool m_isCanceled = false;
+    std::unique_ptr<Ui::StudyDialog> ui;
+};
+
+#endif
