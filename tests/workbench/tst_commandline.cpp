@@ -51,8 +51,8 @@ private Q_SLOTS:
     {
         run({ "--help" });
         QCOMPARE(m_process.exitCode(), 0);
-        for (const char *text :
-             { "--language", "--task", "--modules", "--compiled", "Exit codes: 0 for done" })
+        for (const char *text : { "--language", "--task", "--modules", "--compiled", "[project]",
+                                  "Exit codes: 0 for done" })
             QVERIFY2(m_output.contains(text), qPrintable(m_output));
         run({ "--version" });
         QCOMPARE(m_process.exitCode(), 0);
@@ -73,8 +73,10 @@ private Q_SLOTS:
         QTest::newRow("unknown language")
             << Arguments { "--language", "fr" } << 2 << "Unknown language: fr\n";
         QTest::newRow("empty language") << Arguments("--language=") << 2 << "Unknown language: \n";
-        QTest::newRow("argument without option")
-            << Arguments("Cantilever") << 2 << "Unexpected argument: Cantilever\n";
+        QTest::newRow("two projects")
+            << Arguments { "a.ini", "b.ini" } << 2 << "Unexpected argument: b.ini\n";
+        QTest::newRow("option of Qt without value")
+            << Arguments("-style") << 2 << "Missing value after '-style'.\n";
         QTest::newRow("empty directory name")
             << Arguments("--modules=") << 2 << "--modules needs a directory.\n";
         QTest::newRow("both kinds of modules") << Arguments { "--compiled", "--modules", "." } << 2
@@ -105,6 +107,31 @@ private Q_SLOTS:
         QCOMPARE(m_output, QString());
         // Nothing is written before the modules are known.
         QVERIFY(m_complaint.startsWith("Unknown task") || QDir().isEmpty());
+    }
+
+    /// Neither the server nor the platform plugin that a window would need is there.
+    void usageNeedsNoDisplay_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<int>("exitCode");
+        using Arguments = QStringList;
+        QTest::newRow("help") << Arguments("--help") << 0;
+        QTest::newRow("short help") << Arguments("-h") << 0;
+        QTest::newRow("version") << Arguments("--version") << 0;
+        QTest::newRow("wrong option") << Arguments("--colour") << 2;
+        QTest::newRow("wrong language") << Arguments("--language=fr") << 2;
+        QTest::newRow("help beside an option of Qt") << Arguments { "-style", "fusion", "-h" } << 0;
+    }
+    void usageNeedsNoDisplay()
+    {
+        QFETCH(QStringList, arguments);
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("QT_QPA_PLATFORM", "none");
+        m_process.setProcessEnvironment(environment);
+        run(arguments);
+        m_process.setProcessEnvironment(QProcessEnvironment());
+        QTEST(m_process.exitCode(), "exitCode");
+        QVERIFY(m_output.isEmpty() != m_complaint.isEmpty());
     }
 
     void compiledModulesNeedNoFiles()

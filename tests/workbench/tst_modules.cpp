@@ -2,14 +2,14 @@
 // SPDX-License-Identifier: MIT
 
 #include "calculations/units.h"
-#include "entry.h"
 #include "languages.h"
 #include "modules.h"
-#include "moduletexts.h"
-#include "numbers.h"
 
 #include <Kelto/AUTH_INF>
 #include <Kelto/AUTH_SET>
+#include <Kelto/KeltoItemHints>
+#include <Kelto/KeltoItemTranslation>
+#include <Kelto/KeltoParameterEntry>
 #include <Kelto/VIniSettings>
 
 #include <QLocale>
@@ -55,8 +55,10 @@ TextPairs textPairs(const AUTH_INF &module, const AUTH_INF &english)
     }
     const auto entries = allEntries(module);
     for (const QStringList &entry : entries) {
-        pairs.append({ entry.value(Entry::Key), entry.value(Entry::TranslatedKey) });
-        pairs.append({ entry.value(Entry::Group), entry.value(Entry::TranslatedGroup) });
+        pairs.append({ entry.value(KeltoParameterEntry::Key),
+                       entry.value(KeltoParameterEntry::TranslatedKey) });
+        pairs.append({ entry.value(KeltoParameterEntry::Group),
+                       entry.value(KeltoParameterEntry::TranslatedGroup) });
     }
     return pairs;
 }
@@ -89,8 +91,10 @@ private Q_SLOTS:
         // The language that was installed last is in force.
         for (const char *language : { "en", "zh_CN" }) {
             installTranslations(QLocale(language));
-            const auto files = modulesFromFiles(WORKBENCH_MODULES);
+            auto files = modulesFromFiles(WORKBENCH_MODULES);
             QCOMPARE(files.problem, QString());
+            for (AUTH_INF &module : files.result)
+                KeltoItemTranslation::translate(&module);
             QCOMPARE(files.result.size(), 5);
             QCOMPARE(compiledModules().size(), 5);
             m_modules.append({ files.result, compiledModules() });
@@ -190,12 +194,13 @@ private Q_SLOTS:
             QCOMPARE(entry.size(), 9);
             const QString text = entry.join('|');
             QVERIFY2(!entry.contains(QString()), qPrintable(text));
-            QVERIFY2((QStringList { "true", "false" }).contains(entry.at(Entry::Multi)),
-                     qPrintable(text));
-            QVERIFY2(siFactor(entry.at(Entry::Unit)) > 0, qPrintable(text));
-            QVERIFY2(siFactor(entry.at(Entry::SiUnit)) == 1, qPrintable(text));
+            QVERIFY2(
+                (QStringList { "true", "false" }).contains(entry.at(KeltoParameterEntry::Multi)),
+                qPrintable(text));
+            QVERIFY2(siFactor(entry.at(KeltoParameterEntry::Unit)) > 0, qPrintable(text));
+            QVERIFY2(siFactor(entry.at(KeltoParameterEntry::SecondUnit)) == 1, qPrintable(text));
             // In INI files a slash separates the section from the key.
-            const QString key = entry.at(Entry::Key);
+            const QString key = entry.at(KeltoParameterEntry::Key);
             QVERIFY2(!key.contains('/'), qPrintable(text));
             // A file describes a key once for all modes, parameters and results.
             QCOMPARE(entry, byKey.value(key, entry));
@@ -219,18 +224,35 @@ private Q_SLOTS:
         QVERIFY(QFile::exists(registry.filepath_update_inf()));
     }
 
-    void entriesOfTheWrongLengthAreLeftAlone()
+    void hintsMakeSense_data() { addModules(); }
+    void hintsMakeSense()
     {
-        AUTH_INF module = m_modules.at(English).at(Files).first();
-        const QStringList stub { "Geometry", "Length" };
-        module.output_results = { stub };
-        module.inner_mode_parameterList = { { stub, QStringList() } };
+        QFETCH(AUTH_INF, module);
+        QStringList problems;
+        const auto found = KeltoItemHints(module).problems();
+        for (const KeltoItemHints::Problem &problem : found)
+            problems.append(problem.extraKey + ": " + problem.text());
+        QCOMPARE(problems, QStringList());
+    }
 
-        translateTexts(module);
-
-        QCOMPARE(module.output_results.first(), stub);
-        QCOMPARE(module.inner_mode_parameterList.first().first(), stub);
-        QCOMPARE(module.name_tr, QString("梁"));
+    /// Every text of a hint that is shown is there in Chinese.
+    void hintsAreTranslated_data() { addModules(); }
+    void hintsAreTranslated()
+    {
+        QFETCH(AUTH_INF, module);
+        for (const QString &mode : qAsConst(module.inner_mode_nameList)) {
+            const KeltoItemHints hints(module, mode);
+            const auto shown = hints.parameters() + hints.results();
+            for (const VParameter &parameter : shown) {
+                const QString key = parameter.name().first;
+                QStringList texts { hints.help(key), hints.label(key) };
+                const auto choices = hints.choices(key);
+                for (const KeltoItemHints::Choice &choice : choices)
+                    texts.append(choice.label);
+                for (const QString &text : qAsConst(texts))
+                    QVERIFY2(text.isEmpty() || isChinese(text), qPrintable(text));
+            }
+        }
     }
 
     /// Under the names and with the content of today's files, also after one was renamed or
@@ -255,7 +277,7 @@ private Q_SLOTS:
             described.replaceInStrings("Result/", QString());
             QStringList read;
             for (const QStringList &entry : m_modules.at(English).at(Files).at(i).output_results)
-                read.append(entry.at(Entry::Key));
+                read.append(entry.at(KeltoParameterEntry::Key));
             QCOMPARE(read, described);
             listed.sort();
             described.sort();
