@@ -3,45 +3,48 @@
 
 #include "onlooker.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
 #include <QFontInfo>
-#include <QPainter>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
 #include <QPixmap>
+#include <QPushButton>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QStyle>
-#include <QTableWidget>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QToolBar>
 
 namespace {
 
-enum Column { NameColumn, ValueColumn = 2 };
-
-template <typename Widget> Widget *find(const char *window, const char *name)
+template <typename Widget> Widget *find(const char *window, const QString &name)
 {
     const QWidget *parent = Onlooker::window(window);
-    return parent ? parent->findChild<Widget *>(name) : nullptr;
+    Widget *found = parent ? parent->findChild<Widget *>(name) : nullptr;
+    return found && found->isVisible() ? found : nullptr;
 }
 
-QTableWidget *tableOf(const char *name)
+QPoint centreOf(const QWidget *widget, const QRect &area)
 {
-    return find<QTableWidget>(Onlooker::mainWindow, name);
+    return widget->isVisible() && !area.isEmpty() ? widget->mapToGlobal(area.center()) : QPoint();
 }
 
-QString rowText(const QTableWidget *table, int row)
+/// The rows below @p parent, with the columns of each joined by " | ".
+QStringList rowTexts(const QAbstractItemModel *model, const QModelIndex &parent = {})
 {
-    QStringList texts;
-    for (int column = 0; column < table->columnCount(); ++column)
-        texts.append(table->item(row, column)->text());
-    return texts.join(" | ");
-}
-
-/// -1 where the table has no such row.
-int rowOf(const QTableWidget *table, const QString &name)
-{
-    int row = table ? table->rowCount() - 1 : -1;
-    while (row >= 0 && table->item(row, NameColumn)->text() != name)
-        --row;
-    return row;
+    QStringList rows;
+    for (int row = 0; row < model->rowCount(parent); ++row) {
+        QStringList texts;
+        for (int column = 0; column < model->columnCount(parent); ++column)
+            texts.append(model->index(row, column, parent).data().toString());
+        rows.append(texts.join(" | "));
+        rows += rowTexts(model, model->index(row, 0, parent));
+    }
+    return rows;
 }
 
 /// The text that the widget shows itself, whatever its class calls it.
@@ -57,14 +60,14 @@ QString textOf(const QWidget *widget)
 /// Everything that a window says, in the order in which its widgets were made.
 QString shownTexts(const QWidget *window)
 {
-    QStringList texts;
+    QStringList texts { window->windowTitle() };
     const auto widgets = window->findChildren<QWidget *>();
     for (const QWidget *widget : widgets) {
         if (!widget->isVisible())
             continue;
-        const auto *table = qobject_cast<const QTableWidget *>(widget);
-        for (int row = 0; table && row < table->rowCount(); ++row)
-            texts.append(rowText(table, row));
+        const auto *view = qobject_cast<const QAbstractItemView *>(widget);
+        if (view && view->model())
+            texts += rowTexts(view->model());
         texts.append(textOf(widget));
     }
     texts.removeAll(QString());
@@ -92,46 +95,99 @@ QWidget *Onlooker::window(const char *className)
 {
     const auto windows = QApplication::topLevelWidgets();
     for (QWidget *window : windows) {
-        if (window->inherits(className))
+        if (window->inherits(className) && window->isVisible())
             return window;
     }
     return nullptr;
 }
 
-QString Onlooker::text(const char *window, const char *widget)
+bool Onlooker::isActive(const char *className)
+{
+    return window(className) && window(className)->isActiveWindow();
+}
+
+QString Onlooker::focus()
+{
+    const QWidget *widget = QApplication::focusWidget();
+    // Some editors are put together from several widgets.
+    while (widget && widget->objectName().isEmpty())
+        widget = widget->parentWidget();
+    return widget ? widget->objectName() : QString();
+}
+
+QString Onlooker::text(const char *window, const QString &widget)
 {
     return textOf(find<QWidget>(window, widget));
 }
 
-QString Onlooker::row(const char *table, const QString &name)
+QString Onlooker::row(const char *window, const QString &widget, const QString &name)
 {
-    const int row = rowOf(tableOf(table), name);
-    return row < 0 ? QString() : rowText(tableOf(table), row);
+    const auto *parent = find<QWidget>(window, widget);
+    const auto *view = parent ? parent->findChild<QAbstractItemView *>() : nullptr;
+    const QStringList rows = view ? rowTexts(view->model()) : QStringList();
+    return rows.filter(QRegularExpression('^' + QRegularExpression::escape(name) + " \\|"))
+        .value(0);
 }
 
-QPoint Onlooker::position(const char *window, const char *widget)
+QPoint Onlooker::position(const char *window, const QString &widget)
 {
     const auto *found = find<QWidget>(window, widget);
-    return found && found->isVisible() ? found->mapToGlobal(found->rect().center()) : QPoint();
+    return found ? centreOf(found, found->rect()) : QPoint();
 }
 
-QPoint Onlooker::positionOfValue(const char *table, const QString &row)
+QPoint Onlooker::positionOfAction(const QString &action)
 {
-    const QTableWidget *widget = tableOf(table);
-    const int index = rowOf(widget, row);
-    if (index < 0)
-        return {};
-    const QRect place = widget->visualItemRect(widget->item(index, ValueColumn));
-    return widget->viewport()->mapToGlobal(place.center());
+    const QWidget *main = window("QMainWindow");
+    QAction *found = main ? main->findChild<QAction *>(action) : nullptr;
+    const auto places = found ? found->associatedWidgets() : QList<QWidget *>();
+    for (QWidget *place : places) {
+        const auto *menu = qobject_cast<QMenu *>(place);
+        const auto *bar = qobject_cast<QToolBar *>(place);
+        if (menu && menu->isVisible())
+            return centreOf(menu, menu->actionGeometry(found));
+        if (bar && bar->widgetForAction(found) && !QApplication::activePopupWidget())
+            return centreOf(bar->widgetForAction(found), bar->widgetForAction(found)->rect());
+    }
+    return {};
 }
 
-QPoint Onlooker::positionOfEntry(const QString &entry)
+QPoint Onlooker::positionOfMenu(const QString &firstAction)
 {
-    const auto *box = find<QComboBox>(dialog, "comboBox");
+    const QWidget *main = window("QMainWindow");
+    const auto *bar = main ? main->findChild<QMenuBar *>() : nullptr;
+    const auto menus = main ? main->findChildren<QMenu *>() : QList<QMenu *>();
+    for (QMenu *menu : menus) {
+        const bool isIt = !menu->actions().isEmpty()
+            && menu->actions().constFirst()->objectName() == firstAction;
+        const auto *parent = qobject_cast<QMenu *>(menu->parentWidget());
+        if (isIt && bar->actions().contains(menu->menuAction()))
+            return centreOf(bar, bar->actionGeometry(menu->menuAction()));
+        if (isIt && parent)
+            return centreOf(parent, parent->actionGeometry(menu->menuAction()));
+    }
+    return {};
+}
+
+QPoint Onlooker::positionOfEntry(const char *window, const QString &comboBox, const QString &entry)
+{
+    const auto *box = find<QComboBox>(window, comboBox);
     if (!box || !box->view()->isVisible() || box->findText(entry) < 0)
         return {};
     const QRect place = box->view()->visualRect(box->model()->index(box->findText(entry), 0));
-    return box->view()->viewport()->mapToGlobal(place.center());
+    return centreOf(box->view()->viewport(), place);
+}
+
+QPoint Onlooker::positionOfTab(const char *window, const QString &tabs, int index)
+{
+    const auto *found = find<QTabWidget>(window, tabs);
+    return found ? centreOf(found->tabBar(), found->tabBar()->tabRect(index)) : QPoint();
+}
+
+QPoint Onlooker::positionOfAnswer(int standardButton)
+{
+    const auto *box = qobject_cast<QMessageBox *>(window("QMessageBox"));
+    const auto *button = box ? box->button(QMessageBox::StandardButton(standardButton)) : nullptr;
+    return button ? centreOf(button, button->rect()) : QPoint();
 }
 
 QImage Onlooker::screen()
@@ -142,22 +198,16 @@ QImage Onlooker::screen()
 QImage Onlooker::screenshot()
 {
     QRect area;
-    const auto windows = QApplication::topLevelWidgets();
-    for (const QWidget *widget : windows) {
-        if (widget->isVisible())
-            area |= widget->frameGeometry();
-    }
-    QImage image = grabbed(area);
     QStringList texts;
-    for (const char *name : { mainWindow, dialog }) {
-        const QWidget *shown = window(name);
-        if (!shown || !shown->isVisible())
+    const auto windows = QApplication::topLevelWidgets();
+    for (const QWidget *window : windows) {
+        if (!window->isVisible())
             continue;
-        texts.append(shownTexts(shown));
-        // Without a window manager nothing else draws a frame.
-        const QRect frame = shown->frameGeometry().translated(-area.topLeft());
-        QPainter(&image).drawRect(frame.adjusted(0, 0, -1, -1));
+        area |= window->frameGeometry();
+        texts.append(shownTexts(window));
     }
+    texts.sort(); // the program holds its windows in no order
+    QImage image = grabbed(area);
     image.setText("Shown", texts.join('\n'));
     image.setText("Font", fontInWords());
     return image;

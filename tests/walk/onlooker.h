@@ -10,30 +10,39 @@
 #include <QWidget>
 
 /// The eyes of the user: what the program shows, and where. Windows are named by their class,
-/// widgets by their object name. A position is one on the screen; that of something that is not
-/// shown is a null point.
+/// widgets, actions and menus by their object names. A position is one on the screen; that of
+/// something that is not shown is a null point.
 namespace Onlooker {
 
-const char *const dialog = "UTaskSelectDialog";
-const char *const mainWindow = "MainWindow";
-
-/// Null where the program has no such window; it may have one that is not shown.
+/// The window of this class that is shown; null where there is none.
 QWidget *window(const char *className);
+/// Whether the window is shown and has the keyboard.
+bool isActive(const char *className);
 
-/// The text of a label or button, or the selected entry of a combo box.
-QString text(const char *window, const char *widget);
-/// A row of a table by its name, with its columns joined by " | ".
-QString row(const char *table, const QString &name);
+/// The name of the widget that the keyboard acts upon.
+QString focus();
 
-QPoint position(const char *window, const char *widget);
-QPoint positionOfValue(const char *table, const QString &row);
-/// The position of an entry in the opened list of the dialog's combo box.
-QPoint positionOfEntry(const QString &entry);
+/// The text of a label, button or editor, or the selected entry of a combo box; null where the
+/// window has no such widget that is shown.
+QString text(const char *window, const QString &widget);
+/// The row of a table in a widget that begins with @p name, with its columns joined by " | ".
+QString row(const char *window, const QString &widget, const QString &name);
+
+QPoint position(const char *window, const QString &widget);
+/// The position of an action on the tool bar, in the menu bar or in an opened menu; a menu has the
+/// name of its first action.
+QPoint positionOfAction(const QString &action);
+QPoint positionOfMenu(const QString &firstAction);
+/// The position of an entry in the opened list of a combo box.
+QPoint positionOfEntry(const char *window, const QString &comboBox, const QString &entry);
+QPoint positionOfTab(const char *window, const QString &tabs, int index);
+/// The position of a button of a message box, by its role in Qt.
+QPoint positionOfAnswer(int standardButton);
 
 /// The whole screen.
 QImage screen();
-/// The windows of the program in their places. What they say and the font that they use are kept in
-/// words as the texts "Shown" and "Font" of the image.
+/// The windows of the program in their places, with their frames. What they say and the font that
+/// they use are kept in words as the texts "Shown" and "Font" of the image.
 QImage screenshot();
 
 } // namespace Onlooker

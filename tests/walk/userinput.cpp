@@ -5,6 +5,8 @@
 
 #include "commandline.h"
 
+#include <QApplication>
+
 #include <xcb/xtest.h>
 
 #include <cstdlib>
@@ -12,7 +14,12 @@
 namespace {
 
 const xcb_keysym_t returnKey = 0xff0d;
+const xcb_keysym_t tabKey = 0xff09;
+const xcb_keysym_t escapeKey = 0xff1b;
+const xcb_keysym_t backspaceKey = 0xff08;
+const xcb_keysym_t downKey = 0xff54;
 const xcb_keysym_t controlKey = 0xffe3;
+const xcb_keysym_t firstFunctionKey = 0xffbe;
 
 template <typename Reply> using ReplyPointer = std::unique_ptr<Reply, decltype(&std::free)>;
 
@@ -39,52 +46,90 @@ UserInput::UserInput()
 
 void UserInput::click(QPoint position)
 {
-    fake(XCB_MOTION_NOTIFY, false, position);
-    pressButton();
+    drag(position, position);
 }
 
-void UserInput::clickTwice(QPoint position)
+void UserInput::drag(QPoint from, QPoint to)
 {
-    click(position);
-    pressButton();
+    fake(XCB_MOTION_NOTIFY, false, from);
+    fake(XCB_BUTTON_PRESS, XCB_BUTTON_INDEX_1);
+    if (from != to) {
+        fake(XCB_MOTION_NOTIFY, false, (from + to) / 2);
+        fake(XCB_MOTION_NOTIFY, false, to);
+    }
+    fake(XCB_BUTTON_RELEASE, XCB_BUTTON_INDEX_1);
 }
 
 void UserInput::type(const QString &text)
 {
-    for (const QChar character : text)
-        press({ keycodeOf(character == '\n' ? returnKey : character.unicode()) });
+    for (const QChar character : text) {
+        const xcb_keysym_t key = character == '\n' ? returnKey
+            : character == '\t'                    ? tabKey
+                                                   : character.unicode();
+        press({ key });
+    }
 }
 
 void UserInput::pressWithControl(char key)
 {
-    press({ keycodeOf(controlKey), keycodeOf(static_cast<xcb_keysym_t>(key)) });
+    press({ controlKey, static_cast<xcb_keysym_t>(key) });
 }
 
-void UserInput::giveFocus(xcb_window_t window)
+void UserInput::pressFunctionKey(int number)
 {
-    xcb_set_input_focus(m_connection.get(), XCB_INPUT_FOCUS_POINTER_ROOT, window, XCB_CURRENT_TIME);
-    xcb_flush(m_connection.get());
+    press({ firstFunctionKey + static_cast<xcb_keysym_t>(number) - 1 });
+}
+
+void UserInput::pressEscape()
+{
+    press({ escapeKey });
+}
+
+void UserInput::pressBackspace()
+{
+    press({ backspaceKey });
+}
+
+void UserInput::pressDown()
+{
+    press({ downKey });
+}
+
+bool UserInput::hasWindowManager() const
+{
+    const QByteArray name = "_NET_SUPPORTING_WM_CHECK";
+    xcb_connection_t *connection = m_connection.get();
+    const auto atom = owned(
+        xcb_intern_atom_reply(connection,
+                              xcb_intern_atom(connection, true, static_cast<uint16_t>(name.size()),
+                                              name.constData()),
+                              nullptr));
+    if (!atom || atom->atom == XCB_NONE)
+        return false;
+    const auto property = owned(xcb_get_property_reply(
+        connection, xcb_get_property(connection, false, m_root, atom->atom, XCB_ATOM_WINDOW, 0, 1),
+        nullptr));
+    return property && property->value_len == 1;
 }
 
 void UserInput::fake(uint8_t type, uint8_t detail, QPoint position)
 {
+    // The server knows nothing of the scale in which the program counts its pixels.
+    const QPoint place = position * qApp->devicePixelRatio();
     xcb_test_fake_input(m_connection.get(), type, detail, XCB_CURRENT_TIME, m_root,
-                        static_cast<int16_t>(position.x()), static_cast<int16_t>(position.y()), 0);
+                        static_cast<int16_t>(place.x()), static_cast<int16_t>(place.y()), 0);
     xcb_flush(m_connection.get());
 }
 
-void UserInput::pressButton()
+void UserInput::press(const QVector<xcb_keysym_t> &keys)
 {
-    fake(XCB_BUTTON_PRESS, XCB_BUTTON_INDEX_1);
-    fake(XCB_BUTTON_RELEASE, XCB_BUTTON_INDEX_1);
-}
-
-void UserInput::press(const QVector<xcb_keycode_t> &keys)
-{
-    for (const xcb_keycode_t key : keys)
-        fake(XCB_KEY_PRESS, key);
-    for (auto key = keys.crbegin(); key != keys.crend(); ++key)
-        fake(XCB_KEY_RELEASE, *key);
+    QVector<xcb_keycode_t> codes;
+    for (const xcb_keysym_t key : keys)
+        codes.append(keycodeOf(key));
+    for (const xcb_keycode_t code : qAsConst(codes))
+        fake(XCB_KEY_PRESS, code);
+    for (auto code = codes.crbegin(); code != codes.crend(); ++code)
+        fake(XCB_KEY_RELEASE, *code);
 }
 
 xcb_keycode_t UserInput::keycodeOf(xcb_keysym_t keysym) const
