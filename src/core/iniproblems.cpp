@@ -185,7 +185,8 @@ bool hasUnsafeIniValue(const QByteArray &bytes)
     IniReader reader(bytes);
     while (reader.next()) {
         const std::string_view value = reader.line().value;
-        if (mayHoldSerialised(value) && hasUnsafeElement(elementsOfValue(value)))
+        if (reader.line().kind == IniLine::Entry && mayHoldSerialised(value)
+            && hasUnsafeElement(elementsOfValue(value)))
             return true;
     }
     return false;

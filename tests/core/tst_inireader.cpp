@@ -357,7 +357,8 @@ private Q_SLOTS:
         for (int i = 0; i < 2000; ++i) {
             QByteArray bytes = hostileBytes(&dice);
             if (dice.chance(50))
-                bytes += "\nv=\"x\", " + dice.oneOf(openings).toLatin1() + "\\0\\0\\0G"
+                bytes += dice.oneOf({ "\nv=", "\nv=", "\n[v]=" }).toLatin1() + "\"x\", "
+                    + dice.oneOf(openings).toLatin1() + "\\0\\0\\0G"
                     + (dice.chance(50) ? "\\177" : "\\0") + "\\0\\0\\0)\n";
             const QVector<IniProblem> problems = iniProblems(bytes);
             const bool isListed = std::any_of(problems.cbegin(), problems.cend(), [](auto problem) {
