@@ -100,8 +100,9 @@ private:
     {
         const IniLine &line = m_reader.line();
         m_emptyHeader = nullptr;
-        m_keys.push_back({ m_reader.key(), m_reader.keyHash(), line.text.data() });
-        if (!m_reader.key().isReadable())
+        const KeyTraits traits = m_reader.keyTraits();
+        m_keys.push_back({ m_reader.key(), traits.hash(), line.text.data() });
+        if (!traits.isReadable())
             m_findings.push_back({ IniProblem::UnreadableKey, line.text.data() });
         const auto isPlainText = [](char c) {
             return c != '\\' && c != '"' && c != '@' && static_cast<signed char>(c) >= 0;

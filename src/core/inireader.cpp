@@ -37,7 +37,6 @@ IniReader::IniReader(const QByteArray &bytes)
     , m_end(m_begin + bytes.size())
     , m_lineEnd(bytes.contains('\n') ? '\n' : '\r')
     , m_at(m_begin)
-    , m_sectionHash(SettingsKey::hashOfSection({}))
     , m_counted(m_begin)
 {
     // QSettings passes over a byte order mark only where a header comes next.
@@ -104,7 +103,7 @@ void IniReader::enterSection()
     m_line.key = trimmed(m_line.text.substr(1, closing - 1));
     m_line.value = m_line.text.substr(closing);
     m_section = isSameName(m_line.key, "general") ? std::string_view() : m_line.key;
-    m_sectionHash = SettingsKey::hashOfSection(m_section);
+    m_sectionTraits = SettingsKey::traitsOfSection(m_section);
 }
 
 IniPosition IniReader::positionAt(const char *place)

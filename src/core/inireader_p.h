@@ -44,8 +44,7 @@ public:
 
     /// The key of an entry.
     SettingsKey key() const { return { m_section, m_line.key }; }
-    /// A hash that is the same for all spellings of the key.
-    quint64 keyHash() const { return key().hash(m_sectionHash); }
+    KeyTraits keyTraits() const { return key().traits(m_sectionTraits); }
 
     /// Line and column of @p place in the bytes. Cheap when it lies behind the place that was asked
     /// for last.
@@ -61,7 +60,7 @@ private:
     const char *m_at;
     IniLine m_line;
     std::string_view m_section;
-    quint64 m_sectionHash;
+    KeyTraits m_sectionTraits;
     const char *m_counted;
     IniPosition m_position;
 };

@@ -66,26 +66,6 @@ template <typename Visitor> void visitSection(std::string_view section, Visitor 
     visit(QLatin1Char('/'));
 }
 
-/// Adds a character to a hash. Hashes start from a random seed: many keys with the same one would
-/// take long to check, and without it a file could be made of such keys.
-void addTo(quint64 &hash, QChar character)
-{
-    hash = (hash ^ character.unicode()) * 0x9e3779b97f4a7c15;
-    hash ^= hash >> 29;
-}
-
-/// Whether there may be a "/" in @p spelling, as it is or as an escape such as %2F.
-bool mayHoldSlash(std::string_view spelling)
-{
-    char last = 0;
-    for (const char c : spelling) {
-        if (c == '/' || c == '\\' || (last == '2' && (c == 'F' || c == 'f')))
-            return true;
-        last = c;
-    }
-    return false;
-}
-
 class ValueDecoder
 {
 public:
@@ -241,6 +221,30 @@ bool isSameName(std::string_view a, std::string_view b)
     return a.size() == b.size() && qstrnicmp(a.data(), b.data(), a.size()) == 0;
 }
 
+// Hashes start from a random seed: many keys with the same one would take long to check, and
+// without it a file could be made of such keys.
+KeyTraits::KeyTraits()
+    : m_hash(qGlobalQHashSeed())
+{
+}
+
+void KeyTraits::add(QChar character)
+{
+    m_hash = (m_hash ^ character.unicode()) * 0x9e3779b97f4a7c15;
+    m_hash ^= m_hash >> 29;
+    const bool isSlash = character == QLatin1Char('/');
+    if (isSlash) {
+        m_isSuperfluous = m_isSuperfluous || m_endsWithSlash;
+        ++m_slashes;
+    }
+    m_endsWithSlash = isSlash;
+}
+
+bool KeyTraits::isReadable() const
+{
+    return !m_isSuperfluous && !(m_endsWithSlash && m_slashes > 1);
+}
+
 QString SettingsKey::text() const
 {
     QString text;
@@ -250,38 +254,17 @@ QString SettingsKey::text() const
     return text;
 }
 
-quint64 SettingsKey::hashOfSection(std::string_view section)
+KeyTraits SettingsKey::traitsOfSection(std::string_view section)
 {
-    quint64 hash = qGlobalQHashSeed();
-    visitSection(section, [&hash](QChar character) { addTo(hash, character); });
-    return hash;
+    KeyTraits traits;
+    visitSection(section, [&traits](QChar character) { traits.add(character); });
+    return traits;
 }
 
-quint64 SettingsKey::hash(quint64 hashOfSection) const
+KeyTraits SettingsKey::traits(KeyTraits ofSection) const
 {
-    quint64 hash = hashOfSection;
-    visitCharacters(name, [&hash](QChar character) { addTo(hash, character); });
-    return hash;
-}
-
-bool SettingsKey::isReadable() const
-{
-    const bool hasSection = section.data();
-    if (!name.empty() && !mayHoldSlash(name) && !mayHoldSlash(section)
-        && (!hasSection || !section.empty()))
-        return true;
-    const QLatin1Char slash('/');
-    QChar last = slash;
-    int slashes = 0;
-    bool isSuperfluous = false;
-    const auto look = [&](QChar character) {
-        isSuperfluous = isSuperfluous || (character == slash && last == slash);
-        slashes += character == slash ? 1 : 0;
-        last = character;
-    };
-    visitSection(section, look);
-    visitCharacters(name, look);
-    return !isSuperfluous && !(last == slash && slashes > 1);
+    visitCharacters(name, [&ofSection](QChar character) { ofSection.add(character); });
+    return ofSection;
 }
 
 QStringList elementsOfValue(std::string_view value, std::vector<Misspelling> *misspellings)

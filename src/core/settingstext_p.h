@@ -42,17 +42,34 @@ const char *firstInvalidByte(std::string_view text);
 /// Whether two names in headers are the same but for the case of their letters.
 bool isSameName(std::string_view a, std::string_view b);
 
+/// What the characters of a key tell about it, one after the other.
+class KeyTraits
+{
+public:
+    KeyTraits();
+    void add(QChar character);
+
+    /// The same for all spellings of a key.
+    quint64 hash() const { return m_hash; }
+    /// Whether QSettings can look up the value of the key, and writes the key so that it reads the
+    /// same one again. A "/" in front, at the end or behind another one can prevent both.
+    bool isReadable() const;
+
+private:
+    quint64 m_hash;
+    int m_slashes = 0;
+    bool m_endsWithSlash = true; ///< As if one stood in front of the key.
+    bool m_isSuperfluous = false;
+};
+
 /// A key as it is spelt in a file, with the section that it stands in.
 struct SettingsKey
 {
     /// The key as QSettings::allKeys() gives it.
     QString text() const;
-    /// Whether QSettings can look up the value of the key, and writes the key so that it reads the
-    /// same one again. A "/" in front, at the end or behind another one can prevent both.
-    bool isReadable() const;
-    /// A hash that is the same for all spellings of the key, given that of its section.
-    quint64 hash(quint64 hashOfSection) const;
-    static quint64 hashOfSection(std::string_view section);
+    /// What the whole key tells, given what its section does.
+    KeyTraits traits(KeyTraits ofSection) const;
+    static KeyTraits traitsOfSection(std::string_view section);
 
     std::string_view section; ///< A null pointer for keys without a section.
     std::string_view name;
