@@ -18,30 +18,26 @@
 
 namespace {
 
-bool isUnsafeValue(const IniProblem &problem)
+/// Whether something is lost when QSettings writes a file with these bytes.
+bool isLossy(const QByteArray &bytes)
 {
-    return problem.kind == IniProblem::UnsafeValue;
-}
-
-bool isLoss(const IniProblem &problem)
-{
-    return problem.kind != IniProblem::EmptySection;
+    const QVector<IniProblem> problems = iniProblems(bytes);
+    return std::any_of(problems.cbegin(), problems.cend(), [](const IniProblem &problem) {
+        return problem.kind != IniProblem::EmptySection;
+    });
 }
 
 /// Saves into a file that this process has locked.
 void save(const QString &path, const KeyValues &entries)
 {
     const std::optional<QByteArray> before = contentOf(path);
-    if (!before)
-        return;
-    const QVector<IniProblem> problems = iniProblems(*before);
-    if (std::any_of(problems.cbegin(), problems.cend(), isUnsafeValue))
+    if (!before || hasUnsafeIniValue(*before))
         return;
     const std::optional<SettingsFile> after = changedSettings(path, *before, entries);
     if (!after)
         return;
     if (after->bytes != before) {
-        if (std::any_of(problems.cbegin(), problems.cend(), isLoss) && !keepCopy(path, *before))
+        if (isLossy(*before) && !keepCopy(path, *before))
             return;
         if (!replaceFile(path, after->bytes))
             return;

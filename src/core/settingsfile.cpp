@@ -123,7 +123,7 @@ struct LastSection
 std::optional<SettingsFile> rewritten(const QString &place, const SettingsFile &before,
                                       const KeyValues &entries)
 {
-    const QTemporaryDir directory(place + QLatin1String(".XXXXXX"));
+    QTemporaryDir directory(place + QLatin1String(".XXXXXX"));
     QFile file(directory.filePath(QStringLiteral("settings.ini")));
     if (!directory.isValid() || !file.open(QIODevice::WriteOnly)
         || file.write(before.bytes) != before.bytes.size() || !file.flush())
@@ -137,11 +137,14 @@ std::optional<SettingsFile> rewritten(const QString &place, const SettingsFile &
     settings.setValue(last.key, true);
     settings.sync();
     QByteArray bytes = contentOf(file.fileName()).value_or(QByteArray());
+    // This costs more when QSettings has freed its memory, since the heap joins the pieces first.
+    directory.remove();
     if (!bytes.endsWith(last.bytes))
         return {};
     bytes.chop(last.bytes.size());
     // A section takes two lines more than its keys.
-    if (costOf(bytes.count('\n') / 3) > mostCost)
+    const auto lines = std::count(bytes.cbegin(), bytes.cend(), '\n');
+    if (costOf(static_cast<int>(lines / 3)) > mostCost)
         return SettingsFile { bytes, {} };
     KeyValues all = entriesOf(settings);
     all.removeLast();
