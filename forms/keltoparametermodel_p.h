@@ -39,8 +39,8 @@ public:
     Entries values() const;
     void load(const Entries &values);
 
-    /// One step to undo, unless nothing changes. Steps of one @p session become one; a session
-    /// concerns a single row. Those in session 0 stay apart.
+    /// One step to undo, unless nothing changes. Steps of one @p session in a row become one if
+    /// they concern the same parameter alone. Those in session 0 stay apart.
     void edit(const Changes &changes, const QString &text, int session = 0);
     void edit(int row, const QVariant &value, int session = 0);
     /// The same with what a person typed.

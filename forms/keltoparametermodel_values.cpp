@@ -289,7 +289,9 @@ void ValueCommand::redo()
 bool ValueCommand::mergeWith(const QUndoCommand *other)
 {
     const auto *next = static_cast<const ValueCommand *>(other);
-    if (next->m_session != m_session)
+    // Several forms may show the model, and a text may be set without the focus going there.
+    if (next->m_session != m_session
+        || next->m_changes.constFirst().row != m_changes.constFirst().row)
         return false;
     m_changes.first().after = next->m_changes.constFirst().after;
     setObsolete(isSameState(m_changes.constFirst().before, m_changes.constFirst().after));

@@ -36,6 +36,7 @@ private Q_SLOTS:
     void followsItsLocale();
     void undoesWhatIsTypedAsOne();
     void undoesWithinTheWholeForm();
+    void undoesWhatWasTypedIntoTwoForms();
     void offersUndoOfTheFormInMenus();
 };
 
@@ -285,6 +286,19 @@ void tst_KeltoParameterFormEditors::undoesWithinTheWholeForm()
     QTest::keyClick(form->editor("Case"), Qt::Key_Z, Qt::ControlModifier);
     QVERIFY(!force->isVisible());
     QCOMPARE(editorOf<QComboBox>(*form, "Case")->currentIndex(), -1);
+}
+
+void tst_KeltoParameterFormEditors::undoesWhatWasTypedIntoTwoForms()
+{
+    Model model({ VParameter(plainEntry("a")), VParameter(plainEntry("b")) });
+    Form first(&model, nullptr);
+    Form second(&model, nullptr);
+    QTest::keyClicks(first.editor("a"), "7");
+    QTest::keyClicks(second.editor("b"), "3");
+    QCOMPARE(model.undoStack()->count(), 2);
+    model.undoStack()->undo();
+    QCOMPARE(stored(first, "a"), QVariant("7"));
+    QCOMPARE(stored(first, "b"), QVariant());
 }
 
 void tst_KeltoParameterFormEditors::offersUndoOfTheFormInMenus()
