@@ -52,6 +52,8 @@ KeltoParameterFormPrivate::KeltoParameterFormPrivate(KeltoParameterForm *form)
     search->hide();
     area->setWidgetResizable(true);
     area->setFrameShape(QFrame::NoFrame);
+    // Whatever has the focus is brought into view, so that Tab need not stop at the area itself.
+    area->setFocusPolicy(Qt::NoFocus);
     advanced->setObjectName(QStringLiteral("kelto_advanced"));
     advanced->setCheckable(true);
     advanced->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);

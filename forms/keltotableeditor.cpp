@@ -16,6 +16,7 @@
 #include <QEvent>
 #include <QFile>
 #include <QFileDialog>
+#include <QFocusEvent>
 #include <QGridLayout>
 #include <QItemSelectionModel>
 #include <QLabel>
@@ -238,7 +239,6 @@ KeltoTableEditor::KeltoTableEditor(int columns, KeltoParameterModel::Kind cellKi
     layout->addLayout(buttons, 0, 1);
     layout->addWidget(d->status, 1, 0, 1, 2);
     layout->setColumnStretch(0, 1);
-    setFocusProxy(d->table);
     d->listen();
     d->model->setLocale(locale());
     d->retranslate();
@@ -388,6 +388,11 @@ void KeltoTableEditor::changeEvent(QEvent *event)
         d->model->setLocale(locale());
     else if (event->type() == QEvent::LanguageChange)
         d->retranslate();
+}
+
+void KeltoTableEditor::focusInEvent(QFocusEvent *event)
+{
+    d->table->setFocus(event->reason());
 }
 
 void KeltoTableEditor::showEvent(QShowEvent *event)

@@ -75,6 +75,9 @@ Q_SIGNALS:
 
 protected:
     void changeEvent(QEvent *event) override;
+    /// Hands the focus on to the table. With a focus proxy, Tab would come here from behind the
+    /// buttons, and so to the table once more.
+    void focusInEvent(QFocusEvent *event) override;
     void showEvent(QShowEvent *event) override;
 
 private:

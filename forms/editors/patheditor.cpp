@@ -44,7 +44,6 @@ LineWithButton::LineWithButton(EditorListener *listener, int row, QWidget *paren
     layout->addWidget(m_button);
     m_button->setObjectName(QStringLiteral("kelto_browse"));
     m_button->setFocusPolicy(Qt::StrongFocus);
-    setFocusProxy(m_line);
 }
 
 PathEditor::PathEditor(EditorListener *listener, int row, QWidget *parent)
