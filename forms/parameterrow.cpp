@@ -38,6 +38,16 @@ bool isTranslation(const QPair<QString, QString> &names, const KeltoItemHints &h
         || names.second == hints.translated(names.first);
 }
 
+/// The elements of several values, of which a single one may have come as a number. An empty text
+/// is none, as it is stored for what is optional.
+QStringList elementsOf(const QVariant &value)
+{
+    if (isEmptyValue(value))
+        return QStringList();
+    const QStringList elements = value.toStringList();
+    return elements.isEmpty() ? QStringList(value.toString()) : elements;
+}
+
 QString shownBool(const QString &stored)
 {
     if (stored == QLatin1String("true"))
@@ -122,7 +132,7 @@ QVariant ParameterRow::typed(const QLocale &locale) const
     case Kind::WholeNumber:
         return NumberText::shown(storedText(value), locale);
     case Kind::Table:
-        return value.toStringList();
+        return elementsOf(value);
     default:
         return storedText(value);
     }
@@ -136,7 +146,7 @@ QString ParameterRow::shown(const KeltoItemHints &hints, const QLocale &locale) 
     case Kind::Choice:
         return shownChoice(storedText(value), hints.choices(key));
     case Kind::Table:
-        return value.toStringList().join(QStringLiteral("; "));
+        return elementsOf(value).join(QStringLiteral("; "));
     default:
         return typed(locale).toString();
     }

@@ -7,6 +7,8 @@
 #include "parameterrow_p.h"
 
 #include <QKeyEvent>
+#include <QStyleOptionComboBox>
+#include <QStylePainter>
 #include <QVariantMap>
 #include <QWheelEvent>
 
@@ -29,6 +31,22 @@ void ChoiceBox::keyPressEvent(QKeyEvent *event)
         event->ignore();
     else
         QComboBox::keyPressEvent(event);
+}
+
+void ChoiceBox::paintEvent(QPaintEvent * /*event*/)
+{
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    if (currentIndex() < 0) {
+        option.currentText = placeholderText();
+        // The brush itself may be one that draws nothing.
+        const QColor color = option.palette.color(QPalette::PlaceholderText);
+        option.palette.setColor(QPalette::ButtonText, color);
+        option.palette.setColor(QPalette::Text, color);
+    }
+    QStylePainter painter(this);
+    painter.drawComplexControl(QStyle::CC_ComboBox, option);
+    painter.drawControl(QStyle::CE_ComboBoxLabel, option);
 }
 
 void ChoiceBox::wheelEvent(QWheelEvent *event)

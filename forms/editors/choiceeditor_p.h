@@ -22,6 +22,8 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
+    /// Shows the placeholder: Qt draws it with the brush of its colour, which draws nothing.
+    void paintEvent(QPaintEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
 };
 

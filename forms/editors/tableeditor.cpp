@@ -57,7 +57,7 @@ QWidget *TableEditor::widget()
 void TableEditor::show(const QModelIndex &index)
 {
     m_table->setLocale(modelOf(index).locale());
-    const QStringList value = index.data(KeltoParameterModel::ValueRole).toStringList();
+    const QStringList value = index.data(KeltoParameterModel::TextRole).toStringList();
     if (value != m_table->value())
         m_table->setValue(value);
 }

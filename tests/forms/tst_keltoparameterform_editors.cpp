@@ -8,7 +8,9 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMenu>
+#include <QSet>
 #include <QSignalSpy>
+#include <QTableView>
 #include <QTimer>
 #include <QToolButton>
 #include <QUndoStack>
@@ -24,6 +26,9 @@ private Q_SLOTS:
 
     void editsEachKind_data();
     void editsEachKind();
+    void showsSeveralValues_data();
+    void showsSeveralValues();
+    void offersToChoose();
     void showsEachKind_data();
     void showsEachKind();
     void choosesWithKeys();
@@ -83,6 +88,41 @@ void tst_KeltoParameterFormEditors::editsEachKind()
     line->selectAll();
     QTest::keyClick(line, Qt::Key_Delete);
     QCOMPARE(stored(*form, "a.b"), QVariant());
+}
+
+void tst_KeltoParameterFormEditors::showsSeveralValues_data()
+{
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<QStringList>("shown");
+    QTest::newRow("list") << QVariant(QStringList { "1", "2" }) << QStringList { "1", "2" };
+    QTest::newRow("one text") << QVariant("2.5") << QStringList("2.5");
+    QTest::newRow("one number") << QVariant(2.5) << QStringList("2.5");
+    QTest::newRow("empty text") << QVariant("") << QStringList();
+    QTest::newRow("none") << QVariant() << QStringList();
+}
+
+void tst_KeltoParameterFormEditors::showsSeveralValues()
+{
+    QFETCH(QVariant, value);
+    const auto form = shownForm(beam({ multiEntry("a", "QVector<double>") }));
+    form->setValues({ { "Attribute/a", value } });
+    const QAbstractItemModel *cells = form->findChild<QTableView *>("kelto_table")->model();
+    QStringList shown;
+    for (int row = 0; row < cells->rowCount(); ++row)
+        shown.append(cells->index(row, 0).data().toString());
+    QTEST(shown, "shown");
+}
+
+void tst_KeltoParameterFormEditors::offersToChoose()
+{
+    const auto form = shownForm(beam({ plainEntry("a", "bool") }));
+    auto *box = editorOf<QComboBox>(*form, "a");
+    QCOMPARE(box->currentIndex(), -1);
+    const QImage image = box->grab().toImage();
+    QSet<QRgb> colors;
+    for (int x = 10; x < 60; ++x)
+        colors.insert(image.pixel(x, image.height() / 2));
+    QVERIFY2(colors.size() > 1, "There is nothing in the box.");
 }
 
 void tst_KeltoParameterFormEditors::showsEachKind_data()
