@@ -5,6 +5,8 @@
 
 #include "keltoparameterform_p.h"
 
+#include "widgetlocale_p.h"
+
 #include <QAction>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -335,13 +337,8 @@ void KeltoParameterFormPrivate::showArrow() const
     advanced->setArrowType(isAdvancedVisible ? Qt::DownArrow : closed);
 }
 
-/// A program that changes its language changes the default locale as well. Widgets keep the one
-/// that they began with, unless someone gave them another.
 void KeltoParameterFormPrivate::followLocale()
 {
-    const QWidget *widget = q;
-    while (widget && !widget->testAttribute(Qt::WA_SetLocale))
-        widget = widget->parentWidget();
     if (ownModel)
-        model->setLocale(widget ? widget->locale() : QLocale());
+        model->setLocale(currentLocale(q));
 }

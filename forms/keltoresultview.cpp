@@ -5,6 +5,7 @@
 
 #include "delimitedtext_p.h"
 #include "resulttable_p.h"
+#include "widgetlocale_p.h"
 
 #include <QAction>
 #include <QApplication>
@@ -146,7 +147,7 @@ QList<QStandardItem *> KeltoResultViewPrivate::newRow(int position) const
         shown = table.countText(result);
         for (int i = 0; i < result.values.size(); ++i) {
             const ResultCells &value = result.values.at(i);
-            name->appendRow({ newItem(q->locale().toString(i + 1)), newItem(QString()),
+            name->appendRow({ newItem(table.locale.toString(i + 1)), newItem(QString()),
                               newValueItem(table.shown(result, value), table.exact(result, value)),
                               newItem(table.unit(result)) });
         }
@@ -244,9 +245,10 @@ void KeltoResultView::setResults(QVector<VParameter> results,
                                  QVector<QPair<QString, QVariant>> values, KeltoItemHints hints)
 {
     const int digits = d->table.significantDigits;
+    const QLocale numbers = d->table.locale;
     d->table = ResultTable(results, values, hints);
     d->table.significantDigits = digits;
-    d->table.locale = locale();
+    d->table.locale = numbers;
     d->show();
 }
 
@@ -297,7 +299,7 @@ void KeltoResultView::copyAsText()
 
 void KeltoResultView::copyAsCells()
 {
-    const QVector<QStringList> cells = d->table.cells(d->selectedPositions(), locale());
+    const QVector<QStringList> cells = d->table.cells(d->selectedPositions(), d->table.locale);
     QApplication::clipboard()->setText(
         DelimitedText::write(cells, QLatin1Char('\t'), QStringLiteral("\n")));
 }
@@ -314,8 +316,8 @@ void KeltoResultView::exportCsv()
 void KeltoResultView::changeEvent(QEvent *event)
 {
     QWidget::changeEvent(event);
-    if (event->type() == QEvent::LocaleChange)
-        d->table.locale = locale();
-    if (event->type() == QEvent::LocaleChange || event->type() == QEvent::LanguageChange)
+    if (event->type() == QEvent::LocaleChange || event->type() == QEvent::LanguageChange) {
+        d->table.locale = currentLocale(this);
         d->retranslate();
+    }
 }

@@ -127,6 +127,7 @@ private Q_SLOTS:
     void writesCsv();
     void saysWhatKeepsItFromWriting();
     void followsTheLanguage();
+    void followsTheDefaultLocale();
     void keepsWhatIsOpenAndClosed();
     void isUsedByKeys();
 };
@@ -394,6 +395,19 @@ void tst_KeltoResultView::followsTheLanguage()
     QCoreApplication::removeTranslator(&pseudo);
     QCoreApplication::processEvents();
     QCOMPARE(rowsOf(view), before);
+}
+
+void tst_KeltoResultView::followsTheDefaultLocale()
+{
+    KeltoResultView view;
+    view.setResults({ VParameter(plainEntry("a")) }, { { "a", 1.5 } });
+    QCOMPARE(view.text(), "Size\n  a (a): 1.5 mm\n");
+    const QLocale before;
+    QLocale::setDefault(QLocale(QLocale::German));
+    QEvent languageChange(QEvent::LanguageChange);
+    QCoreApplication::sendEvent(&view, &languageChange);
+    QLocale::setDefault(before);
+    QCOMPARE(view.text(), "Size\n  a (a): 1,5 mm\n");
 }
 
 void tst_KeltoResultView::keepsWhatIsOpenAndClosed()
