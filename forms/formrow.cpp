@@ -9,6 +9,7 @@
 
 #include <QGridLayout>
 #include <QLabel>
+#include <QStyle>
 
 #include <algorithm>
 #include <iterator>
@@ -17,7 +18,15 @@ using Model = KeltoParameterModel;
 
 namespace {
 
-enum GridColumn { LabelColumn, EditorColumn, UnitColumn, MarkColumn };
+enum GridColumn {
+    LabelColumn,
+    LabelGap,
+    EditorColumn,
+    UnitGap,
+    UnitColumn,
+    MarkGap,
+    MarkColumn,
+};
 // From the editor to the mark.
 constexpr int wholeSpan = MarkColumn - EditorColumn + 1;
 
@@ -36,6 +45,11 @@ QString joined(const QStringList &texts, const QString &separator)
 QString missingText()
 {
     return KeltoParameterForm::tr("missing");
+}
+
+int columnSpacing(const QWidget *widget)
+{
+    return 2 * widget->style()->pixelMetric(QStyle::PM_LayoutHorizontalSpacing, nullptr, widget);
 }
 
 /// Whether nothing but the row itself is needed to see what to do.
@@ -95,6 +109,8 @@ void FormRow::alignColumns(QGridLayout *grid, int labelWidth, int unitWidth)
     grid->setColumnMinimumWidth(LabelColumn, labelWidth);
     grid->setColumnMinimumWidth(UnitColumn, unitWidth);
     grid->setColumnMinimumWidth(MarkColumn, mark.sizeHint().width());
+    for (const int gap : { LabelGap, UnitGap, MarkGap })
+        grid->setColumnMinimumWidth(gap, columnSpacing(grid->parentWidget()));
     grid->setColumnStretch(EditorColumn, 1);
 }
 

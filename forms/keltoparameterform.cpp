@@ -165,6 +165,9 @@ bool KeltoParameterForm::event(QEvent *event)
         event->accept();
         return true;
     }
+    // The window finds out its size next, for which the form has to say all that it will say.
+    if (event->type() == QEvent::Polish)
+        d->showFindings();
     return QWidget::event(event);
 }
 

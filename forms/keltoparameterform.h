@@ -97,7 +97,8 @@ Q_SIGNALS:
     void summaryVisibleChanged(bool visible);
 
 protected:
-    /// Keeps the shortcuts to undo and redo from being taken by the window.
+    /// Keeps the shortcuts to undo and redo from being taken by the window, and is ready before it
+    /// is shown.
     bool event(QEvent *event) override;
     /// Sets all texts anew when the language has changed, and numbers when the locale has.
     void changeEvent(QEvent *event) override;

@@ -12,7 +12,9 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScreen>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QStyle>
 #include <QToolButton>
 #include <QUndoStack>
@@ -22,6 +24,30 @@
 #include <utility>
 
 using Model = KeltoParameterModel;
+
+namespace {
+
+/// Would like to be as large as all rows, up to most of the screen: the size that a QScrollArea
+/// wants ends at 24 lines of text.
+class RowArea : public QScrollArea
+{
+public:
+    using QScrollArea::QScrollArea;
+
+    QSize sizeHint() const override
+    {
+        if (!widget())
+            return QScrollArea::sizeHint();
+        const QSize most = screen()->availableSize() * 2 / 3;
+        QSize size = widget()->sizeHint();
+        // One that scrolls needs the room of the scroll bar beside its rows.
+        if (size.height() > most.height())
+            size.rwidth() += verticalScrollBar()->sizeHint().width();
+        return size.boundedTo(most);
+    }
+};
+
+} // namespace
 
 KeltoParameterFormPrivate::LayoutPause::LayoutPause(const KeltoParameterFormPrivate *form)
     : m_form(form)
@@ -45,7 +71,7 @@ void KeltoParameterFormPrivate::LayoutPause::setEnabled(bool enabled) const
 KeltoParameterFormPrivate::KeltoParameterFormPrivate(KeltoParameterForm *form)
     : q(form)
     , search(new QLineEdit(form))
-    , area(new QScrollArea(form))
+    , area(new RowArea(form))
     , advanced(new QToolButton(form))
     , summary(new QLabel(form))
 {
@@ -184,6 +210,8 @@ void KeltoParameterFormPrivate::build()
 {
     auto *contents = new QWidget;
     auto *layout = new QVBoxLayout(contents);
+    // Boxes begin where the search and the summary do.
+    layout->setContentsMargins(QMargins());
     sortIntoBoxes();
     m_rows.resize(model->rowCount());
     for (Box &box : m_boxes) {
@@ -196,6 +224,7 @@ void KeltoParameterFormPrivate::build()
     area->setWidget(contents);
     setTabOrder();
     showEveryVisibility();
+    area->updateGeometry();
 }
 
 void KeltoParameterFormPrivate::sortIntoBoxes()
@@ -216,10 +245,9 @@ void KeltoParameterFormPrivate::fill(Box *box, QWidget *parent)
 {
     box->widget = new QGroupBox(parent);
     auto *grid = new QGridLayout(box->widget);
-    grid->setHorizontalSpacing(
-        2
-        * box->widget->style()->pixelMetric(QStyle::PM_LayoutHorizontalSpacing, nullptr,
-                                            box->widget));
+    // Spacing would be left out beside a column without anything visible, and editors would be
+    // wider there. The gaps between the columns are columns themselves.
+    grid->setHorizontalSpacing(0);
     int position = 0;
     for (const int row : box->rows)
         m_rows.at(row) = std::make_unique<FormRow>(index(row), this, grid, position++);

@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
+#include <QScreen>
 #include <QScrollArea>
 #include <QSignalSpy>
 #include <QToolButton>
@@ -90,6 +91,8 @@ class tst_KeltoParameterForm : public QObject
 private Q_SLOTS:
     void laysOutBoxesAndRows();
     void givesTablesTheRoomOfTheRow();
+    void keepsTheWidthOfEditors();
+    void isAsLargeAsItsRows();
     void explainsItsEditorsToEveryone();
     void goesThroughEverythingByTab();
     void hidesWhatDoesNotCount();
@@ -118,6 +121,45 @@ void tst_KeltoParameterForm::laysOutBoxesAndRows()
     QVERIFY(form->editor("a")->y() < form->editor("c")->y());
     QCOMPARE(labelOf(*form, "a")->x(), labelOf(*form, "c")->x());
     QCOMPARE(form->editor("a")->x(), form->editor("b")->x());
+}
+
+void tst_KeltoParameterForm::keepsTheWidthOfEditors()
+{
+    QStringList unitless = plainEntry("b", "float", "Load");
+    unitless[KeltoParameterEntry::Unit].clear();
+    const auto form = shownForm(beam({ plainEntry("a"), unitless, plainEntry("c", "file") }));
+    const int width = form->editor("a")->width();
+    QCOMPARE(form->editor("b")->width(), width);
+    QTRY_COMPARE(visibleMarks(*form).size(), 3);
+    form->setValues({ { "Attribute/a", "1" }, { "Attribute/b", "1" }, { "Attribute/c", "1" } });
+    QVERIFY(waitForFindings(*form));
+    QCOMPARE(visibleMarks(*form), QStringList());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    QCOMPARE(form->editor("a")->width(), width);
+    QCOMPARE(form->editor("b")->width(), width);
+}
+
+void tst_KeltoParameterForm::isAsLargeAsItsRows()
+{
+    ParameterEntries entries;
+    for (int i = 0; i < 5; ++i)
+        entries.append(plainEntry("Parameter " + QString::number(i)));
+    const AUTH_SET few = registryOf(beam(entries));
+    Form form(&few, "Statics", "Bend");
+    const auto *area = form.findChild<QScrollArea *>();
+    QCOMPARE(area->sizeHint(), area->widget()->sizeHint());
+    form.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&form));
+    QTRY_VERIFY(summaryOf(form).startsWith("5 of 5"));
+    QCoreApplication::processEvents();
+    QCOMPARE(area->height(), area->widget()->height());
+    for (int i = 5; i < 100; ++i)
+        entries.append(plainEntry("Parameter " + QString::number(i)));
+    const AUTH_SET many = registryOf(beam(entries));
+    Form large(&many, "Statics", "Bend");
+    area = large.findChild<QScrollArea *>();
+    QCOMPARE(area->sizeHint().height(), area->screen()->availableSize().height() * 2 / 3);
+    QVERIFY(area->sizeHint().width() > area->widget()->sizeHint().width());
 }
 
 void tst_KeltoParameterForm::givesTablesTheRoomOfTheRow()
