@@ -85,6 +85,10 @@
 <context>
     <name>KeltoItemHints</name>
     <message>
+        <source>%1: there is no result &quot;%3&quot;.</source>
+        <translation>%1：没有名为“%3”的结果。</translation>
+    </message>
+    <message>
         <source>%1: there is no parameter or result &quot;%3&quot;.</source>
         <translation>%1：没有名为“%3”的参数或结果。</translation>
     </message>

@@ -24,11 +24,14 @@ public:
     using Problem = KeltoItemHints::Problem;
 
     /// With %1 for the extra key, %2 for its text and %3 for the part that is wrong.
-    static QString of(Problem::Kind kind)
+    static QString of(const Problem &problem)
     {
-        switch (kind) {
+        switch (problem.kind) {
         case Problem::UnknownKey:
-            return tr("%1: there is no parameter or result \"%3\".");
+            // There may well be such a parameter.
+            return problem.extraKey.startsWith(QLatin1String("Belong."))
+                ? tr("%1: there is no result \"%3\".")
+                : tr("%1: there is no parameter or result \"%3\".");
         case Problem::UnknownMode:
             return tr("%1: there is no inner mode \"%3\".");
         case Problem::NotOneText:
@@ -97,7 +100,7 @@ QStringList keysOfMode(const HintView &view, const AUTH_INF &item, int mode)
 
 QString KeltoItemHints::Problem::text() const
 {
-    return sentenceOf(Sentences::of(kind), { extraKey, value, part });
+    return sentenceOf(Sentences::of(*this), { extraKey, value, part });
 }
 
 QVector<KeltoItemHints::Problem> KeltoItemHints::problems() const

@@ -37,7 +37,7 @@ private Q_SLOTS:
             { "Min.l: there is no parameter or result \"l\"." });
         row("no key", { { "Min.", 1 } }, { "Min.: there is no parameter or result \"\"." });
         row("a parameter that is no result", { { "Belong.L", "A" } },
-            { "Belong.L: there is no parameter or result \"L\"." });
+            { "Belong.L: there is no result \"L\"." });
         row("an unknown mode", { { "Min.L@C", 1 } }, { "Min.L@C: there is no inner mode \"C\"." });
         row("a translated mode", { { "Min.L@甲", 1 } },
             { "Min.L@甲: there is no inner mode \"甲\"." });
