@@ -7,7 +7,6 @@
 
 #include <Kelto/AUTH_SET>
 
-#include <QCoreApplication>
 #include <QEvent>
 #include <QKeyEvent>
 #include <QLabel>
@@ -145,16 +144,8 @@ void KeltoParameterForm::setSummaryVisible(bool visible)
 void KeltoParameterForm::focusParameter(QString key)
 {
     const int row = d->model->row(key);
-    if (row < 0 || !d->index(row).data(KeltoParameterModel::CountsRole).toBool())
-        return;
-    if (d->index(row).data(KeltoParameterModel::AdvancedRole).toBool())
-        setAdvancedVisible(true);
-    if (!d->isFound(row))
-        d->search->clear();
-    // A row that was hidden has no place yet.
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
-    d->field(row)->setFocus(Qt::TabFocusReason);
-    d->area->ensureWidgetVisible(d->field(row));
+    if (d->bringIntoView(row))
+        d->field(row)->setFocus(Qt::TabFocusReason);
 }
 
 bool KeltoParameterForm::event(QEvent *event)

@@ -40,6 +40,9 @@ public:
     QModelIndex index(int row) const;
     /// The editor of a row; nullptr where there is none.
     QWidget *field(int row) const;
+    /// Scrolls to the row, also to one that is advanced or not found. False for one that does not
+    /// count or is not there.
+    bool bringIntoView(int row);
     /// Whether the search leaves the row visible.
     bool isFound(int row) const;
 
@@ -106,7 +109,8 @@ private:
     int m_session = 1;
     /// The row whose editor just told of a change. It shows the text as it is typed.
     int m_typedRow = -1;
-    bool m_isStepping = false;
+    /// The row that the model told of last.
+    int m_changedRow = -1;
 };
 
 #endif

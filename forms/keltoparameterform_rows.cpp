@@ -8,6 +8,8 @@
 #include "widgetlocale_p.h"
 
 #include <QAction>
+#include <QCoreApplication>
+#include <QEvent>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
@@ -131,9 +133,23 @@ void KeltoParameterFormPrivate::finishTyping(int row)
 void KeltoParameterFormPrivate::step(void (QUndoStack::*undoOrRedo)())
 {
     ++m_session;
-    m_isStepping = true;
+    m_changedRow = -1;
     (undoStack()->*undoOrRedo)();
-    m_isStepping = false;
+    bringIntoView(m_changedRow);
+}
+
+bool KeltoParameterFormPrivate::bringIntoView(int row)
+{
+    if (!field(row) || !index(row).data(Model::CountsRole).toBool())
+        return false;
+    if (index(row).data(Model::AdvancedRole).toBool())
+        q->setAdvancedVisible(true);
+    if (!isFound(row))
+        search->clear();
+    // A row that was hidden has no place yet.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    area->ensureWidgetVisible(field(row));
+    return true;
 }
 
 void KeltoParameterFormPrivate::setOwnModel(std::unique_ptr<KeltoParameterModel> newModel)
@@ -295,8 +311,7 @@ void KeltoParameterFormPrivate::showRows(int first, int last)
         showVisibility(row);
     }
     showTitles(first, last);
-    if (m_isStepping)
-        area->ensureWidgetVisible(m_rows.at(last)->field());
+    m_changedRow = last;
 }
 
 void KeltoParameterFormPrivate::showTitles(int first, int last) const

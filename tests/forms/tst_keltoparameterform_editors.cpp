@@ -42,6 +42,7 @@ private Q_SLOTS:
     void undoesWhatIsTypedAsOne();
     void undoesWithinTheWholeForm();
     void undoesWhatWasTypedIntoTwoForms();
+    void showsWhatIsUndone();
     void offersUndoOfTheFormInMenus();
 };
 
@@ -339,6 +340,22 @@ void tst_KeltoParameterFormEditors::undoesWhatWasTypedIntoTwoForms()
     model.undoStack()->undo();
     QCOMPARE(stored(first, "a"), QVariant("7"));
     QCOMPARE(stored(first, "b"), QVariant());
+}
+
+void tst_KeltoParameterFormEditors::showsWhatIsUndone()
+{
+    const auto form = shownForm(caseBeam());
+    form->setAdvancedVisible(true);
+    QTest::keyClicks(form->editor("Depth"), "5");
+    form->setAdvancedVisible(false);
+    form->setSearchVisible(true);
+    auto *search = form->findChild<QLineEdit *>("kelto_search");
+    search->setText("Length");
+    QVERIFY(!form->editor("Depth")->isVisible());
+    QTest::keyClick(form->editor("Length"), Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(editorOf<QLineEdit>(*form, "Depth")->text(), "");
+    QVERIFY(form->editor("Depth")->isVisible());
+    QCOMPARE(search->text(), "");
 }
 
 void tst_KeltoParameterFormEditors::offersUndoOfTheFormInMenus()
