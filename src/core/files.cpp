@@ -108,12 +108,15 @@ std::optional<QByteArray> contentOf(const QString &path)
     QFile file(path);
     if (!canBeFile(path))
         return std::nullopt;
-    if (!file.exists())
+    // The other exists() would take a link that leads to nothing for a file.
+    if (!QFile::exists(path))
         return QByteArray();
     if (!file.open(QIODevice::ReadOnly))
         return std::nullopt;
+    const qint64 size = file.size();
     QByteArray bytes = file.readAll();
-    if (file.error() != QFileDevice::NoError)
+    // Of a file that is too large for an array Qt reads nothing, and does not call that an error.
+    if (file.error() != QFileDevice::NoError || bytes.size() < size)
         return std::nullopt;
     return bytes;
 }
@@ -144,6 +147,9 @@ std::unique_ptr<QLockFile> lockedFile(const QString &path)
     // A link may lead to a file in another directory.
     if (isAppendOnly(info.absolutePath())
         || isAppendOnly(QFileInfo(info.canonicalFilePath()).path()))
+        return nullptr;
+    // QLockFile reads what has the name of the lock: of a pipe it would wait for a writer.
+    if (!canBeFile(lockPath))
         return nullptr;
     auto lock = std::make_unique<QLockFile>(lockPath);
     lock->setStaleLockTime(staleLockTime);

@@ -392,6 +392,19 @@ private Q_SLOTS:
         QCOMPARE(fileContent("f.ini"), QByteArray("[General]\na=3\n"));
     }
 
+    void givesUpAtOnceWhereAPipeHasTheNameOfTheLock()
+    {
+#ifdef Q_OS_UNIX
+        QVERIFY(writeFile("f.ini", "a=1\n"));
+        QCOMPARE(::mkfifo("f.ini.lock", 0600), 0);
+        VIniSettings store("f.ini", true);
+        store.setValue("a", 2);
+        QCOMPARE(fileContent("f.ini"), QByteArray("a=1\n"));
+#else
+        QSKIP("Only Unix has pipes among its files.");
+#endif
+    }
+
     void savesWhenAnAbandonedLockIsLeft_data()
     {
         QTest::addColumn<QByteArray>("lock");

@@ -381,6 +381,16 @@ private Q_SLOTS:
         QCOMPARE(filesIn("."), (QStringList { "link.ini", "target.ini" }));
     }
 
+    void savesThroughALinkToNothing()
+    {
+        QVERIFY(QFile::link("target.ini", "link.ini"));
+        VIniSettings store(QString("link.ini"), true);
+        store.setValue("top", 2);
+        QVERIFY(QFileInfo("link.ini").isSymLink());
+        QCOMPARE(fileContent("target.ini"), QByteArray("[General]\ntop=2\n"));
+        QCOMPARE(filesIn("."), (QStringList { "link.ini", "target.ini" }));
+    }
+
     void keepsWhatOthersWrote()
     {
         QVERIFY(writeFile(path(), stored()));
