@@ -110,9 +110,9 @@ void Road::calculate()
     m_walker.click("Bending moment",
                    [] { return Onlooker::positionOfTab(mainWindow, "plots", 1); });
     m_walker.takePicture("bending-moment");
-    m_walker.act("Drags a frame", [this] {
+    m_walker.act("Drags a frame around the curve", [this] {
         const QPoint centre = Onlooker::position(mainWindow, "plots");
-        m_walker.input().drag(centre, centre + QPoint(80, 60));
+        m_walker.input().drag(centre - QPoint(0, 60), centre + QPoint(80, 0));
     });
     m_walker.takePicture("zoom");
     press("Ctrl+0", [](UserInput &input) { input.pressWithControl('0'); });
