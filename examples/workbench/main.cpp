@@ -1,14 +1,12 @@
 // SPDX-FileCopyrightText: The Kelto developers
 // SPDX-License-Identifier: MIT
 
-#include "commandline.h"
 #include "workbench.h"
 
 #include <QApplication>
 
 int main(int argc, char *argv[])
 {
-    nameApplication();
     const Options options = [&] {
         // Help and complaints need no display; a QApplication would end the program without one.
         const QCoreApplication early(argc, argv);

@@ -5,7 +5,7 @@
 
 #include "ui_mainwindow.h"
 
-#include "languages.h"
+#include "modules.h"
 #include "report.h"
 #include "studydialog.h"
 
@@ -16,24 +16,23 @@
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QLocale>
 #include <QMessageBox>
-#include <QPdfWriter>
 #include <QPrintDialog>
 #include <QPrinter>
-#include <QStyle>
 #include <QUndoStack>
 
 namespace {
 
 // Keys of the set values, which the registry keeps for the next run.
-const QLatin1String lastTask("Task/Last");
-const QLatin1String recentProjects("Project/Recent");
-const QLatin1String geometryKey("Window/Geometry");
-const QLatin1String layoutKey("Window/Layout");
-const QLatin1String languageKey("Window/Language");
+const char *const lastTask = "Task/Last";
+const char *const recentProjects = "Project/Recent";
+const char *const geometryKey = "Window/Geometry";
+const char *const layoutKey = "Window/Layout";
+const char *const languageKey = "Window/Language";
 
 const int recentCount = 8;
 
@@ -53,31 +52,20 @@ Values overlaid(Values values, const Values &others)
 MainWindow::MainWindow(AUTH_SET *registry, const QVector<AUTH_INF> &modules)
     : m_registry(registry)
     , m_modules(modules)
-    , m_place(new QLabel)
     , ui(std::make_unique<Ui::MainWindow>())
 {
     ui->setupUi(this);
     // What Qt Designer cannot say.
     ui->message->setBackgroundRole(QPalette::ToolTipBase);
     ui->message->setForegroundRole(QPalette::ToolTipText);
-    ui->sheet->setSizes({ 4500, 5500 });
-    ui->resultsAndPlots->setSizes({ 4500, 5500 });
-    ui->newProject->setIcon(style()->standardIcon(QStyle::SP_FileIcon));
-    ui->open->setIcon(style()->standardIcon(QStyle::SP_DialogOpenButton));
-    ui->save->setIcon(style()->standardIcon(QStyle::SP_DialogSaveButton));
-    ui->calculate->setIcon(style()->standardIcon(QStyle::SP_ArrowForward));
-    ui->study->setIcon(style()->standardIcon(QStyle::SP_FileDialogDetailedView));
-    ui->log->toggleViewAction()->setObjectName(QStringLiteral("showLog"));
+    ui->log->toggleViewAction()->setObjectName("showLog");
     ui->viewMenu->addAction(ui->log->toggleViewAction());
-    ui->statusBar->addPermanentWidget(m_place);
-    m_place->setObjectName(QStringLiteral("place"));
+    ui->statusBar->addPermanentWidget(ui->place);
     connect(ui->undo, &QAction::triggered, this, [this] { m_model->undoStack()->undo(); });
     connect(ui->redo, &QAction::triggered, this, [this] { m_model->undoStack()->redo(); });
     connect(ui->defaults, &QAction::triggered, this, [this] { m_model->resetToDefaults(); });
     connect(ui->languages, &QActionGroup::triggered, this,
             [this](const QAction *action) { setLanguage(action->objectName()); });
-    const QFontMetrics metrics = fontMetrics();
-    resize(160 * metrics.averageCharWidth(), 44 * metrics.height());
     restoreGeometry(m_registry->value_set(geometryKey).toByteArray());
     restoreState(m_registry->value_set(layoutKey).toByteArray());
     showTask({}, {});
@@ -92,8 +80,9 @@ void MainWindow::newProject()
     if (!mayGoOn())
         return;
     const auto last = tasksNamed(*m_registry, m_registry->value_set(lastTask).toString());
-    if (confirmTask(last.isEmpty() ? allTasks(*m_registry).value(0) : last.first()))
-        startProject(chosenTask());
+    const Task task = confirmedTask(last.isEmpty() ? allTasks(*m_registry).value(0) : last.first());
+    if (!task.isNull())
+        startProject(task);
 }
 
 void MainWindow::startProject(const Task &task)
@@ -111,10 +100,10 @@ void MainWindow::openProject(const QString &path)
     if (!problem.isEmpty())
         return tell(problem);
     const auto tasks = tasksNamed(*m_registry, project.task());
-    if (!confirmTask(tasks.value(0)))
+    const Task task = confirmedTask(tasks.value(0));
+    if (task.isNull())
         return;
     m_project = project;
-    const Task task = chosenTask();
     showTask(task, m_project.values());
     QStringList sentences = m_project.differences(*m_registry, task);
     if (tasks.isEmpty())
@@ -122,9 +111,9 @@ void MainWindow::openProject(const QString &path)
             tr("The project is for the task \"%1\", which is not on offer.").arg(m_project.task()));
     if (!m_project.lockProblem().isEmpty())
         sentences.prepend(tr("The project can only be read. %1").arg(m_project.lockProblem()));
-    tell(sentences.join(QLatin1Char('\n')));
+    tell(sentences.join('\n'));
     remember();
-    log(QStringLiteral("Opened ") + m_project.path());
+    log("Opened " + m_project.path());
 }
 
 void MainWindow::chooseProject()
@@ -144,9 +133,8 @@ bool MainWindow::save()
 
 bool MainWindow::saveAs()
 {
-    const QString name = m_project.path().isEmpty()
-        ? m_task.module.codeFunctionName + QLatin1String(".ini")
-        : m_project.path();
+    const QString name
+        = m_project.path().isEmpty() ? m_task.module.codeFunctionName + ".ini" : m_project.path();
     const QString path
         = QFileDialog::getSaveFileName(this, tr("Save project"), name, tr("Projects (*.ini)"));
     return !path.isEmpty() && saveTo(path);
@@ -159,8 +147,7 @@ bool MainWindow::saveTo(const QString &path)
     if (!problem.isEmpty()) {
         tell(problem);
         return QMessageBox::question(this, tr("Save project"),
-                                     problem + QLatin1Char('\n')
-                                         + tr("Save the project in another place?"))
+                                     problem + '\n' + tr("Save the project in another place?"))
             == QMessageBox::Yes
             && saveAs();
     }
@@ -169,7 +156,7 @@ bool MainWindow::saveTo(const QString &path)
     updateTitle();
     tell({});
     ui->statusBar->showMessage(tr("Saved."), 5000);
-    log(QStringLiteral("Saved ") + m_project.path());
+    log("Saved " + m_project.path());
     return true;
 }
 
@@ -200,15 +187,14 @@ void MainWindow::offerRecent()
     ui->recent->clear();
     const QStringList recent = m_registry->value_set(recentProjects).toStringList();
     for (const QString &path : recent)
-        ui->recent->addAction(QDir::toNativeSeparators(path).replace(QLatin1Char('&'),
-                                                                     QLatin1String("&&")),
-                              this, [this, path] { openProject(path); });
+        ui->recent->addAction(QDir::toNativeSeparators(path).replace('&', "&&"), this,
+                              [this, path] { openProject(path); });
 }
 
 // --- Tasks -----------------------------------------------------------------------
 
-/// Whether the user accepted a task in Kelto's dialog.
-bool MainWindow::confirmTask(const Task &preselected)
+/// The task that the user accepts in Kelto's dialog; a null task when none.
+Task MainWindow::confirmedTask(const Task &preselected)
 {
     selectTask(*m_registry, preselected);
     UTaskSelectDialog dialog;
@@ -217,34 +203,29 @@ bool MainWindow::confirmTask(const Task &preselected)
     dialog.set(m_registry);
     // Waits until the dialog has closed. Afterwards the registry holds what the user accepted.
     dialog.show();
-    const bool isAccepted = dialog.operateIndex == 0; // after "Accept" and after "Default"
-    if (!isAccepted)
+    if (dialog.operateIndex != 0) { // neither "Accept" nor "Default"
         selectTask(*m_registry, m_task);
-    return isAccepted;
-}
-
-/// The task that was accepted in the dialog, which knows names only: where modes of several modules
-/// have one name, the user chooses the module.
-Task MainWindow::chosenTask()
-{
-    const QString name
-        = m_registry->stdModeNameForm(m_registry->current_group, m_registry->current_mode);
-    const QVector<Task> tasks = tasksNamed(*m_registry, name);
+        return {};
+    }
+    // The dialog knows names only: modes of several modules may have one name.
+    const QVector<Task> tasks = tasksNamed(*m_registry,
+                                           m_registry->stdModeNameForm(m_registry->current_group,
+                                                                       m_registry->current_mode));
     QStringList modules;
     for (const Task &task : tasks)
         modules.append(task.module.name_tr);
-    int chosen = 0;
+    QString chosen;
     if (tasks.size() > 1)
-        chosen = modules.indexOf(
-            QInputDialog::getItem(this, tr("Confirm task"),
-                                  tr("Several modules have this task. Which one?"), modules, 0,
-                                  false));
-    return tasks.value(qMax(chosen, 0));
+        chosen = QInputDialog::getItem(this, tr("Confirm task"),
+                                       tr("Several modules have this task. Which one?"), modules, 0,
+                                       false);
+    return tasks.value(qMax(modules.indexOf(chosen), 0));
 }
 
 void MainWindow::chooseTask()
 {
-    if (!confirmTask(m_task))
+    const Task task = confirmedTask(m_task);
+    if (task.isNull())
         return;
     // What was entered, and is no default, is kept for other tasks with the same parameters.
     Values entered;
@@ -254,7 +235,7 @@ void MainWindow::chooseTask()
             entered.append(value);
     }
     m_project.setTask(m_task, entered);
-    showTask(chosenTask(), {});
+    showTask(task, {});
     setWindowModified(true);
 }
 
@@ -278,7 +259,7 @@ void MainWindow::showTask(const Task &task, const Values &values)
     if (task.isNull())
         return;
     m_registry->setValueInSet(lastTask, task.id());
-    log(QStringLiteral("Task: ") + m_registry->stdModeNameForm(task.group.first, task.mode.first));
+    log("Task: " + m_registry->stdModeNameForm(task.group.first, task.mode.first));
 }
 
 void MainWindow::takeEdit()
@@ -291,30 +272,28 @@ void MainWindow::takeEdit()
 
 // --- Results ---------------------------------------------------------------------
 
-void MainWindow::calculate()
+/// Whether there are results.
+bool MainWindow::calculate()
 {
     m_computation = {};
     const auto findings = ui->form->findings();
     if (!findings.isEmpty()) {
         showResults();
-        ui->form->focusParameter(findings.first().valueKey.section(QLatin1Char('/'), 1));
-        return tell(findings.first().text());
+        ui->form->focusParameter(findings.first().valueKey.section('/', 1));
+        tell(findings.first().text());
+        return false;
     }
     // From here on the registry holds the input for every part of the program.
-    m_registry->getCalculationLData(ui->form->values());
-    Values values;
-    for (const VParameter &parameter : qAsConst(m_task.parameters)) {
-        for (const char *group : { "Attribute/", "Unit/" }) {
-            const QString key = QLatin1String(group) + parameter.name().first;
-            values.append({ key, m_registry->value_cal(key) });
-        }
-    }
+    Values values = ui->form->values();
+    m_registry->getCalculationLData(values);
+    for (auto &value : values)
+        value.second = m_registry->value_cal(value.first);
     const auto outcome = Calculator::calculate(m_task.module, m_task.mode.first, values);
     m_computation = outcome.result;
     showResults();
     tell(outcome.problem);
-    log(QStringLiteral("Calculated: ")
-        + (outcome.isValid() ? QStringLiteral("done") : outcome.problem));
+    log("Calculated: " + (outcome.isValid() ? "done" : outcome.problem));
+    return outcome.isValid();
 }
 
 void MainWindow::showResults()
@@ -328,45 +307,43 @@ void MainWindow::showResults()
 
 void MainWindow::studyParameter()
 {
-    calculate();
-    if (m_computation.results.isEmpty())
+    if (!calculate())
         return;
     StudyDialog(m_registry, m_task, ui->form->values(), this).exec();
+    showLog();
 }
 
 void MainWindow::exportReport()
 {
-    calculate();
-    if (m_computation.results.isEmpty())
+    if (!calculate())
         return;
-    const QString path
-        = QFileDialog::getSaveFileName(this, tr("Export report"), QStringLiteral("report.pdf"),
-                                       tr("Documents (*.pdf)"));
+    const QString path = QFileDialog::getSaveFileName(this, tr("Export report"), "report.pdf",
+                                                      tr("Documents (*.pdf)"));
     if (path.isEmpty())
         return;
-    QPdfWriter writer(path);
-    writer.setPageSize(QPageSize(QPageSize::A4));
-    writer.setPageMargins({ 18, 15, 18, 15 }, QPageLayout::Millimeter);
-    writer.setTitle(m_task.title());
-    makeReport(&writer, path);
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(path);
+    makeReport(&printer, path);
 }
 
 void MainWindow::printReport()
 {
-    calculate();
     QPrinter printer(QPrinter::HighResolution);
-    if (!m_computation.results.isEmpty()
-        && QPrintDialog(&printer, this).exec() == QDialog::Accepted)
+    if (calculate() && QPrintDialog(&printer, this).exec() == QDialog::Accepted)
         makeReport(&printer, printer.printerName());
 }
 
-void MainWindow::makeReport(QPagedPaintDevice *device, const QString &place)
+void MainWindow::makeReport(QPrinter *printer, const QString &place)
 {
-    const Report report { m_project.path(), m_task, ui->form->values(), m_computation.results };
-    if (!report.print(device, ui->plots))
+    printer->setPageSize(QPageSize(QPageSize::A4));
+    printer->setPageMargins({ 18, 15, 18, 15 }, QPageLayout::Millimeter);
+    printer->setDocName(m_task.title());
+    const Report report { m_project.path(), m_task, ui->form->values(), m_computation };
+    if (!report.print(printer))
         return tell(tr("\"%1\" cannot be written.").arg(QDir::toNativeSeparators(place)));
     ui->statusBar->showMessage(tr("Exported."), 5000);
-    log(QStringLiteral("Exported ") + place);
+    log("Exported " + place);
 }
 
 // --- Window ----------------------------------------------------------------------
@@ -375,7 +352,7 @@ void MainWindow::setLanguage(const QString &name)
 {
     m_registry->setValueInSet(languageKey, name);
     useLanguage(QLocale(name), m_registry, m_modules);
-    log(QStringLiteral("Language: ") + name);
+    log("Language: " + name);
 }
 
 void MainWindow::changeEvent(QEvent *event)
@@ -392,7 +369,7 @@ void MainWindow::changeEvent(QEvent *event)
 void MainWindow::retranslate()
 {
     ui->title->setText(m_task.isNull() ? tr("No project") : m_task.title());
-    ui->description->setText(m_task.module.description + QLatin1Char('\n') + m_task.description);
+    ui->description->setText(m_task.module.description + '\n' + m_task.description);
     ui->description->setVisible(!m_task.isNull());
     tell(m_task.isNull() ? tr("Begin a new project, or open one.") : QString());
     updateTitle();
@@ -403,11 +380,11 @@ void MainWindow::updateTitle()
 {
     const QString name
         = m_project.path().isEmpty() ? tr("New project") : QFileInfo(m_project.path()).fileName();
-    setWindowTitle(QStringLiteral("%1[*] - %2").arg(name, QCoreApplication::applicationName()));
+    setWindowTitle(QString("%1[*] - %2").arg(name, QCoreApplication::applicationName()));
     QString place = QDir::toNativeSeparators(m_project.path());
     if (!m_project.lockProblem().isEmpty())
         place = tr("%1 (read only)").arg(place);
-    m_place->setText(place);
+    ui->place->setText(place);
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)
@@ -416,7 +393,7 @@ void MainWindow::closeEvent(QCloseEvent *event)
         return event->ignore();
     m_registry->setValueInSet(geometryKey, saveGeometry());
     m_registry->setValueInSet(layoutKey, saveState());
-    log(QStringLiteral("Ended"));
+    log("Ended");
     QMainWindow::closeEvent(event);
 }
 
@@ -430,7 +407,15 @@ void MainWindow::tell(const QString &message)
 void MainWindow::log(const QString &line)
 {
     m_registry->log(line);
-    ui->logText->follow(m_registry->filepath_log());
+    showLog();
+}
+
+void MainWindow::showLog()
+{
+    QFile file(m_registry->filepath_log());
+    if (file.open(QIODevice::ReadOnly))
+        ui->logText->setPlainText(QString::fromUtf8(file.readAll()));
+    ui->logText->moveCursor(QTextCursor::End);
 }
 
 void MainWindow::about()

@@ -12,8 +12,7 @@
 
 class AUTH_SET;
 class KeltoParameterModel;
-class QLabel;
-class QPagedPaintDevice;
+class QPrinter;
 
 namespace Ui {
 class MainWindow;
@@ -52,7 +51,7 @@ private Q_SLOTS:
     void offerRecent();
     void chooseTask();
     void takeEdit();
-    void calculate();
+    bool calculate();
     void studyParameter();
     void exportReport();
     void printReport();
@@ -62,16 +61,16 @@ private:
     bool saveTo(const QString &path);
     void remember();
     bool mayGoOn();
-    bool confirmTask(const Task &preselected);
-    Task chosenTask();
+    Task confirmedTask(const Task &preselected);
     void showTask(const Task &task, const Values &values);
     void showResults();
-    void makeReport(QPagedPaintDevice *device, const QString &place);
+    void makeReport(QPrinter *printer, const QString &place);
     void setLanguage(const QString &name);
     void retranslate();
     void updateTitle();
     void tell(const QString &message);
     void log(const QString &line);
+    void showLog();
 
     AUTH_SET *m_registry;
     QVector<AUTH_INF> m_modules;
@@ -79,7 +78,6 @@ private:
     Task m_task;
     Computation m_computation;
     KeltoParameterModel *m_model = nullptr;
-    QLabel *m_place;
     std::unique_ptr<Ui::MainWindow> ui;
 };
 

@@ -4,54 +4,76 @@
 #include "modules.h"
 
 #include <Kelto/AUTH_INF>
+#include <Kelto/AUTH_SET>
+#include <Kelto/KeltoItemTranslation>
 
 #include <QCoreApplication>
 #include <QDir>
-
-namespace {
-
-Outcome<AUTH_INF> moduleFromFile(const QFileInfo &file)
-{
-    // Kelto treats a file that it cannot read as an empty one.
-    if (!file.isReadable())
-        return { {}, QStringLiteral("The file \"%1\" cannot be read.").arg(file.filePath()) };
-    AUTH_INF module;
-    module.load_ini(file.filePath());
-    if (module.name.isEmpty())
-        return { {},
-                 QStringLiteral("The file \"%1\" holds no module: the section \"KeltoItem\" "
-                                "with a \"name\" is missing.")
-                     .arg(file.filePath()) };
-    return { module, {} };
-}
-
-} // namespace
-
-QString moduleDirectory()
-{
-    return QCoreApplication::applicationDirPath() + QLatin1String("/modules");
-}
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
 
 Outcome<QVector<AUTH_INF>> modulesFromFiles(const QString &directory)
 {
     const QFileInfo info(directory);
     if (!info.isDir())
-        return { {}, QStringLiteral("There is no directory \"%1\".").arg(directory) };
+        return { {}, QString("There is no directory \"%1\".").arg(directory) };
     // Without the right to search it, Qt still lists the names, but not the files behind them.
     if (!info.isReadable() || !info.isExecutable())
-        return { {}, QStringLiteral("The directory \"%1\" cannot be read.").arg(directory) };
+        return { {}, QString("The directory \"%1\" cannot be read.").arg(directory) };
     // The build takes the same files.
-    const auto files = QDir(directory).entryInfoList({ QStringLiteral("*.ini") },
-                                                     QDir::Files | QDir::CaseSensitive, QDir::Name);
+    const auto files
+        = QDir(directory).entryInfoList({ "*.ini" }, QDir::Files | QDir::CaseSensitive, QDir::Name);
     if (files.isEmpty())
-        return { {}, QStringLiteral("The directory \"%1\" holds no files *.ini.").arg(directory) };
-
-    Outcome<QVector<AUTH_INF>> modules;
+        return { {}, QString("The directory \"%1\" holds no files *.ini.").arg(directory) };
+    QVector<AUTH_INF> modules;
     for (const QFileInfo &file : files) {
-        const Outcome<AUTH_INF> module = moduleFromFile(file);
-        if (!module.isValid())
-            return { {}, module.problem };
-        modules.result.append(module.result);
+        // Kelto treats a file that it cannot read as an empty one.
+        if (!file.isReadable())
+            return { {}, QString("The file \"%1\" cannot be read.").arg(file.filePath()) };
+        AUTH_INF module;
+        module.load_ini(file.filePath());
+        if (module.name.isEmpty())
+            return { {},
+                     QString("The file \"%1\" holds no module: the section \"KeltoItem\" with a "
+                             "\"name\" is missing.")
+                         .arg(file.filePath()) };
+        modules.append(module);
     }
-    return modules;
+    return { modules, {} };
+}
+
+void installTranslations(const QLocale &locale)
+{
+    // The resources of a static library have to be named once, or the linker leaves them out.
+    Q_INIT_RESOURCE(workbench_translations);
+    qDeleteAll(QCoreApplication::instance()->findChildren<QTranslator *>());
+    // Kelto's libraries contain the translations of their windows. The buttons of message boxes and
+    // file dialogs are Qt's.
+    const QPair<QString, QString> places[] = {
+        { "workbench", ":/workbench/translations" },
+        { "kelto", ":/kelto/translations" },
+        { "kelto-forms", ":/kelto-forms/translations" },
+        { "qtbase", QLibraryInfo::location(QLibraryInfo::TranslationsPath) },
+    };
+    for (const auto &place : places) {
+        auto *translator = new QTranslator(QCoreApplication::instance());
+        if (!translator->load(locale, place.first, "_", place.second))
+            return; // in a language that the workbench does not speak, nobody else shall
+        QCoreApplication::installTranslator(translator);
+    }
+}
+
+void useLanguage(const QLocale &locale, AUTH_SET *registry, QVector<AUTH_INF> modules)
+{
+    installTranslations(locale);
+    for (AUTH_INF &module : modules)
+        KeltoItemTranslation::translate(&module);
+    QVector<QPair<QString, int>> selected;
+    const QStringList groups = registry->exclusive_group_namelist();
+    for (const QString &group : groups)
+        selected.append({ group, registry->exclusive_group_select(group) });
+    registry->acquire(modules);
+    for (const auto &selection : qAsConst(selected))
+        registry->exclusive_group_set_mode(selection.first, selection.second);
 }

@@ -11,12 +11,11 @@
 #include <QVector>
 
 class AUTH_INF;
+class AUTH_SET;
+class QLocale;
 
-// The calculation modules of the workbench. Each is described in one place, a file of the directory
-// "modules", and reaches the program in either of two ways.
-
-/// Where the files lie unless the user says otherwise: beside the program.
-QString moduleDirectory();
+// The calculation modules of the workbench, and the language of their texts. Each is described in
+// one place, a file of the directory "modules", and reaches the program in either of two ways.
 
 /// The modules of the files "*.ini" in @p directory, in the order of the file names; or a message
 /// that says what is wrong with which file.
@@ -32,5 +31,13 @@ class ModuleTexts
 {
     Q_DECLARE_TR_FUNCTIONS(ModuleTexts)
 };
+
+/// Installs the translations for the language of @p locale in place of those installed before;
+/// texts without one stay English. Windows are told by an event QEvent::LanguageChange.
+void installTranslations(const QLocale &locale);
+
+/// Does that, and gives @p registry the modules @p modules with their texts in the language; what
+/// is selected stays selected.
+void useLanguage(const QLocale &locale, AUTH_SET *registry, QVector<AUTH_INF> modules);
 
 #endif

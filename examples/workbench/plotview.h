@@ -11,8 +11,7 @@
 class QwtPlot;
 
 /// Curves in one plot for each pair of quantities, behind tabs. The mouse zooms in with a frame and
-/// out with the right button, and a click into the legend hides a curve. Curves differ in colour
-/// and in how their lines are broken.
+/// out with the right button. Curves differ in colour and in how their lines are broken.
 class PlotView : public QTabWidget
 {
     Q_OBJECT
@@ -24,7 +23,7 @@ public:
     void setCurves(const QVector<Curve> &curves);
 
     /// Draws all plots side by side, for paper.
-    void render(QPainter *painter, const QRectF &area);
+    void render(QPainter *painter, const QRectF &area) const;
 
 public Q_SLOTS:
     void resetZoom();
@@ -33,10 +32,10 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    QwtPlot *addPlot(const Curve &first);
-    void addLegend(QwtPlot *plot);
-    void restyle();
+    QwtPlot *plotFor(const Curve &curve);
     QwtPlot *plot(int index) const;
+
+    QVector<Curve> m_curves;
 };
 
 #endif

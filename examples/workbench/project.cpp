@@ -14,10 +14,10 @@
 
 namespace {
 
-const QLatin1String taskKey("Project/Task");
-const QLatin1String versionKey("Project/Version");
-const QLatin1String attribute("Attribute/");
-const QLatin1String unitGroup("Unit/");
+const char *const taskKey = "Project/Task";
+const char *const versionKey = "Project/Version";
+const char *const attribute = "Attribute/";
+const char *const unitGroup = "Unit/";
 
 void setValue(Values *values, const QString &key, const QVariant &value)
 {
@@ -35,7 +35,7 @@ void setValue(Values *values, const QString &key, const QVariant &value)
 QString textOf(const QVariant &value)
 {
     const QStringList texts = value.toStringList();
-    return texts.isEmpty() ? value.toString() : texts.join(QLatin1String("; "));
+    return texts.isEmpty() ? value.toString() : texts.join("; ");
 }
 
 } // namespace
@@ -92,7 +92,7 @@ void Project::setTask(const Task &task, const Values &values)
 {
     for (const auto &value : values) {
         // What does not count is empty now, but it may count again.
-        const QString key = value.first.section(QLatin1Char('/'), 1);
+        const QString key = value.first.section('/', 1);
         if (!textOf(value.second).isEmpty() || task.hints.counts(key, &values))
             setValue(&m_values, value.first, value.second);
     }
@@ -118,7 +118,7 @@ QStringList Project::differences(const AUTH_SET &registry, const Task &task) con
         if (value.first.startsWith(attribute) && !known.contains(value.first))
             sentences.append(
                 tr("The value \"%1\" = %2 is not used by any task. It is kept in the project.")
-                    .arg(value.first.mid(attribute.size()), textOf(value.second)));
+                    .arg(value.first.section('/', 1), textOf(value.second)));
     }
     for (const VParameter &parameter : task.parameters) {
         const QVariant unit = valueOf(m_values, unitGroup + parameter.name().first);
@@ -134,8 +134,7 @@ QString Project::lock(const QString &path)
 {
     // Not the name of the lock that is taken while an INI file is written.
     const QFileInfo info(path);
-    const auto lock = std::make_shared<QLockFile>(info.path() + QLatin1String("/.~")
-                                                  + info.fileName() + QLatin1String(".open"));
+    const auto lock = std::make_shared<QLockFile>(info.path() + "/.~" + info.fileName() + ".open");
     lock->setStaleLockTime(0); // for hours of work; a lock whose process has ended does not count
     if (lock->tryLock(0)) {
         m_lock = lock;

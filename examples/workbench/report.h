@@ -6,7 +6,6 @@
 
 #include "task.h"
 
-class PlotView;
 class QPagedPaintDevice;
 
 /// What a report tells.
@@ -15,12 +14,12 @@ struct Report
     QString project;
     Task task;
     Values values;
-    Values results;
+    Computation computation;
 
     /// Draws one page: the task, its assumptions, the input, the results, and below these the
     /// plots. Text that needs more than its share of the page is made smaller.
     /// @return whether the device took it
-    bool print(QPagedPaintDevice *device, PlotView *plots) const;
+    bool print(QPagedPaintDevice *device) const;
 
 private:
     QString html() const;

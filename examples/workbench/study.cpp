@@ -14,7 +14,7 @@
 
 namespace {
 
-const QLatin1String attribute("Attribute/");
+const char *const attribute = "Attribute/";
 
 /// A number with as many digits as it has, however the language writes them.
 QString exact(double number)
@@ -37,18 +37,14 @@ VParameter parameterOf(const Task &task, const QString &key)
     return found == task.parameters.cend() ? VParameter() : *found;
 }
 
-QString cell(QString text)
+QString quoted(QString text)
 {
-    const bool isPlain = std::none_of(text.cbegin(), text.cend(), [](QChar character) {
-        return QStringLiteral(",;\"\n").contains(character);
-    });
-    const QLatin1Char quote('"');
-    return isPlain ? text : quote + text.replace(quote, QLatin1String("\"\"")) + quote;
+    return text.isEmpty() ? text : '"' + text.replace('"', "\"\"") + '"';
 }
 
 QString heading(const VParameter &parameter)
 {
-    return cell(QStringLiteral("%1 [%2]").arg(parameter.name().second, parameter.unit().first));
+    return quoted(QString("%1 [%2]").arg(parameter.name().second, parameter.unit().first));
 }
 
 } // namespace
@@ -83,17 +79,17 @@ QVector<Curve> resultCurves(const Task &task, const StudyRange &range,
     for (const VParameter &result : task.results) {
         if (result.isMulti())
             continue;
-        Curve curve { result.name().first, {}, {}, {} };
+        const QString name = result.name().first;
+        Curve curve { name, {}, {}, {} };
         curve.x.name = range.key;
         curve.x.unit = parameter.unit().first;
-        curve.y.name = result.name().first;
+        curve.y.name = name;
         curve.y.unit = result.unit().first;
         for (const StudyPoint &point : points) {
             if (point.outcome.isValid())
                 curve.points.append(
                     { point.value,
-                      valueOf(point.outcome.result.results, attribute + result.name().first)
-                          .toDouble() });
+                      valueOf(point.outcome.result.results, attribute + name).toDouble() });
         }
         curves.append(curve);
     }
@@ -112,13 +108,13 @@ QVector<Curve> familyOfCurves(const Task &task, const StudyRange &range,
             = points.at(members < 2 ? 0 : i * (points.size() - 1) / (members - 1));
         for (const Curve &member : point.outcome.result.curves) {
             Curve curve = member;
-            const QString value = QStringLiteral("%1 = %L2 %3")
+            const QString value = QString("%1 = %L2 %3")
                                       .arg(parameter.symbol())
                                       .arg(point.value)
                                       .arg(parameter.unit().first);
             curve.name = curve.name == curve.y.name
                 ? value
-                : ModuleTexts::tr(curve.name.toUtf8().constData()) + QLatin1String(", ") + value;
+                : ModuleTexts::tr(curve.name.toUtf8().constData()) + ", " + value;
             curves.append(curve);
         }
     }
@@ -130,19 +126,16 @@ QString studyAsCsv(const Task &task, const StudyRange &range, const QVector<Stud
     QStringList row { heading(parameterOf(task, range.key)) };
     for (const VParameter &result : task.results)
         row.append(heading(result));
-    row.append(QString());
-    QString text = row.join(QLatin1Char(',')) + QLatin1Char('\n');
+    QString text = row.join(',') + ",\n";
     for (const StudyPoint &point : points) {
         row = QStringList { exact(point.value) };
         for (const VParameter &result : task.results) {
             const QVariant value
                 = valueOf(point.outcome.result.results, attribute + result.name().first);
-            row.append(cell(value.type() == QVariant::Double
-                                ? exact(value.toDouble())
-                                : value.toStringList().join(QLatin1String("; "))));
+            row.append(value.type() == QVariant::Double ? exact(value.toDouble())
+                                                        : quoted(value.toStringList().join("; ")));
         }
-        row.append(cell(point.outcome.problem));
-        text += row.join(QLatin1Char(',')) + QLatin1Char('\n');
+        text += row.join(',') + ',' + quoted(point.outcome.problem) + '\n';
     }
     return text;
 }

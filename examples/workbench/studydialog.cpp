@@ -27,8 +27,6 @@ StudyDialog::StudyDialog(AUTH_SET *registry, const Task &task, const Values &val
 {
     ui->setupUi(this);
     offerParameters();
-    const QFontMetrics metrics = fontMetrics();
-    resize(100 * metrics.averageCharWidth(), 36 * metrics.height());
 }
 
 StudyDialog::~StudyDialog() = default;
@@ -39,11 +37,11 @@ void StudyDialog::offerParameters()
     for (const VParameter &parameter : qAsConst(m_task.parameters)) {
         const QString key = parameter.name().first;
         bool isNumber = false;
-        valueOf(m_values, QLatin1String("Attribute/") + key).toString().toDouble(&isNumber);
+        valueOf(m_values, "Attribute/" + key).toString().toDouble(&isNumber);
         if (isNumber && !parameter.isMulti() && m_task.hints.choices(key).isEmpty()
             && m_task.hints.counts(key, &m_values))
-            ui->studyParameter->addItem(QStringLiteral("%1 [%2]").arg(parameter.name().second,
-                                                                      parameter.unit().first),
+            ui->studyParameter->addItem(QString("%1 [%2]").arg(parameter.name().second,
+                                                               parameter.unit().first),
                                         key);
     }
     ui->studyRun->setEnabled(ui->studyParameter->count() > 0);
@@ -52,24 +50,19 @@ void StudyDialog::offerParameters()
 
 /// Where the temporary values hold what was entered for the parameter, for as long as the program
 /// runs.
-QString StudyDialog::place(const char *name) const
+QString StudyDialog::place() const
 {
-    return QStringLiteral("Study/%1/%2")
-        .arg(ui->studyParameter->currentData().toString(), QLatin1String(name));
+    return "Study/" + ui->studyParameter->currentData().toString();
 }
 
 void StudyDialog::recallRange()
 {
-    const double value
-        = valueOf(m_values,
-                  QLatin1String("Attribute/") + ui->studyParameter->currentData().toString())
-              .toDouble();
-    const QVariant from = m_registry->value_temp(place("From"));
-    const QVariant to = m_registry->value_temp(place("To"));
-    const QVariant steps = m_registry->value_temp(place("Steps"));
-    ui->studyFrom->setText(locale().toString(from.isValid() ? from.toDouble() : value / 2));
-    ui->studyTo->setText(locale().toString(to.isValid() ? to.toDouble() : value * 2));
-    ui->studySteps->setValue(steps.isValid() ? steps.toInt() : 10);
+    const QString key = ui->studyParameter->currentData().toString();
+    const double value = valueOf(m_values, "Attribute/" + key).toDouble();
+    const QStringList last = m_registry->value_temp(place()).toStringList();
+    ui->studyFrom->setText(last.value(0, locale().toString(value / 2)));
+    ui->studyTo->setText(last.value(1, locale().toString(value * 2)));
+    ui->studySteps->setValue(last.value(2, "10").toInt());
 }
 
 bool StudyDialog::readRange()
@@ -80,9 +73,9 @@ bool StudyDialog::readRange()
                 locale().toDouble(ui->studyFrom->text(), &isFrom),
                 locale().toDouble(ui->studyTo->text(), &isTo), ui->studySteps->value() };
     if (isFrom && isTo && m_range.from != m_range.to) {
-        m_registry->set_temp(place("From"), m_range.from);
-        m_registry->set_temp(place("To"), m_range.to);
-        m_registry->set_temp(place("Steps"), m_range.steps);
+        m_registry->set_temp(place(),
+                             QStringList { ui->studyFrom->text(), ui->studyTo->text(),
+                                           QString::number(m_range.steps) });
         return true;
     }
     ui->studyMessage->setText(
@@ -110,7 +103,7 @@ void StudyDialog::run()
     ui->studyRun->setEnabled(true);
     ui->studyCancel->setText(tr("Close"));
     ui->studySave->setEnabled(true);
-    m_registry->log(QStringLiteral("Study of %1: %2 of %3 points")
+    m_registry->log(QString("Study of %1: %2 of %3 points")
                         .arg(m_range.key)
                         .arg(m_points.size())
                         .arg(m_range.steps + 1));
@@ -130,14 +123,13 @@ void StudyDialog::showCurves()
         if (!point.outcome.isValid() && lines.size() < 3)
             lines.append(tr("Not computed at %L1: %2").arg(point.value).arg(point.outcome.problem));
     }
-    ui->studyMessage->setText(lines.join(QLatin1Char('\n')));
+    ui->studyMessage->setText(lines.join('\n'));
 }
 
 void StudyDialog::saveCsv()
 {
     const QString path
-        = QFileDialog::getSaveFileName(this, tr("Save as CSV"), QStringLiteral("study.csv"),
-                                       tr("Tables (*.csv)"));
+        = QFileDialog::getSaveFileName(this, tr("Save as CSV"), "study.csv", tr("Tables (*.csv)"));
     if (path.isEmpty())
         return;
     QSaveFile file(path);

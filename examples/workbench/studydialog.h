@@ -39,7 +39,7 @@ private Q_SLOTS:
 private:
     void offerParameters();
     bool readRange();
-    QString place(const char *name) const;
+    QString place() const;
 
     AUTH_SET *m_registry;
     Task m_task;

@@ -6,9 +6,6 @@
 #include <Kelto/AUTH_SET>
 #include <Kelto/KeltoParameterEntry>
 
-#include <algorithm>
-#include <iterator>
-
 QVariant valueOf(const Values &values, const QString &key)
 {
     for (const auto &value : values) {
@@ -20,12 +17,12 @@ QVariant valueOf(const Values &values, const QString &key)
 
 QString Task::title() const
 {
-    return QStringLiteral("%1 › %2 › %3").arg(group.second, module.name_tr, mode.second);
+    return QString("%1 › %2 › %3").arg(group.second, module.name_tr, mode.second);
 }
 
 QString Task::id() const
 {
-    return group.first + QLatin1Char('/') + module.name + QLatin1Char('/') + mode.first;
+    return group.first + '/' + module.name + '/' + mode.first;
 }
 
 Task Task::inUnitsOf(const Values &values) const
@@ -33,7 +30,7 @@ Task Task::inUnitsOf(const Values &values) const
     Task task = *this;
     for (VParameter &parameter : task.parameters) {
         QStringList sets = parameter.toSetsForm();
-        const QVariant unit = valueOf(values, QStringLiteral("Unit/") + parameter.name().first);
+        const QVariant unit = valueOf(values, "Unit/" + parameter.name().first);
         sets[KeltoParameterEntry::Unit] = unit.isValid() ? unit.toString() : parameter.unit().first;
         parameter.set(sets);
     }
@@ -48,9 +45,9 @@ Task taskAt(const AUTH_SET &registry, const QString &group, int position)
     if (position < 0 || position >= modes.size())
         return {};
     const int module = modes.at(position).first;
-    const auto first = std::find_if(modes.cbegin(), modes.cend(),
-                                    [module](const auto &mode) { return mode.first == module; });
-    const int mode = position - int(std::distance(modes.cbegin(), first));
+    int mode = 0;
+    while (mode < position && modes.at(position - mode - 1).first == module)
+        ++mode;
 
     Task task;
     task.group = registry.findExclusiveGroupName(group);
@@ -63,12 +60,6 @@ Task taskAt(const AUTH_SET &registry, const QString &group, int position)
     task.parameters = task.hints.parameters();
     task.results = task.hints.results();
     return task;
-}
-
-Task currentTask(const AUTH_SET &registry)
-{
-    return taskAt(registry, registry.current_group,
-                  registry.exclusive_group_select(registry.current_group));
 }
 
 QVector<Task> allTasks(const AUTH_SET &registry)
@@ -94,12 +85,13 @@ void selectTask(AUTH_SET &registry, const Task &task)
 
 QVector<Task> tasksNamed(const AUTH_SET &registry, const QString &standardName)
 {
-    QVector<Task> tasks = allTasks(registry);
-    const auto isOther = [&](const Task &task) {
-        return standardName != task.id()
-            && standardName != registry.stdModeNameForm(task.group.first, task.mode.first)
-            && standardName != registry.stdModeNameForm(task.group.second, task.mode.second);
-    };
-    tasks.erase(std::remove_if(tasks.begin(), tasks.end(), isOther), tasks.end());
-    return tasks;
+    QVector<Task> named;
+    const QVector<Task> tasks = allTasks(registry);
+    for (const Task &task : tasks) {
+        if (standardName == task.id()
+            || standardName == registry.stdModeNameForm(task.group.first, task.mode.first)
+            || standardName == registry.stdModeNameForm(task.group.second, task.mode.second))
+            named.append(task);
+    }
+    return named;
 }

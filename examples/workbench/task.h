@@ -48,10 +48,6 @@ struct Task
 /// The mode at @p position of @p group; a null task when there is none.
 Task taskAt(const AUTH_SET &registry, const QString &group, int position);
 
-/// The task that is selected in the registry: the selected mode of the group that was accepted
-/// last. A null task as long as none was accepted.
-Task currentTask(const AUTH_SET &registry);
-
 /// All tasks on offer, in the order of the groups and modes.
 QVector<Task> allTasks(const AUTH_SET &registry);
 

@@ -8,10 +8,26 @@
 
 #include <Kelto/AUTH_SET>
 
-struct Options;
+enum ExitCode { Done = 0, Failed = 1, WrongUsage = 2 };
 
-/// Gives the application its name and version, which the registry and "--version" tell.
-void nameApplication();
+struct Options
+{
+    /// Empty for the language of the last run.
+    QString language;
+    QString task;
+    /// The directory of the module files; ignored with compiled modules.
+    QString modules;
+    bool compiled = false;
+    /// The project to open; empty for a new one.
+    QString project;
+};
+
+/// Names the application, and ends it after "--help", "--version" and wrong usage. Needs a
+/// QCoreApplication and no display, so that a QApplication can be made afterwards.
+Options readOptions(const QStringList &arguments);
+
+/// Ends the program with a message on the error channel.
+[[noreturn]] void quit(ExitCode code, const QString &complaint);
 
 /// The program from its start on: the modules, the one registry, the language, the window.
 class Workbench
@@ -21,7 +37,6 @@ public:
     explicit Workbench(const Options &options);
 
     const AUTH_SET &registry() const { return m_registry; }
-    MainWindow &window() { return m_window; }
 
     /// Opens the window with the project or the task of @p options, and ends the program with a
     /// message when there is no such task. Without a task the user is asked, and that of the
@@ -31,7 +46,7 @@ public:
 private:
     /// As their files have them, in no language in particular.
     QVector<AUTH_INF> m_modules;
-    // The one registry of the program. It has to outlive everything that asks it.
+    // It has to outlive everything that asks it.
     AUTH_SET m_registry;
     MainWindow m_window;
 };

@@ -8,7 +8,6 @@
 // screen of twice the size.
 // Exit codes: 0 when all went well, 1 otherwise, 2 for wrong usage.
 
-#include "commandline.h"
 #include "road.h"
 #include "screenshots.h"
 #include "workbench.h"
@@ -71,7 +70,6 @@ void useDirectory(const QString &path)
 
 int main(int argc, char *argv[])
 {
-    nameApplication();
     QApplication application(argc, argv);
     QStringList arguments = QCoreApplication::arguments();
     if (arguments.size() < 2)

@@ -3,7 +3,7 @@
 
 #include "userinput.h"
 
-#include "commandline.h"
+#include "workbench.h"
 
 #include <QApplication>
 

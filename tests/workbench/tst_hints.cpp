@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Kelto developers
 // SPDX-License-Identifier: MIT
 
-#include "languages.h"
+#include "modules.h"
 #include "publishedforms.h"
 
 #include <Kelto/KeltoItemHints>

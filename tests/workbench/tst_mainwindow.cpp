@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: The Kelto developers
 // SPDX-License-Identifier: MIT
 
-#include "languages.h"
 #include "mainwindow.h"
 #include "modules.h"
 #include "plotview.h"
@@ -532,7 +531,8 @@ private Q_SLOTS:
             dialog->close();
         });
         trigger("study");
-        QCOMPARE(m_registry->value_temp("Study/Point load/From"), QVariant(100.));
+        QCOMPARE(m_registry->value_temp("Study/Point load"),
+                 QVariant(QStringList { "100", "300", "4" }));
     }
 
     void canceledStudy()

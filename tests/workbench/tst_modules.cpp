@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 
 #include "calculations/units.h"
-#include "languages.h"
 #include "modules.h"
 
 #include <Kelto/AUTH_INF>

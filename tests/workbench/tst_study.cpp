@@ -145,9 +145,9 @@ private Q_SLOTS:
         const QStringList lines = studyAsCsv(m_task, range, points).split('\n');
         QCOMPARE(lines.size(), 4);
         QCOMPARE(lines.at(3), QString());
-        QStringList heading { "Inner surface temperature [°C]" };
+        QStringList heading { "\"Inner surface temperature [°C]\"" };
         for (const VParameter &result : qAsConst(m_task.results))
-            heading.append(result.name().first + " [" + result.unit().first + ']');
+            heading.append('"' + result.name().first + " [" + result.unit().first + "]\"");
         QCOMPARE(lines.at(0), heading.join(',') + ',');
         // What is wrong stands in the last column, quoted where it holds a separator.
         const QString problem = points.first().outcome.problem;

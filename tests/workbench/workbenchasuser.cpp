@@ -6,7 +6,6 @@
 //   workbenchasuser ID [option of the workbench]...
 // An empty ID stands for the user who it is.
 
-#include "commandline.h"
 #include "workbench.h"
 
 #include "support/becomeuser.h"
@@ -20,7 +19,6 @@ int main(int argc, char *argv[])
     if (argc < 2 || !becomeUser(QString::fromLocal8Bit(argv[1])))
         return 3;
     QApplication application(argc, argv);
-    nameApplication();
     QStringList arguments = QCoreApplication::arguments();
     arguments.removeAt(1);
     const Workbench workbench(readOptions(arguments));
