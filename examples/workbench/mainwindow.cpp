@@ -58,6 +58,8 @@ MainWindow::MainWindow(AUTH_SET *registry, const QVector<AUTH_INF> &modules)
     // What Qt Designer cannot say.
     ui->message->setBackgroundRole(QPalette::ToolTipBase);
     ui->message->setForegroundRole(QPalette::ToolTipText);
+    ui->sheet->setSizes({ 4500, 5500 });
+    ui->resultsAndPlots->setSizes({ 4500, 5500 });
     ui->log->toggleViewAction()->setObjectName("showLog");
     ui->viewMenu->addAction(ui->log->toggleViewAction());
     ui->statusBar->addPermanentWidget(ui->place);

@@ -192,7 +192,18 @@ private Q_SLOTS:
         for (const QStringList &entry : entries) {
             QCOMPARE(entry.size(), 9);
             const QString text = entry.join('|');
-            QVERIFY2(!entry.contains(QString()), qPrintable(text));
+            // A choice has neither symbol nor unit, a number without dimension no unit.
+            const bool isChoice = entry.at(KeltoParameterEntry::ObjectName) == "choice";
+            for (int place = 0; place < entry.size(); ++place) {
+                const bool isUnit = place == KeltoParameterEntry::Unit
+                    || place == KeltoParameterEntry::SecondUnit;
+                const bool mayBeEmpty
+                    = isUnit || (isChoice && place == KeltoParameterEntry::Symbol);
+                QVERIFY2(mayBeEmpty || !entry.at(place).isEmpty(), qPrintable(text));
+            }
+            QCOMPARE(entry.at(KeltoParameterEntry::Unit).isEmpty(),
+                     entry.at(KeltoParameterEntry::SecondUnit).isEmpty());
+            QVERIFY2(!entry.contains("-"), qPrintable(text)); // which a form would show
             QVERIFY2(
                 (QStringList { "true", "false" }).contains(entry.at(KeltoParameterEntry::Multi)),
                 qPrintable(text));
