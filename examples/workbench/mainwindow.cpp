@@ -326,6 +326,8 @@ void MainWindow::exportReport()
     QPrinter printer(QPrinter::HighResolution);
     printer.setOutputFormat(QPrinter::PdfFormat);
     printer.setOutputFileName(path);
+    printer.setPageSize(QPageSize(QPageSize::A4));
+    printer.setPageMargins({ 18, 15, 18, 15 }, QPageLayout::Millimeter);
     makeReport(&printer, path);
 }
 
@@ -338,8 +340,6 @@ void MainWindow::printReport()
 
 void MainWindow::makeReport(QPrinter *printer, const QString &place)
 {
-    printer->setPageSize(QPageSize(QPageSize::A4));
-    printer->setPageMargins({ 18, 15, 18, 15 }, QPageLayout::Millimeter);
     printer->setDocName(m_task.title());
     const Report report { m_project.path(), m_task, ui->form->values(), m_computation };
     if (!report.print(printer))

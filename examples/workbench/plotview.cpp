@@ -47,9 +47,7 @@ QString translated(const QString &name)
 
 QwtText axisTitle(const Quantity &quantity)
 {
-    QwtText title(quantity.unit.isEmpty()
-                      ? translated(quantity.name)
-                      : QString("%1 [%2]").arg(translated(quantity.name), quantity.unit));
+    QwtText title(withUnit(translated(quantity.name), quantity.unit));
     title.setFont(QApplication::font());
     return title;
 }

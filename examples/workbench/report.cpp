@@ -43,7 +43,8 @@ QString Report::html() const
     }
     // Paper is white in dark colours as well.
     return QString("<body style='color:black'><h2>%1</h2><p>%2 &nbsp; %3</p><p>%4</p><p>%5</p>"
-                   "<table width=100%><tr><th align=left>%6</th><th align=left>%7</th></tr>"
+                   "<table width=100% cellpadding=6><tr><th align=left>%6</th><th "
+                   "align=left>%7</th></tr>"
                    "<tr style='white-space:pre-wrap'><td width=50%>%8</td><td>%9</td></tr></table>")
         .arg(task.title().toHtmlEscaped(),
              QLocale().toString(QDate::currentDate(), QLocale::ShortFormat),

@@ -44,7 +44,7 @@ QString quoted(QString text)
 
 QString heading(const VParameter &parameter)
 {
-    return quoted(QString("%1 [%2]").arg(parameter.name().second, parameter.unit().first));
+    return quoted(withUnit(parameter.name().second, parameter.unit().first));
 }
 
 } // namespace

@@ -11,12 +11,6 @@
 #include <QFileDialog>
 #include <QSaveFile>
 
-namespace {
-
-const int membersOfFamily = 6;
-
-} // namespace
-
 StudyDialog::StudyDialog(AUTH_SET *registry, const Task &task, const Values &values,
                          QWidget *parent)
     : QDialog(parent)
@@ -40,8 +34,7 @@ void StudyDialog::offerParameters()
         valueOf(m_values, "Attribute/" + key).toString().toDouble(&isNumber);
         if (isNumber && !parameter.isMulti() && m_task.hints.choices(key).isEmpty()
             && m_task.hints.counts(key, &m_values))
-            ui->studyParameter->addItem(QString("%1 [%2]").arg(parameter.name().second,
-                                                               parameter.unit().first),
+            ui->studyParameter->addItem(withUnit(parameter.name().second, parameter.unit().first),
                                         key);
     }
     ui->studyRun->setEnabled(ui->studyParameter->count() > 0);
@@ -113,7 +106,7 @@ void StudyDialog::run()
 void StudyDialog::showCurves()
 {
     const bool isFamily = ui->studyView->currentIndex() == 1;
-    ui->plots->setCurves(isFamily ? familyOfCurves(m_task, m_range, m_points, membersOfFamily)
+    ui->plots->setCurves(isFamily ? familyOfCurves(m_task, m_range, m_points, 6)
                                   : resultCurves(m_task, m_range, m_points));
     QStringList lines;
     if (m_isCanceled)

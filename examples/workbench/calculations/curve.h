@@ -30,6 +30,12 @@ struct Quantity
     QString unit;
 };
 
+/// A name with its unit, as it heads an axis or a column.
+inline QString withUnit(const QString &name, const QString &unit)
+{
+    return unit.isEmpty() ? name : QString::fromLatin1("%1 [%2]").arg(name, unit);
+}
+
 /// A line of a plot. Curves with equal quantities belong into one plot.
 struct Curve
 {
