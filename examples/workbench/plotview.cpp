@@ -20,6 +20,8 @@
 #include <qwt_plot_zoomer.h>
 #include <qwt_text.h>
 
+#include <iterator>
+
 namespace {
 
 /// Colours that can be told apart with any kind of colour vision. The first of each pair stands out

@@ -114,11 +114,11 @@ void Workbench::open(const Options &options)
     m_registry.log("Started, version " + QCoreApplication::applicationVersion());
     const QVector<Task> tasks = tasksNamed(m_registry, options.task);
     if (!options.task.isEmpty() && tasks.isEmpty()) {
-        QString known;
+        QStringList lines { "Unknown task: " + options.task, "Known tasks:" };
         const auto modes = m_registry.currentModeList();
         for (const auto &mode : modes)
-            known += "\n  " + mode.first;
-        quit(Failed, "Unknown task: " + options.task + "\nKnown tasks:" + known);
+            lines.append("  " + mode.first);
+        quit(Failed, lines.join('\n'));
     }
     m_window.show();
     if (!options.task.isEmpty())
