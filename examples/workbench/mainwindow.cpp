@@ -47,6 +47,19 @@ Values overlaid(Values values, const Values &others)
     return values;
 }
 
+/// @p values, with defaults for what does not count beside them: it may count later.
+Values withDefaultsOfHidden(Values values, const Task &task)
+{
+    const Values given = values;
+    for (const VParameter &parameter : task.parameters) {
+        const QString name = parameter.name().first;
+        const QString key = "Attribute/" + name;
+        if (!valueOf(given, key).isValid() && !task.hints.counts(name, &given))
+            values.append({ key, task.hints.defaultValue(name) });
+    }
+    return values;
+}
+
 } // namespace
 
 MainWindow::MainWindow(AUTH_SET *registry, const QVector<AUTH_INF> &modules)
@@ -227,13 +240,15 @@ Task MainWindow::confirmedTask(const Task &preselected)
 void MainWindow::chooseTask()
 {
     const Task task = confirmedTask(m_task);
-    if (task.isNull())
+    if (task.isNull() || task.id() == m_task.id())
         return;
-    // What was entered, and is no default, is kept for other tasks with the same parameters.
+    // What was entered is kept for other tasks with the same parameters. Defaults are not, unless
+    // they were entered in place of another value.
     Values entered;
     const Values values = ui->form->values();
     for (const auto &value : values) {
-        if (value.second != m_registry->value_group_at(m_task.id(), value.first))
+        if (value.second != m_registry->value_group_at(m_task.id(), value.first)
+            || valueOf(m_project.values(), value.first).isValid())
             entered.append(value);
     }
     m_project.setTask(m_task, entered);
@@ -249,7 +264,8 @@ void MainWindow::showTask(const Task &task, const Values &values)
     selectTask(*m_registry, task);
     auto *model = new KeltoParameterModel(m_registry, task.group.first, task.position, this);
     m_registry->setDefaultSettings(task.id(), model->values());
-    model->setValues(values.isEmpty() ? overlaid(model->values(), m_project.values()) : values);
+    model->setValues(values.isEmpty() ? overlaid(model->values(), m_project.values())
+                                      : withDefaultsOfHidden(values, m_task));
     ui->form->setModel(model);
     delete m_model;
     m_model = model;

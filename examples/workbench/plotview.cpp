@@ -18,6 +18,7 @@
 #include <qwt_plot_grid.h>
 #include <qwt_plot_renderer.h>
 #include <qwt_plot_zoomer.h>
+#include <qwt_scale_widget.h>
 #include <qwt_text.h>
 
 #include <iterator>
@@ -110,6 +111,9 @@ QwtPlot *PlotView::plotFor(const Curve &curve)
     added->setAxisTitle(QwtPlot::xBottom, x);
     added->setAxisTitle(QwtPlot::yLeft, y);
     added->setAxisMaxMajor(QwtPlot::xBottom, 5); // leaves room for long numbers
+    // Or the lowest and the highest number would be clipped.
+    added->axisWidget(QwtPlot::yLeft)
+        ->setMinBorderDist(fontMetrics().height(), fontMetrics().height());
     added->setMinimumHeight(10 * fontMetrics().height()); // Qwt asks for more
     added->setCanvasBackground(palette().color(QPalette::Base));
     QColor faint = palette().color(QPalette::Text);

@@ -45,11 +45,12 @@ QString complaintAbout(const QCommandLineParser &parser)
     return {};
 }
 
-QVector<AUTH_INF> modulesFor(const Options &options)
+/// Ends the program with a message when they cannot be read.
+QVector<AUTH_INF> modulesFor(const QCommandLineParser &parser)
 {
-    if (options.compiled)
+    if (parser.isSet("compiled"))
         return compiledModules();
-    const auto modules = modulesFromFiles(options.modules);
+    const auto modules = modulesFromFiles(parser.value("modules"));
     if (!modules.isValid())
         quit(Failed,
              modules.problem
@@ -88,8 +89,8 @@ Options readOptions(const QStringList &arguments)
     const QString complaint = complaintAbout(parser);
     if (!complaint.isEmpty())
         quit(WrongUsage, complaint);
-    return { parser.value("language"), parser.value("task"), parser.value("modules"),
-             parser.isSet("compiled"), parser.positionalArguments().value(0) };
+    return { parser.value("language"), parser.value("task"), modulesFor(parser),
+             parser.positionalArguments().value(0) };
 }
 
 void quit(ExitCode code, const QString &complaint)
@@ -99,7 +100,7 @@ void quit(ExitCode code, const QString &complaint)
 }
 
 Workbench::Workbench(const Options &options)
-    : m_modules(modulesFor(options))
+    : m_modules(options.modules)
     , m_registry(QCoreApplication::applicationName(), QCoreApplication::applicationVersion(),
                  m_modules)
     , m_window(&m_registry, m_modules)

@@ -15,15 +15,15 @@ struct Options
     /// Empty for the language of the last run.
     QString language;
     QString task;
-    /// The directory of the module files; ignored with compiled modules.
-    QString modules;
-    bool compiled = false;
+    /// As their files have them, in no language in particular.
+    QVector<AUTH_INF> modules;
     /// The project to open; empty for a new one.
     QString project;
 };
 
-/// Names the application, and ends it after "--help", "--version" and wrong usage. Needs a
-/// QCoreApplication and no display, so that a QApplication can be made afterwards.
+/// Names the application, and ends it after "--help", "--version", wrong usage and where modules
+/// cannot be read. Needs a QCoreApplication and no display, so that a QApplication can be made
+/// afterwards.
 Options readOptions(const QStringList &arguments);
 
 /// Ends the program with a message on the error channel.
@@ -33,7 +33,6 @@ Options readOptions(const QStringList &arguments);
 class Workbench
 {
 public:
-    /// Ends the program with a message when the modules of @p options cannot be read.
     explicit Workbench(const Options &options);
 
     const AUTH_SET &registry() const { return m_registry; }
@@ -44,7 +43,6 @@ public:
     void open(const Options &options);
 
 private:
-    /// As their files have them, in no language in particular.
     QVector<AUTH_INF> m_modules;
     // It has to outlive everything that asks it.
     AUTH_SET m_registry;

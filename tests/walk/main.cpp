@@ -26,7 +26,13 @@ void startWindowManager(QProcess *manager, const UserInput &input)
 {
     if (input.hasWindowManager())
         return;
-    manager->start("openbox", { "--config-file", "/dev/null" });
+    // Without one of its own, openbox reads that of the user, or complains in a window.
+    QFile configuration("openbox.xml");
+    if (!configuration.open(QIODevice::WriteOnly))
+        quit(Failed, "The configuration of the window manager cannot be written.");
+    configuration.write("<openbox_config xmlns=\"http://openbox.org/3.4/rc\"/>\n");
+    configuration.close();
+    manager->start("openbox", { "--config-file", configuration.fileName() });
     QElapsedTimer waiting;
     waiting.start();
     while (!input.hasWindowManager()) {

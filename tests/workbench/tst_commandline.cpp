@@ -120,6 +120,7 @@ private Q_SLOTS:
         QTest::newRow("version") << Arguments("--version") << 0;
         QTest::newRow("wrong option") << Arguments("--colour") << 2;
         QTest::newRow("wrong language") << Arguments("--language=fr") << 2;
+        QTest::newRow("no such modules") << Arguments("--modules=nowhere") << 1;
         QTest::newRow("help beside an option of Qt") << Arguments { "-style", "fusion", "-h" } << 0;
     }
     void usageNeedsNoDisplay()

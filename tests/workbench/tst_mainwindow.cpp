@@ -428,6 +428,41 @@ private Q_SLOTS:
         QCOMPARE(value("Internal pressure"), QVariant("40"));
     }
 
+    void defaultThatReplacesAnotherValueSurvivesAnotherTask()
+    {
+        begin(cantilever);
+        enter("Length", "1500");
+        m_answers->add("UTaskSelectDialog", task("Simply supported"));
+        trigger("chooseTask");
+        enter("Length", "1000");
+        m_answers->add("UTaskSelectDialog", task("Cantilever"));
+        trigger("chooseTask");
+        QCOMPARE(value("Length"), QVariant("1000"));
+    }
+
+    void sameTaskAgainChangesNothing()
+    {
+        begin(cantilever);
+        m_answers->add("QFileDialog", file("beam.ini"));
+        trigger("save");
+        m_answers->add("UTaskSelectDialog", task("Cantilever"));
+        trigger("chooseTask");
+        QVERIFY(!m_window->isWindowModified());
+    }
+
+    void hiddenDefaultsSurviveSaving()
+    {
+        begin(cantilever);
+        m_answers->add("QFileDialog", file("beam.ini"));
+        trigger("save");
+        m_answers->add("UTaskSelectDialog", task("Cantilever"));
+        m_window->openProject("beam.ini");
+        auto *model = m_window->findChild<KeltoParameterForm *>()->model();
+        model->setData(model->index(model->row("Section"), KeltoParameterModel::ValueColumn),
+                       "tube", KeltoParameterModel::ValueRole);
+        QCOMPARE(value("Section diameter"), QVariant("60"));
+    }
+
     /// The dialog knows names only.
     void modesOfOneName()
     {
