@@ -21,7 +21,7 @@ int run(const QString &step, const QString &path, const Entries &entries)
         return VIniSettings(path).data().size();
     if (step == QLatin1String("load-qsettings"))
         return loadWithQSettings(path).size();
-    if (step == QLatin1String("save-kelto"))
+    if (step.endsWith(QLatin1String("-kelto")))
         VIniSettings(entries).saveLocal(path);
     else
         saveWithQSettings(path, entries);
@@ -40,12 +40,16 @@ extern "C" __attribute__((noinline)) int loadOrSave(const QString &step, const Q
 int main(int argc, char **argv)
 {
     if (argc != 4) {
-        std::fputs("kelto_instructions {load|save}-{kelto|qsettings} FILE COUNT\n", stderr);
+        std::fputs("kelto_instructions {load|save|change}-{kelto|qsettings} FILE COUNT\n", stderr);
         return 2;
     }
     const int count = QByteArray(argv[3]).toInt();
-    const QString path = QFile::decodeName(argv[2]);
-    if (loadOrSave(QString::fromLatin1(argv[1]), path, settingsEntries(count)) == count)
+    const QString step = QString::fromLatin1(argv[1]);
+    Entries entries = settingsEntries(count);
+    // The files that are made here hold other values only.
+    if (step.startsWith(QLatin1String("change")) && !entries.isEmpty())
+        entries[count / 2].second = QStringLiteral("changed");
+    if (loadOrSave(step, QFile::decodeName(argv[2]), entries) == count)
         return 0;
     std::fputs("kelto_instructions: not all keys were loaded\n", stderr);
     return 1;

@@ -37,5 +37,6 @@ print_instructions() {
         compare "$program" load "loading" "$keys" "$scratch/input.ini"
         compare "$program" save "saving into a new file" "$keys"
         compare "$program" save "saving into the same file" "$keys" "$scratch/input.ini"
+        compare "$program" change "saving one changed value" "$keys" "$scratch/input.ini"
     done
 }

@@ -27,6 +27,21 @@ QStringList copyPaths(const QString &path)
     return paths;
 }
 
+/// Gives each file of @p names the name behind its own, of which the last one is free: all of them,
+/// or none.
+bool moveUp(const QStringList &names)
+{
+    const int last = names.size() - 1;
+    int moved = last;
+    while (moved > 0 && QFile::rename(names.at(moved - 1), names.at(moved)))
+        --moved;
+    if (moved == 0)
+        return true;
+    for (; moved < last; ++moved)
+        QFile::rename(names.at(moved + 1), names.at(moved));
+    return false;
+}
+
 } // namespace
 
 bool keepCopy(const QString &path, const QByteArray &bytes)
@@ -38,7 +53,6 @@ bool keepCopy(const QString &path, const QByteArray &bytes)
         return !QFile::exists(copy) || contentOf(copy) == bytes;
     };
     const auto found = std::find_if(copies.cbegin(), copies.cend(), endsMoving);
-    int last = qMin(static_cast<int>(found - copies.cbegin()), copies.size() - 1);
     if (copies.isEmpty())
         return false;
     if (found == copies.cbegin() && QFile::exists(*found))
@@ -48,10 +62,16 @@ bool keepCopy(const QString &path, const QByteArray &bytes)
     if (!newest.open() || !writeWhole(&newest, bytes))
         return false;
     newest.setPermissions(QFile::permissions(path));
-    QFile::remove(copies.at(last));
-    for (; last > 0; --last)
-        QFile::rename(copies.at(last - 1), copies.at(last));
-    const bool isKept = newest.rename(copies.constFirst());
+    newest.close();
+    const int count = static_cast<int>(found - copies.cbegin()) + 1;
+    QStringList names = QStringList(newest.fileName()) + copies.mid(0, count);
+    // The one that is dropped stays until the others have moved: somebody else may own one of them.
+    const QString dropped = newest.fileName() + QLatin1String(".old");
+    if (QFile::exists(names.constLast()))
+        names.append(dropped);
+    const bool isKept = moveUp(names);
     newest.setAutoRemove(!isKept);
+    if (isKept)
+        QFile::remove(dropped);
     return isKept;
 }

@@ -67,6 +67,13 @@ bool isHeld(const QString &lock)
 #endif
 }
 
+/// Whether QLockFile can use the file @p lock, and the one by which it locks the removal of an
+/// abandoned lock. It reads what has these names: of a pipe it would wait for a writer.
+bool canBeLock(const QString &lock)
+{
+    return canBeFile(lock) && canBeFile(lock + QLatin1String(".rmlock"));
+}
+
 /// Waits for @p lock as long as it can end.
 bool waitFor(QLockFile *lock, const QString &path)
 {
@@ -74,7 +81,7 @@ bool waitFor(QLockFile *lock, const QString &path)
     QElapsedTimer unchanged;
     while (!lock->tryLock()) {
         const QFileInfo info(path);
-        if (lock->error() != QLockFile::LockFailedError || info.isSymLink() || !canBeFile(path))
+        if (lock->error() != QLockFile::LockFailedError || info.isSymLink() || !canBeLock(path))
             return false;
         if (!unchanged.isValid() || made != info.lastModified()) {
             made = info.lastModified();
@@ -148,8 +155,7 @@ std::unique_ptr<QLockFile> lockedFile(const QString &path)
     if (isAppendOnly(info.absolutePath())
         || isAppendOnly(QFileInfo(info.canonicalFilePath()).path()))
         return nullptr;
-    // QLockFile reads what has the name of the lock: of a pipe it would wait for a writer.
-    if (!canBeFile(lockPath))
+    if (!canBeLock(lockPath))
         return nullptr;
     auto lock = std::make_unique<QLockFile>(lockPath);
     lock->setStaleLockTime(staleLockTime);

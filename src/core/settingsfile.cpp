@@ -4,6 +4,7 @@
 #include "core/settingsfile_p.h"
 
 #include "core/files_p.h"
+#include "core/scratchdirectory_p.h"
 #include "core/typedtext_p.h"
 
 #include <QCache>
@@ -12,7 +13,6 @@
 #include <QFileInfo>
 #include <QMutex>
 #include <QSettings>
-#include <QTemporaryDir>
 
 #include <algorithm>
 
@@ -123,9 +123,9 @@ struct LastSection
 std::optional<SettingsFile> rewritten(const QString &place, const SettingsFile &before,
                                       const KeyValues &entries)
 {
-    QTemporaryDir directory(place + QLatin1String(".XXXXXX"));
-    QFile file(directory.filePath(QStringLiteral("settings.ini")));
-    if (!directory.isValid() || !file.open(QIODevice::WriteOnly)
+    ScratchDirectory directory(place);
+    QFile file(directory.filePath());
+    if (file.fileName().isEmpty() || !file.open(QIODevice::WriteOnly)
         || file.write(before.bytes) != before.bytes.size() || !file.flush())
         return {};
     file.close();
@@ -154,6 +154,22 @@ std::optional<SettingsFile> rewritten(const QString &place, const SettingsFile &
     return SettingsFile { bytes, isKept ? all : KeyValues() };
 }
 
+/// Where temporary files of all programs are. First in memory, if possible: QSettings waits for the
+/// disk.
+QStringList sharedPlaces()
+{
+    const QLatin1String name("/kelto-save");
+    const QStringList places { QLatin1String("/dev/shm") + name, QDir::tempPath() + name };
+    // Once for each process, so that saving costs no more.
+    static const bool isClean = [&places] {
+        for (const QString &place : places)
+            ScratchDirectory::removeAbandoned(place);
+        return true;
+    }();
+    Q_UNUSED(isClean)
+    return places;
+}
+
 } // namespace
 
 KeyValues readSettings(const QString &path, const QByteArray &bytes)
@@ -166,11 +182,10 @@ std::optional<SettingsFile> changedSettings(const QString &path, const QByteArra
                                             const KeyValues &entries)
 {
     const SettingsFile before { bytes, writtenFiles().entries(path, bytes) };
-    // In memory, if possible: QSettings waits for the disk. In the end there is place at least
-    // where the file itself is to be written.
+    // In the end there is place at least where the file itself is to be written.
+    const QStringList places = sharedPlaces() + QStringList(path);
     std::optional<SettingsFile> after;
-    for (const QString &place : { QString(QLatin1String("/dev/shm/kelto")),
-                                  QString(QDir::tempPath() + QLatin1String("/kelto")), path }) {
+    for (const QString &place : places) {
         if (!after)
             after = rewritten(place, before, entries);
     }

@@ -132,7 +132,8 @@ public:
      * additional ending ".lock". While another program holds it, this waits; the lock of one that
      * was killed is removed after a second. Where something that is no file has the name of the
      * lock, nothing is saved, and nothing either where a lock that nobody holds cannot be removed
-     * for 40 seconds.
+     * for 40 seconds. A QSettings of the same file sees what was saved, and writes what it has set,
+     * in its own sync() only; call that before a store reads the file, too.
      *
      * Of what stands in the file, QSettings writes only what it has understood. Before something
      * would be lost in that, the file is copied: to a file with the additional ending ".bak", while

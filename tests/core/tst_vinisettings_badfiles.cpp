@@ -392,11 +392,21 @@ private Q_SLOTS:
         QCOMPARE(fileContent("f.ini"), QByteArray("[General]\na=3\n"));
     }
 
-    void givesUpAtOnceWhereAPipeHasTheNameOfTheLock()
+    void givesUpAtOnceWhereAPipeHasTheNameOfALock_data()
+    {
+        QTest::addColumn<QByteArray>("name");
+        QTest::newRow("of the file") << QByteArray("f.ini.lock");
+        QTest::newRow("of the removal of an abandoned lock") << QByteArray("f.ini.lock.rmlock");
+    }
+
+    void givesUpAtOnceWhereAPipeHasTheNameOfALock()
     {
 #ifdef Q_OS_UNIX
+        QFETCH(QByteArray, name);
         QVERIFY(writeFile("f.ini", "a=1\n"));
-        QCOMPARE(::mkfifo("f.ini.lock", 0600), 0);
+        QVERIFY(writeFile("f.ini.lock", ""));
+        QVERIFY(name == "f.ini.lock.rmlock" || QFile::remove("f.ini.lock"));
+        QCOMPARE(::mkfifo(name.constData(), 0600), 0);
         VIniSettings store("f.ini", true);
         store.setValue("a", 2);
         QCOMPARE(fileContent("f.ini"), QByteArray("a=1\n"));
@@ -533,6 +543,37 @@ private Q_SLOTS:
         QCOMPARE(readings.constFirst().keys, QStringList { "a/b" });
         QCOMPARE(fileContent("here/f.ini"), QByteArray("[a]\nb=1\n"));
         QCOMPARE(filesIn("here"), QStringList { "f.ini" });
+#endif
+    }
+
+    void keepsAllCopiesWhereOneOfThemCannotMove()
+    {
+#ifdef Q_OS_UNIX
+        // Only the administrator can make files of others.
+        if (geteuid() != 0)
+            return;
+        setRights(".", 7);
+        QVERIFY(QDir().mkdir("here"));
+        QVERIFY(QDir::setCurrent("here"));
+        QByteArrayList before;
+        for (const char *ending : { "", ".bak", ".bak2", ".bak3", ".bak4", ".bak5" }) {
+            const QByteArray name = QByteArray("f.ini") + ending;
+            before.append(junk(before.size()));
+            QVERIFY(writeFile(name, before.constLast()));
+            if (name != "f.ini.bak2")
+                QCOMPARE(::chown(name.constData(), 65534, 65534), 0);
+        }
+        QCOMPARE(::chmod(".", 01777), 0);
+        const QStringList arguments = asUser({ "--set", "a/c=2", "f.ini" });
+        QCOMPARE(readInSecondProcess(arguments).size(), 1);
+        QCOMPARE(QByteArrayList { fileContent("f.ini") } + copies(), before);
+        QCOMPARE(filesIn(".").size(), 6);
+
+        // When it can, only the oldest goes.
+        QCOMPARE(::chown("f.ini.bak2", 65534, 65534), 0);
+        QCOMPARE(readInSecondProcess(arguments).size(), 1);
+        QCOMPARE(copies(), before.mid(0, 5));
+        QCOMPARE(filesIn(".").size(), 6);
 #endif
     }
 

@@ -17,10 +17,17 @@
 #include <QDateTime>
 #include <QPoint>
 #include <QSettings>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <type_traits>
 #include <vector>
+
+#ifdef Q_OS_UNIX
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+#endif
 
 namespace {
 
@@ -431,6 +438,51 @@ private Q_SLOTS:
             settings.sync();
             QCOMPARE(settings.value("a").toString(), QString::number(i % 10));
         }
+    }
+
+    /// A second QSettings would write in another encoding what the host has not written yet.
+    void leavesToTheHostWhatItHasNotSynchronised()
+    {
+        QVERIFY(writeFile(path(), "[a]\nx=é\n"));
+        QSettings settings(path(), QSettings::IniFormat);
+        settings.setIniCodec("utf-8");
+        settings.setValue("a/z", "ü");
+        VIniSettings(Entries { { "a/y", "ö" } }).saveLocal(path());
+        QCOMPARE(fileContent(path()), QByteArray("[a]\nx=é\ny=ö\n"));
+        QVERIFY(!settings.contains("a/y"));
+        settings.sync();
+        QCOMPARE(settings.value("a/y").toString(), QString("ö"));
+        QCOMPARE(fileContent(path()), QByteArray("[a]\nx=é\ny=ö\nz=ü\n"));
+    }
+
+    void removesWhatKilledProcessesLeft_data()
+    {
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<bool>("isUsed");
+        QTest::addColumn<bool>("isKept");
+        QTest::newRow("without a file") << "" << false << false;
+        QTest::newRow("with a file") << "settings.ini" << false << false;
+        QTest::newRow("with a lock") << "settings.ini.lock" << false << false;
+        QTest::newRow("with a file that is no settings file") << "letter" << false << true;
+        QTest::newRow("of a process that still saves") << "settings.ini" << true << true;
+    }
+
+    void removesWhatKilledProcessesLeft()
+    {
+#ifdef Q_OS_UNIX
+        QFETCH(QString, file);
+        QFETCH(bool, isUsed);
+        QTemporaryDir left(QDir::tempPath() + "/kelto-save.XXXXXX");
+        QVERIFY(file.isEmpty() || writeFile(left.filePath(file), "[a]\nx=1\n"));
+        const int handle = ::open(QFile::encodeName(left.path()).constData(), O_RDONLY);
+        QCOMPARE(::flock(handle, isUsed ? LOCK_EX : LOCK_UN), 0);
+        const QVector<Reading> others
+            = readInSecondProcess(QStringList { "--set", "a/x=1", path() });
+        ::close(handle);
+        QCOMPARE(others.size(), 1);
+        QTEST(QDir(left.path()).exists(), "isKept");
+        QCOMPARE(fileContent(path()), QByteArray("[a]\nx=1\n"));
+#endif
     }
 
     void leavesOutWhatCannotBeStored()
