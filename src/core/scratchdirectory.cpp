@@ -9,6 +9,7 @@
 
 #ifdef Q_OS_UNIX
 #include <cerrno>
+#include <dirent.h>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -42,6 +43,22 @@ void removeScratch(const QString &path)
     for (const QString &name : names)
         directory.remove(name);
     QDir().rmdir(path);
+}
+
+/// The entries of @p directory that begin with @p start and are as long as @p size. There can be
+/// thousands of others, and QDir makes more of each than of reading a small file.
+QByteArrayList entriesOf(const QByteArray &directory, const QByteArray &start, int size)
+{
+    QByteArrayList names;
+    DIR *const stream = ::opendir(directory.constData());
+    while (const dirent *const entry = stream ? ::readdir(stream) : nullptr) {
+        if (qstrncmp(entry->d_name, start.constData(), uint(start.size())) == 0
+            && qstrlen(entry->d_name) == uint(size))
+            names.append(entry->d_name);
+    }
+    if (stream)
+        ::closedir(stream);
+    return names;
 }
 
 #endif
@@ -88,11 +105,10 @@ void ScratchDirectory::removeAbandoned(const QString &place)
 {
 #ifdef Q_OS_UNIX
     const QFileInfo info(place);
-    const QDir parent = info.dir();
-    const QStringList names = parent.entryList({ info.fileName() + QLatin1String(".??????") },
-                                               QDir::Dirs | QDir::NoSymLinks);
-    for (const QString &name : names) {
-        const QString path = parent.filePath(name);
+    const QByteArray start = QFile::encodeName(info.fileName()) + '.';
+    const QByteArrayList names = entriesOf(QFile::encodeName(info.path()), start, start.size() + 6);
+    for (const QByteArray &name : names) {
+        const QString path = info.dir().filePath(QFile::decodeName(name));
         const int handle = openedDirectory(path);
         if (handle < 0)
             continue;
