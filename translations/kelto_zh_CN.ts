@@ -50,7 +50,7 @@
         <translation>%1：没有值。</translation>
     </message>
     <message>
-        <source>%1: no value. It is not needed, but then an empty text has to be stored.</source>
+        <source>%1: no value. It may stay empty, but then an empty text has to be stored.</source>
         <translation>%1：没有值。此参数可以为空，但须存入空文本。</translation>
     </message>
     <message>
@@ -101,6 +101,10 @@
         <translation>%1：“%2”不是数。</translation>
     </message>
     <message>
+        <source>%1: &quot;%2&quot; is not such a number as the parameter holds.</source>
+        <translation>%1：“%2”不是该参数所要求的数。</translation>
+    </message>
+    <message>
         <source>%1: &quot;%2&quot; is neither &quot;true&quot; nor &quot;false&quot;.</source>
         <translation>%1：“%2”既不是“true”也不是“false”。</translation>
     </message>
@@ -125,8 +129,8 @@
         <translation>%1：值须为单个文本。在文件中，含逗号的文本须加引号。</translation>
     </message>
     <message>
-        <source>%1: &quot;%2&quot; is not &quot;parameter=value&quot;, or parameters depend on each other in a circle.</source>
-        <translation>%1：“%2”不是“参数=值”的形式，或参数之间循环依赖。</translation>
+        <source>%1: &quot;%2&quot; is not &quot;parameter=value&quot;, no value of it can be chosen, or parameters depend on each other in a circle.</source>
+        <translation>%1：“%2”不是“参数=值”的形式，或其中没有可选的值，或参数之间循环依赖。</translation>
     </message>
     <message>
         <source>%1: this extra key is there twice; the first one counts.</source>

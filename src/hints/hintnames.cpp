@@ -87,8 +87,7 @@ HintNames::Key &HintNames::declare(const QStringList &entry)
     if (known != m_keys.end())
         return known.value();
     m_keyLengths.insert(key.size());
-    const bool isMulti = entry.value(KeltoParameterEntry::Multi) == QLatin1String("true");
-    return m_keys.insert(key, { false, false, isMulti }).value();
+    return m_keys.insert(key, { false, false, valueKindOf(entry) }).value();
 }
 
 std::optional<HintName> hintNameOf(const QString &extraKey, const HintNames &names)

@@ -5,6 +5,7 @@
 #define HINTNAMES_P_H
 
 #include "auth_inf.h"
+#include "core/enteredvalues_p.h"
 #include "core/firstpositions_p.h"
 
 #include <QHash>
@@ -42,8 +43,8 @@ public:
     bool isParameter(const QString &key) const { return m_keys.value(key).isParameter; }
     bool isResult(const QString &key) const { return m_keys.value(key).isResult; }
     bool isKey(const QString &key) const { return m_keys.contains(key); }
-    /// Whether the first entry with the key, parameters before results, may hold several values.
-    bool isMulti(const QString &key) const { return m_keys.value(key).isMulti; }
+    /// What the first entry with the key, parameters before results, holds.
+    ValueKind kind(const QString &key) const { return m_keys.value(key).kind; }
     /// Whether a key has that length: spares the hashing of what cannot be one.
     bool isKeyLength(int length) const { return m_keyLengths.contains(length); }
 
@@ -55,7 +56,7 @@ private:
     {
         bool isParameter = false;
         bool isResult = false;
-        bool isMulti = false;
+        ValueKind kind;
     };
     Key &declare(const QStringList &entry);
 

@@ -24,9 +24,8 @@ HintView::HintView(const ReadHints &hints, const AUTH_INF &item, int mode)
     const QVector<QStringList> entries = item.inner_mode_parameterList.value(mode);
     for (const QStringList &entry : entries) {
         const QString key = entry.value(KeltoParameterEntry::Key);
-        if (!m_multi.contains(key)) {
-            m_multi.insert(key, entry.value(KeltoParameterEntry::Multi) == QLatin1String("true"));
-        }
+        if (!m_kinds.contains(key))
+            m_kinds.insert(key, valueKindOf(entry));
     }
 }
 
@@ -61,15 +60,15 @@ HintCondition HintView::condition(const QString &key) const
     return m_hints.condition(position(HintWord::When, key));
 }
 
-bool HintView::isMulti(const QString &key) const
+ValueKind HintView::kind(const QString &key) const
 {
-    return m_multi.value(key, m_hints.names().isMulti(key));
+    return m_kinds.value(key, m_hints.names().kind(key));
 }
 
 QStringList HintView::defaultValues(const QString &key) const
 {
     const QString value = text(HintWord::Default, key);
-    if (!isMulti(key))
+    if (!kind(key).isMulti)
         return { value };
     return value.isEmpty() ? QStringList() : elementsOf(value, QStringLiteral(";"));
 }
@@ -105,41 +104,64 @@ void HintView::checkDefault(const QString &key)
     if (value.isNull() || (value.isEmpty() && isTrue(HintWord::Optional, key)))
         return;
     const QStringList values = defaultValues(key);
-    if (!areChoices(values, key))
+    const auto areAmong = [&values](const auto &allowed) {
+        return std::all_of(values.cbegin(), values.cend(),
+                           [&allowed](const QString &text) { return allowed.contains(text); });
+    };
+    const QSet<QString> choices = allowedValues(key);
+    if (!choices.isEmpty() && !areAmong(choices))
         drop(HintWord::Default, key, Problem::DefaultNotAChoice);
-    else if (limits(key).isLimited())
-        areNumbersWithin(values, key);
+    else if (choices.isEmpty() && kind(key).isBool && !areAmong(booleanTexts()))
+        drop(HintWord::Default, key, Problem::NotABoolean);
+    else if (isNumber(key))
+        checkNumbers(values, key);
 }
 
-bool HintView::areNumbersWithin(const QStringList &values, const QString &key)
+bool HintView::isNumber(const QString &key) const
 {
+    return kind(key).isNumber || limits(key).isLimited();
+}
+
+void HintView::checkNumbers(const QStringList &values, const QString &key)
+{
+    const ValueKind kind = this->kind(key);
     const HintLimits allowed = limits(key);
     for (const QString &value : values) {
-        const QStringList numbers
-            = isMulti(key) ? value.split(QLatin1Char('|')) : QStringList(value);
-        for (const QString &text : numbers) {
-            const std::optional<double> number = numberOf(text);
-            if (number && allowed.contain(*number))
-                continue;
-            drop(HintWord::Default, key,
-                 number ? Problem::DefaultOutsideLimits : Problem::NotANumber);
-            return false;
+        if (!isOfNumbers(value, kind))
+            return drop(HintWord::Default, key, Problem::NotANumber);
+        const QStringList numbers = numbersOf(value, kind);
+        for (const QString &number : numbers) {
+            if (!allowed.contain(number.toDouble()))
+                return drop(HintWord::Default, key, Problem::DefaultOutsideLimits);
         }
     }
-    return true;
 }
 
-bool HintView::areChoices(const QStringList &values, const QString &key) const
+QSet<QString> HintView::allowedValues(const QString &key) const
 {
+    QSet<QString> allowed;
     const QString text = this->text(HintWord::Choices, key);
     if (text.isNull())
-        return true;
-    QSet<QString> allowed;
+        return allowed;
     const QVector<KeltoItemHints::Choice> choices = choicesOf(text);
     for (const KeltoItemHints::Choice &choice : choices)
         allowed.insert(choice.value);
-    return std::all_of(values.cbegin(), values.cend(),
+    return allowed;
+}
+
+/// A condition that can never hold would hide its parameter for good.
+void HintView::checkConditionValues(const QString &key)
+{
+    const HintCondition wanted = condition(key);
+    // The other one may also be empty.
+    if (wanted.values.isEmpty() || wanted.values.contains(QString()))
+        return;
+    const QSet<QString> allowed = allowedValues(wanted.other);
+    const bool canHold = allowed.isEmpty()
+        || std::any_of(wanted.values.cbegin(), wanted.values.cend(),
                        [&allowed](const QString &value) { return allowed.contains(value); });
+    if (!canHold)
+        drop(HintWord::When, key, Problem::BadCondition);
 }
 
 /// Each parameter depends on one other at most. So whoever follows the conditions from one to the
@@ -149,7 +171,10 @@ void HintView::checkConditions(const QStringList &keys)
     QHash<QString, int> walks;
     for (int walk = 0; walk < keys.size(); ++walk) {
         QString key = keys.at(walk);
-        while (!walks.contains(key) && !condition(key).values.isEmpty()) {
+        while (!walks.contains(key)) {
+            checkConditionValues(key);
+            if (condition(key).values.isEmpty())
+                break;
             walks.insert(key, walk);
             key = condition(key).other;
         }

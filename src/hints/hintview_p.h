@@ -46,7 +46,8 @@ public:
     bool isTrue(HintWord word, const QString &key) const;
     HintLimits limits(const QString &key) const;
     HintCondition condition(const QString &key) const;
-    bool isMulti(const QString &key) const;
+    /// What the values of a key are in the mode.
+    ValueKind kind(const QString &key) const;
     /// The values of a default: one, or the elements of a list.
     QStringList defaultValues(const QString &key) const;
 
@@ -57,14 +58,17 @@ private:
     void drop(HintWord word, const QString &key, Problem::Kind kind);
     void checkLimits(const QString &key);
     void checkDefault(const QString &key);
-    bool areNumbersWithin(const QStringList &values, const QString &key);
-    bool areChoices(const QStringList &values, const QString &key) const;
+    bool isNumber(const QString &key) const;
+    void checkNumbers(const QStringList &values, const QString &key);
+    /// Empty where anything can be chosen.
+    QSet<QString> allowedValues(const QString &key) const;
     void checkConditions(const QStringList &keys);
+    void checkConditionValues(const QString &key);
 
     ReadHints m_hints;
     /// The mode whose name hints bear: the first of its name.
     int m_mode;
-    QHash<QString, bool> m_multi;
+    QHash<QString, ValueKind> m_kinds;
     QSet<int> m_dropped;
     QVector<HintProblem> m_problems;
 };

@@ -141,7 +141,7 @@ QVariant KeltoItemHints::defaultValue(QString key) const
     if (d->view.text(HintWord::Default, key).isNull())
         return {};
     const QStringList values = d->view.defaultValues(key);
-    return d->view.isMulti(key) ? QVariant(values) : QVariant(values.first());
+    return d->view.kind(key).isMulti ? QVariant(values) : QVariant(values.first());
 }
 
 double KeltoItemHints::minimum(QString key) const

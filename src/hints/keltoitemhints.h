@@ -74,13 +74,14 @@ public:
             UnknownKey, ///< No parameter or result has this key; for Belong, no result.
             UnknownMode, ///< No inner mode has the name behind "@" or in the list of a result.
             NotOneText, ///< A list, or another value that has no text.
-            NotANumber, ///< A limit, or a default beside a limit.
-            NotABoolean, ///< Neither "true" nor "false".
+            NotANumber, ///< A limit, or a default that is to be one: also a fraction for int.
+            NotABoolean, ///< Neither "true" nor "false", as a flag or the default of a bool.
             EmptyLimits, ///< The minimum is above the maximum; neither counts.
             DefaultOutsideLimits,
             DefaultNotAChoice,
             BadChoices, ///< None at all, or one value twice.
-            BadCondition, ///< Without "=", on an unknown parameter, or in a circle.
+            BadCondition, ///< Without "=", on an unknown parameter, for none of its choices, or in
+                          ///< a circle.
             DuplicateHint, ///< An extra key that stands in the item before; the first counts.
         };
 

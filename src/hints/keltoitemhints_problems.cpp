@@ -3,6 +3,7 @@
 
 // What is wrong with the hints of an item.
 
+#include "core/enteredvalues_p.h"
 #include "core/sentence_p.h"
 #include "hints/keltoitemhints_p.h"
 #include "keltoitemhints.h"
@@ -38,7 +39,9 @@ public:
             return tr(
                 "%1: the value has to be one text. In a file, one with a comma needs quotes.");
         case Problem::NotANumber:
-            return tr("%1: \"%2\" is not a number.");
+            return numberOf(problem.value)
+                ? tr("%1: \"%2\" is not such a number as the parameter holds.")
+                : tr("%1: \"%2\" is not a number.");
         case Problem::NotABoolean:
             return tr("%1: \"%2\" is neither \"true\" nor \"false\".");
         case Problem::EmptyLimits:
@@ -50,8 +53,8 @@ public:
         case Problem::BadChoices:
             return tr("%1: \"%2\" offers nothing, or one value twice.");
         case Problem::BadCondition:
-            return tr("%1: \"%2\" is not \"parameter=value\", or parameters depend on each other "
-                      "in a circle.");
+            return tr("%1: \"%2\" is not \"parameter=value\", no value of it can be chosen, or "
+                      "parameters depend on each other in a circle.");
         case Problem::DuplicateHint:
             return tr("%1: this extra key is there twice; the first one counts.");
         }
@@ -86,10 +89,13 @@ private:
 };
 
 /// The hints that can differ from those for all modes: of the mode alone, and of its parameters,
-/// which may hold several values here and one elsewhere.
+/// which may hold other values here than elsewhere. Conditions for all may depend on choices of the
+/// mode alone.
 QStringList keysOfMode(const HintView &view, const AUTH_INF &item, int mode)
 {
     QStringList keys = view.ownKeys();
+    if (!keys.isEmpty())
+        keys += view.hints().keys(allModes);
     const QVector<QStringList> entries = item.inner_mode_parameterList.value(mode);
     for (const QStringList &entry : entries)
         keys.append(entry.value(KeltoParameterEntry::Key));

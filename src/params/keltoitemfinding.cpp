@@ -81,7 +81,7 @@ private:
     {
         if (m_finding.expected.isEmpty())
             return tr("%1: no value.");
-        return tr("%1: no value. It is not needed, but then an empty text has to be stored.");
+        return tr("%1: no value. It may stay empty, but then an empty text has to be stored.");
     }
 
     QString notANumber() const

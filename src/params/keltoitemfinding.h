@@ -23,7 +23,7 @@ struct KELTO_EXPORT KeltoItemFinding
         /// meant, and a point without two coordinates.
         NotANumber,
         OutsideLimits,
-        NotAChoice,
+        NotAChoice, ///< Also neither "true" nor "false" where the object name is "bool".
         UnknownMode, ///< Also a translated name: values need the plain one.
         ModeWithoutParameters,
     };

@@ -14,7 +14,6 @@
 #include <QLocale>
 
 #include <algorithm>
-#include <cmath>
 
 namespace {
 
@@ -94,6 +93,8 @@ public:
         const QVector<KeltoItemHints::Choice> choices = hints.choices(parameter.name().first);
         for (const KeltoItemHints::Choice &choice : choices)
             m_choices.append(choice.value);
+        if (m_choices.isEmpty() && m_kind.isBool)
+            m_choices = booleanTexts();
     }
 
     Findings findings(const QVariant &value) const
@@ -128,29 +129,16 @@ private:
         found->append(wrong);
     }
 
-    QStringList numbersOf(const QString &text) const
-    {
-        const bool mayBeRow = m_kind.isPoint || (m_parameter.isMulti() && !m_kind.isNumber);
-        return mayBeRow ? text.split(QLatin1Char('|')) : QStringList(text);
-    }
-
     bool areNumbers(const QString &text) const
     {
-        if (!m_kind.isNumber && !isLimited())
-            return true;
-        const QStringList numbers = numbersOf(text);
-        return (!m_kind.isPoint || numbers.size() == 2)
-            && std::all_of(numbers.cbegin(), numbers.cend(), [this](const QString &number) {
-                   const std::optional<double> found = numberOf(number);
-                   return found && (!m_kind.isWhole || *found == std::floor(*found));
-               });
+        return (!m_kind.isNumber && !isLimited()) || isOfNumbers(text, m_kind);
     }
 
     bool areWithinLimits(const QString &text) const
     {
         if (!isLimited())
             return true;
-        const QStringList numbers = numbersOf(text);
+        const QStringList numbers = numbersOf(text, m_kind);
         return std::all_of(numbers.cbegin(), numbers.cend(), [this](const QString &number) {
             const double found = numberOf(number).value_or(m_low);
             return m_low <= found && found <= m_high;

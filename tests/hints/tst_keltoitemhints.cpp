@@ -197,11 +197,11 @@ private Q_SLOTS:
                  const char *key = "L") { QTest::newRow(name) << extraKeys << key << expected; };
         row("a text", { { "Default.L", "5" } }, "5");
         row("a number, as from generated source text", { { "Default.L", 0.1 } }, "0.1");
-        row("a flag", { { "Default.L", true } }, "true");
+        row("a flag", { { "Default.F", true } }, "true", "F");
         row("a list of one", { { "Default.L", QStringList { "5" } } }, "5");
         row("of the mode", { { "Default.L@A", "2" }, { "Default.L", "1" } }, "2");
         row("of another mode", { { "Default.L@B", "2" } }, QVariant());
-        row("several values", { { "Default.N", " 1;2 ; 3|4" } }, QStringList({ "1", "2", "3|4" }),
+        row("several values", { { "Default.N", " 1;2 ; 3.4" } }, QStringList({ "1", "2", "3.4" }),
             "N");
         row("no values", { { "Default.N", "" } }, QStringList(), "N");
         row("at its lower limit", { { "Default.L", "5" }, { "Min.L", "5" } }, "5");
@@ -219,7 +219,9 @@ private Q_SLOTS:
     {
         QFETCH(QVector<VDataItem>, extraKeys);
         QFETCH(QString, key);
-        const QVariant value = KeltoItemHints(beam(extraKeys), "A").defaultValue(key);
+        AUTH_INF item = beam(extraKeys);
+        item.inner_mode_parameterList[0].append({ "g", "F", "bool", "false" });
+        const QVariant value = KeltoItemHints(item, "A").defaultValue(key);
         QFETCH(QVariant, expected);
         QCOMPARE(value, expected);
         QCOMPARE(value.userType(), expected.userType());

@@ -74,8 +74,26 @@ private Q_SLOTS:
               "Max.L@B: with \"5\" the minimum is above the maximum." });
         row("a default outside the limits", { { "Default.L", 6 }, { "Max.L", 5 } },
             { "Default.L: \"6\" is outside the limits." });
-        row("one of several outside the limits", { { "Default.N", "1;2|-6" }, { "Min.N", -5 } },
-            { "Default.N: \"1;2|-6\" is outside the limits." });
+        row("one of several outside the limits", { { "Default.N", "1;-6" }, { "Min.N", -5 } },
+            { "Default.N: \"1;-6\" is outside the limits." });
+        row("a default that is no number", { { "Default.L", "abc" } },
+            { "Default.L: \"abc\" is not a number." });
+        row("an empty default", { { "Default.L", "" } }, { "Default.L: \"\" is not a number." });
+        row("one of several that is no number", { { "Default.N", "1;2|3" } },
+            { "Default.N: \"1;2|3\" is not a number." });
+        row("whole numbers", { { "Default.W", "1;2.0" } });
+        row("a fraction for a whole number", { { "Default.W", "1;1.5" } },
+            { "Default.W: \"1;1.5\" is not a number." });
+        row("one fraction for a whole number", { { "Default.I", "1.5" } },
+            { "Default.I: \"1.5\" is not such a number as the parameter holds." });
+        row("points", { { "Default.P", "1|2;3|4.5" } });
+        row("a point with one coordinate", { { "Default.P", "1|2;3" } },
+            { "Default.P: \"1|2;3\" is not a number." });
+        row("a flag", { { "Default.F", true } });
+        row("a flag that is neither true nor false", { { "Default.F", "maybe" } },
+            { "Default.F: \"maybe\" is neither \"true\" nor \"false\"." });
+        row("a flag with choices of its own",
+            { { "Default.F", "yes" }, { "Choices.F", "yes|no" } });
         row("a default that is no choice", { { "Default.L", "one" }, { "Choices.L", "1=one|2" } },
             { "Default.L: \"one\" is none of the choices." });
         row("no choices", { { "Choices.L", " " } },
@@ -83,8 +101,9 @@ private Q_SLOTS:
         row("a choice twice", { { "Choices.L", "1=a| 1 =b" } },
             { "Choices.L: \"1=a| 1 =b\" offers nothing, or one value twice." });
         row("two choices of one label", { { "Choices.L", "1=a|2=a" } });
-        const QString noCondition = "When.L: \"%1\" is not \"parameter=value\", or parameters "
-                                    "depend on each other in a circle.";
+        const QString noCondition = "When.L: \"%1\" is not \"parameter=value\", no value of it "
+                                    "can be chosen, or parameters depend on each other in a "
+                                    "circle.";
         row("no condition", { { "When.L", "N" } }, { noCondition.arg("N") });
         row("a condition on a result", { { "When.L", "R=1" } }, { noCondition.arg("R=1") });
         row("a condition on itself", { { "When.L", "L=1" } }, { noCondition.arg("L=1") });
@@ -93,6 +112,16 @@ private Q_SLOTS:
             { noCondition.arg("N=1"), QString(noCondition).replace("L:", "N:").arg("L=%1") });
         row("a circle in one mode", { { "When.L", "N=1" }, { "When.N@A", "L=1" } },
             { noCondition.arg("N=1"), QString(noCondition).replace("L:", "N@A:").arg("L=1") });
+        const ExtraKeys choices { { "Choices.N", "a=one|b" }, { "Choices.N@B", "c" } };
+        row("a condition on what can be chosen", choices + ExtraKeys { { "When.L@A", "N=c|b" } });
+        row("a condition on a label", choices + ExtraKeys { { "When.L@A", "N=one|c" } },
+            { QString(noCondition).replace("L:", "L@A:").arg("N=one|c") });
+        row("a condition on what can be chosen in one mode",
+            choices + ExtraKeys { { "When.L", "N=b" } }, { noCondition.arg("N=b") });
+        row("a condition on nothing", choices + ExtraKeys { { "When.L", "N=" } });
+        row("a circle that can never be",
+            { { "Choices.N", "1" }, { "When.L", "N=2" }, { "When.N", "L=1" } },
+            { noCondition.arg("N=2") });
         row("one extra key twice", { { "Min.L", 1 }, { "Min.L", "x" } },
             { "Min.L: this extra key is there twice; the first one counts." });
         row("one after a senseless one", { { "Min.L", "x" }, { "Min.L", 1 } },
@@ -101,14 +130,16 @@ private Q_SLOTS:
     }
     void saysWhatIsWrong()
     {
-        const auto entry = [](const char *key, const char *multi) {
-            return QStringList { "g", key, "float", multi, "mm", "m", "s", key, "g" };
+        const auto entry = [](const char *key, const char *multi, const char *kind = "float") {
+            return QStringList { "g", key, kind, multi, "mm", "m", "s", key, "g" };
         };
         AUTH_INF item;
         item.inner_mode_nameList = QStringList { "A", "B" };
         item.inner_mode_nameList_tr = QStringList { "甲", "乙" };
         item.inner_mode_parameterList
-            = { { entry("L", "false"), entry("N", "true"), entry("M", "false") },
+            = { { entry("L", "false"), entry("N", "true"), entry("M", "false"),
+                  entry("W", "true", "QVector<int>"), entry("P", "true", "QVector<QPointF>"),
+                  entry("F", "false", "bool"), entry("I", "false", "int") },
                 { entry("L", "false") } };
         item.output_results = { entry("R", "false") };
         QFETCH(ExtraKeys, extraKeys);

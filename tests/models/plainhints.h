@@ -225,15 +225,23 @@ private:
         keys.removeDuplicates();
         return keys;
     }
-    bool isMulti(const QString &key) const
+    QStringList entryOf(const QString &key) const
     {
         const QVector<QStringList> entries = m_item.inner_mode_parameterList.value(m_mode)
             + parameterEntries() + m_item.output_results;
         for (const QStringList &entry : entries) {
             if (entry.value(1) == key)
-                return entry.value(3) == "true";
+                return entry;
         }
-        return false;
+        return {};
+    }
+    bool isMulti(const QString &key) const { return entryOf(key).value(3) == "true"; }
+    bool isNumber(const QString &key, const QString &objectName) const
+    {
+        static const QStringList single { "float", "double", "int" };
+        static const QStringList several { "QVector<float>", "QVector<double>", "QVector<int>",
+                                           "QVector<QPointF>", "QVector<QPoint>" };
+        return single.contains(objectName) || (isMulti(key) && several.contains(objectName));
     }
 
     void report(int position, Problem::Kind kind, const QString &part = "")
@@ -381,27 +389,59 @@ private:
         if (!hint || (hint->text.isEmpty() && isOptional(key)))
             return;
         const QStringList values = defaultValues(*hint);
+        const QString objectName = entryOf(key).value(2);
         for (const QString &value : values) {
             if (find("Choices", key) && !valuesOf(choices(key)).contains(value))
                 return drop("Default", key, Problem::DefaultNotAChoice);
         }
-        if (!find("Min", key) && !find("Max", key))
-            return;
         for (const QString &value : values) {
-            const QStringList numbers = value.split(isMulti(key) ? "|" : "\n");
-            for (const QString &number : numbers) {
-                if (!isNumber(number))
-                    return drop("Default", key, Problem::NotANumber);
-                if (number.toDouble() < minimum(key) || number.toDouble() > maximum(key))
-                    return drop("Default", key, Problem::DefaultOutsideLimits);
-            }
+            if (objectName == "bool" && !find("Choices", key) && value != "true"
+                && value != "false")
+                return drop("Default", key, Problem::NotABoolean);
         }
+        if (find("Min", key) || find("Max", key) || isNumber(key, objectName))
+            checkNumbers(key, values, objectName);
+    }
+
+    void checkNumbers(const QString &key, const QStringList &values, const QString &objectName)
+    {
+        const bool isPoint = isMulti(key) && objectName.contains("QPoint");
+        const bool isWhole = isNumber(key, objectName)
+            && QString(objectName).remove("QPointF").contains(QRegExp("int|QPoint"));
+        const bool isRow = isPoint || (isMulti(key) && !isNumber(key, objectName));
+        for (const QString &value : values) {
+            const QStringList numbers = isRow ? value.split("|") : QStringList(value);
+            bool areNumbers = !isPoint || numbers.size() == 2;
+            bool areWithin = true;
+            for (const QString &number : numbers) {
+                const double found = number.toDouble();
+                areNumbers = areNumbers && isNumber(number) && (!isWhole || found == qint64(found));
+                areWithin = areWithin && found >= minimum(key) && found <= maximum(key);
+            }
+            if (!areNumbers)
+                return drop("Default", key, Problem::NotANumber);
+            if (!areWithin)
+                return drop("Default", key, Problem::DefaultOutsideLimits);
+        }
+    }
+
+    bool canHold(const QString &key) const
+    {
+        const QStringList allowed = valuesOf(choices(conditionKey(key))) + QStringList("");
+        const QStringList wanted = conditionValues(key);
+        return allowed.size() == 1
+            || std::any_of(wanted.cbegin(), wanted.cend(),
+                           [&allowed](const QString &value) { return allowed.contains(value); });
     }
 
     /// Whoever is led back to where he started within as many steps as there are keys is part of a
     /// circle.
     void checkConditions(const QStringList &keys)
     {
+        for (const QString &key : keys) {
+            if (find("When", key) && !canHold(key))
+                drop("When", key, Problem::BadCondition);
+        }
         QStringList circles;
         for (const QString &key : keys) {
             QString next = key;

@@ -246,6 +246,14 @@ private Q_SLOTS:
         row("a whole point with a fraction", "QVector<QPoint>", QStringList { "1|2.5" },
             { "x, value 1: \"1|2.5\" is not two whole numbers with \"|\" between them." });
         row("a table", "QVector<QStringList>", QStringList { "a|b", "c" });
+        row("a flag", "bool", true);
+        row("a flag as text", "bool", "false");
+        row("neither true nor false", "bool", "maybe",
+            { "x: \"maybe\" is not among the choices (true, false)." });
+        row("other case", "bool", "True",
+            { "x: \"True\" is not among the choices (true, false)." });
+        row("an empty flag", "bool", "", empty);
+        row("a flag with choices of its own", "bool", "yes", {}, { { "Choices.x", "yes|no" } });
 
         const ExtraKeys limits { { "Min.x", 0 }, { "Max.x", "10.5" } };
         row("at the limits", "QVector<float>", QStringList { "0", "10.5" }, {}, limits);
@@ -293,9 +301,9 @@ private Q_SLOTS:
                      { { "Optional.x", "true" }, { "When.y", "z=1" }, { "Optional.z", "false" } });
         const Values none;
         QCOMPARE(textsOf(Verify::explain(&item, &none, "A")),
-                 QStringList({ "x: no value. It is not needed, but then an empty text has to be "
+                 QStringList({ "x: no value. It may stay empty, but then an empty text has to be "
                                "stored.",
-                               "y: no value. It is not needed, but then an empty text has to be "
+                               "y: no value. It may stay empty, but then an empty text has to be "
                                "stored.",
                                "z: no value." }));
     }

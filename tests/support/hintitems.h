@@ -69,7 +69,7 @@ private:
     QStringList entry()
     {
         QStringList texts { m_dice.oneOf({ "Load", "Shape", "" }), key(),
-                            m_dice.oneOf({ "float", "int", "text", "QVector<QPointF>" }),
+                            m_dice.oneOf({ "float", "int", "text", "bool", "QVector<QPointF>" }),
                             m_dice.oneOf({ "true", "false", "" }) };
         texts += m_dice.someOf({ "mm", "", "长度" }, 5);
         return m_dice.chance(5) ? texts.mid(0, m_dice.between(0, 8)) : texts;
