@@ -12,12 +12,15 @@
 #include <QEvent>
 #include <QGridLayout>
 #include <QGroupBox>
+#include <QIconEngine>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPainter>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QStyle>
+#include <QStyleOption>
 #include <QToolButton>
 #include <QUndoStack>
 #include <QVBoxLayout>
@@ -47,6 +50,40 @@ public:
             size.rwidth() += verticalScrollBar()->sizeHint().width();
         return size.boundedTo(most);
     }
+};
+
+/// The arrow that the style of a widget draws. As an icon of a button it keeps clear of the text:
+/// from right to left styles mirror icons, but not the arrows that buttons have themselves.
+class ArrowIcon : public QIconEngine
+{
+public:
+    ArrowIcon(const QWidget *widget, QStyle::PrimitiveElement arrow)
+        : m_widget(widget)
+        , m_arrow(arrow)
+    {
+    }
+
+    void paint(QPainter *painter, const QRect &rect, QIcon::Mode /*mode*/,
+               QIcon::State /*state*/) override
+    {
+        QStyleOption option;
+        option.initFrom(m_widget);
+        option.rect = rect;
+        m_widget->style()->drawPrimitive(m_arrow, &option, painter, m_widget);
+    }
+    QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override
+    {
+        QPixmap pixmap(size);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        paint(&painter, QRect(QPoint(), size), mode, state);
+        return pixmap;
+    }
+    QIconEngine *clone() const override { return new ArrowIcon(*this); }
+
+private:
+    const QWidget *m_widget;
+    QStyle::PrimitiveElement m_arrow;
 };
 
 } // namespace
@@ -376,8 +413,10 @@ void KeltoParameterFormPrivate::showTexts()
 /// Points to where more is: down when it is shown, else in the direction of reading.
 void KeltoParameterFormPrivate::showArrow() const
 {
-    const Qt::ArrowType closed = q->isRightToLeft() ? Qt::LeftArrow : Qt::RightArrow;
-    advanced->setArrowType(isAdvancedVisible ? Qt::DownArrow : closed);
+    const QStyle::PrimitiveElement closed
+        = q->isRightToLeft() ? QStyle::PE_IndicatorArrowLeft : QStyle::PE_IndicatorArrowRight;
+    advanced->setIcon(
+        QIcon(new ArrowIcon(advanced, isAdvancedVisible ? QStyle::PE_IndicatorArrowDown : closed)));
 }
 
 void KeltoParameterFormPrivate::followLocale()

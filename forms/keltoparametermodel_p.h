@@ -52,6 +52,8 @@ public:
 
     /// Gathers the findings if values have changed since.
     void gatherFindings();
+    /// A finding with values as the row shows them.
+    KeltoItemFinding shown(const KeltoItemFinding &finding, const ParameterRow &row) const;
     /// Does so once control is back in the event loop, and tells what has changed.
     void scheduleFindings();
     void publishFindings();

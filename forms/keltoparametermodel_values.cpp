@@ -5,6 +5,8 @@
 
 #include "keltoparametermodel_p.h"
 
+#include "shownfinding_p.h"
+
 #include <Kelto/KeltoItemParameterVerify>
 #include <Kelto/KeltoParameterEntry>
 
@@ -235,8 +237,20 @@ void KeltoParameterModelPrivate::gatherFindings()
         if (row < 0)
             continue;
         QString &text = findingTexts[row];
-        text += (text.isEmpty() ? QString() : QStringLiteral("\n")) + briefText(finding);
+        text += (text.isEmpty() ? QString() : QStringLiteral("\n"))
+            + briefText(shown(finding, rows.at(row)));
     }
+}
+
+KeltoItemFinding KeltoParameterModelPrivate::shown(const KeltoItemFinding &finding,
+                                                   const ParameterRow &row) const
+{
+    // The limits of a choice are numbers, not labels.
+    if (row.kind == KeltoParameterModel::Choice && finding.kind != KeltoItemFinding::NotAChoice)
+        return finding;
+    return shownFinding(finding, [&](const QString &stored) {
+        return row.shownText(stored, mode.hints, locale);
+    });
 }
 
 void KeltoParameterModelPrivate::scheduleFindings()

@@ -6,6 +6,7 @@
 #include "delimitedtext_p.h"
 #include "keltotablemodel_p.h"
 #include "keltotableview_p.h"
+#include "shownfinding_p.h"
 #include "tabletext_p.h"
 
 #include <QAccessible>
@@ -85,7 +86,8 @@ void KeltoTableEditorPrivate::addCommands(QLayout *buttons)
                QT_TRANSLATE_NOOP("KeltoTableEditor", "Insert Row Above"),
                Qt::ALT + Qt::SHIFT + Qt::Key_Insert, nullptr);
     addCommand(&Editor::deleteRows, "kelto_deleteRows",
-               QT_TRANSLATE_NOOP("KeltoTableEditor", "Delete Rows"), QKeySequence::Delete, buttons);
+               QT_TRANSLATE_NOOP("KeltoTableEditor", "Delete Rows"), Qt::CTRL + Qt::Key_Minus,
+               buttons);
     if (model->cells().isFree()) {
         addCommand(&Editor::insertColumn, "kelto_insertColumn",
                    QT_TRANSLATE_NOOP("KeltoTableEditor", "Insert Column"), Qt::ALT + Qt::Key_Insert,
@@ -94,6 +96,8 @@ void KeltoTableEditorPrivate::addCommands(QLayout *buttons)
                    QT_TRANSLATE_NOOP("KeltoTableEditor", "Delete Columns"),
                    Qt::ALT + Qt::Key_Delete, buttons);
     }
+    addCommand(&Editor::clearCells, "kelto_clearCells",
+               QT_TRANSLATE_NOOP("KeltoTableEditor", "Clear Cells"), QKeySequence::Delete, nullptr);
     addCommand(&Editor::copy, "kelto_copy", QT_TRANSLATE_NOOP("KeltoTableEditor", "Copy"),
                QKeySequence::Copy, nullptr);
     addCommand(&Editor::paste, "kelto_paste", QT_TRANSLATE_NOOP("KeltoTableEditor", "Paste"),
@@ -269,7 +273,10 @@ void KeltoTableEditor::setFindings(QVector<KeltoItemFinding> findings)
     QHash<int, QString> texts;
     for (const KeltoItemFinding &finding : qAsConst(findings)) {
         QString &text = texts[finding.position];
-        text += (text.isEmpty() ? QString() : QStringLiteral("\n")) + finding.text();
+        const KeltoItemFinding shown = shownFinding(finding, [this](const QString &element) {
+            return d->model->cells().shownElement(element, d->model->locale());
+        });
+        text += (text.isEmpty() ? QString() : QStringLiteral("\n")) + shown.text();
     }
     d->table->setAccessibleDescription(texts.value(-1));
     d->model->setFindings(texts);
@@ -319,6 +326,20 @@ void KeltoTableEditor::deleteColumns()
     QStringList elements = d->model->elements();
     for (int column = range.right(); column >= range.left(); --column)
         elements = cells.withoutColumn(elements, column);
+    d->apply(elements);
+}
+
+void KeltoTableEditor::clearCells()
+{
+    const QItemSelectionRange range = d->selection();
+    QStringList elements = d->model->elements();
+    const QModelIndexList indexes = range.indexes();
+    for (const QModelIndex &index : indexes) {
+        // A row that ends before the cell stays as short as it is.
+        if (!index.data(Qt::EditRole).toString().isEmpty())
+            elements[index.row()]
+                = d->model->cells().withCell(elements.at(index.row()), index.column(), QString());
+    }
     d->apply(elements);
 }
 

@@ -57,6 +57,8 @@ public Q_SLOTS:
     void insertColumn();
     /// Deletes the columns of the selected cells, where columns are free, but never all of them.
     void deleteColumns();
+    /// Empties the selected cells; rows and columns stay.
+    void clearCells();
     /// Copies the selected cells as a spreadsheet takes them.
     void copy();
     /// Puts the block on the clipboard over the cells from the current one on. A block that does

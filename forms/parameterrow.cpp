@@ -4,6 +4,7 @@
 #include "parameterrow_p.h"
 
 #include "numbertext_p.h"
+#include "tablecells_p.h"
 
 #include <QHash>
 
@@ -140,15 +141,27 @@ QVariant ParameterRow::typed(const QLocale &locale) const
 
 QString ParameterRow::shown(const KeltoItemHints &hints, const QLocale &locale) const
 {
+    return kind == Kind::Table ? elementsOf(value).join(QStringLiteral("; "))
+                               : shownText(storedText(value), hints, locale);
+}
+
+QString ParameterRow::shownText(const QString &stored, const KeltoItemHints &hints,
+                                const QLocale &locale) const
+{
     switch (kind) {
+    case Kind::Number:
+    case Kind::WholeNumber:
+        return NumberText::shown(stored, locale);
     case Kind::Bool:
-        return shownBool(storedText(value));
+        return shownBool(stored);
     case Kind::Choice:
-        return shownChoice(storedText(value), hints.choices(key));
-    case Kind::Table:
-        return elementsOf(value).join(QStringLiteral("; "));
+        return shownChoice(stored, hints.choices(key));
+    case Kind::Table: {
+        const TableShape shape = tableShapeOf(parameter.parameterObjectName());
+        return TableCells(shape.columns, shape.cells).shownElement(stored, locale);
+    }
     default:
-        return typed(locale).toString();
+        return stored;
     }
 }
 

@@ -30,6 +30,9 @@ struct ParameterRow
     QVariant typed(const QLocale &locale) const;
     /// The value as a person reads it.
     QString shown(const KeltoItemHints &hints, const QLocale &locale) const;
+    /// A text that the value could be, or one of several, as a person reads it.
+    QString shownText(const QString &stored, const KeltoItemHints &hints,
+                      const QLocale &locale) const;
     /// What is stored for what a person typed.
     QVariant stored(const QVariant &typedValue, const QLocale &locale) const;
 

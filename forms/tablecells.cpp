@@ -5,6 +5,7 @@
 
 #include "numbertext_p.h"
 
+#include <QHash>
 #include <QLocale>
 
 #include <cmath>
@@ -27,6 +28,22 @@ QString quotable(const QString &text)
 }
 
 } // namespace
+
+TableShape tableShapeOf(const QString &objectName)
+{
+    static const QHash<QString, TableShape> shapes {
+        { QStringLiteral("float"), { 1, KeltoParameterModel::Number } },
+        { QStringLiteral("double"), { 1, KeltoParameterModel::Number } },
+        { QStringLiteral("int"), { 1, KeltoParameterModel::WholeNumber } },
+        { QStringLiteral("QVector<float>"), { 1, KeltoParameterModel::Number } },
+        { QStringLiteral("QVector<double>"), { 1, KeltoParameterModel::Number } },
+        { QStringLiteral("QVector<int>"), { 1, KeltoParameterModel::WholeNumber } },
+        { QStringLiteral("QVector<QPointF>"), { 2, KeltoParameterModel::Number } },
+        { QStringLiteral("QVector<QPoint>"), { 2, KeltoParameterModel::WholeNumber } },
+        { QStringLiteral("QVector<QStringList>"), { 0, KeltoParameterModel::Text } },
+    };
+    return shapes.value(objectName, { 1, KeltoParameterModel::Text });
+}
 
 TableCells::TableCells(int columns, KeltoParameterModel::Kind kind)
     : m_columns(qBound(0, columns, 2))
@@ -149,4 +166,12 @@ QString TableCells::stored(const QString &typed, const QLocale &locale) const
 QString TableCells::shown(const QString &cell, const QLocale &locale) const
 {
     return isOfNumbers() ? NumberText::shown(cell, locale) : cell;
+}
+
+QString TableCells::shownElement(const QString &element, const QLocale &locale) const
+{
+    QStringList cells = split(element);
+    for (QString &cell : cells)
+        cell = shown(cell, locale);
+    return cells.join(separator);
 }

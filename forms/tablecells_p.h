@@ -13,6 +13,17 @@
 
 class QLocale;
 
+/// The columns of a table and what its cells hold, as TableCells takes them.
+struct TableShape
+{
+    int columns;
+    KeltoParameterModel::Kind cells;
+};
+
+/// The shape for several values with this object name. The words for single numbers are known for
+/// several, too.
+TableShape tableShapeOf(const QString &objectName);
+
 /**
  * How the elements of a stored list are made of cells, and what a cell may hold.
  *
@@ -57,6 +68,8 @@ public:
     /// What is stored for a typed cell, and how a stored cell is shown.
     QString stored(const QString &typed, const QLocale &locale) const;
     QString shown(const QString &cell, const QLocale &locale) const;
+    /// How an element is shown where it is one text.
+    QString shownElement(const QString &element, const QLocale &locale) const;
 
 private:
     QString numberProblem(const QString &cell) const;

@@ -5,33 +5,9 @@
 
 #include "keltoparametermodel.h"
 #include "keltotableeditor_p.h"
-
-#include <QHash>
+#include "tablecells_p.h"
 
 namespace {
-
-struct Shape
-{
-    int columns;
-    KeltoParameterModel::Kind cells;
-};
-
-/// The words for single numbers are known for several, too.
-Shape shapeOf(const QString &objectName)
-{
-    static const QHash<QString, Shape> shapes {
-        { QStringLiteral("float"), { 1, KeltoParameterModel::Number } },
-        { QStringLiteral("double"), { 1, KeltoParameterModel::Number } },
-        { QStringLiteral("int"), { 1, KeltoParameterModel::WholeNumber } },
-        { QStringLiteral("QVector<float>"), { 1, KeltoParameterModel::Number } },
-        { QStringLiteral("QVector<double>"), { 1, KeltoParameterModel::Number } },
-        { QStringLiteral("QVector<int>"), { 1, KeltoParameterModel::WholeNumber } },
-        { QStringLiteral("QVector<QPointF>"), { 2, KeltoParameterModel::Number } },
-        { QStringLiteral("QVector<QPoint>"), { 2, KeltoParameterModel::WholeNumber } },
-        { QStringLiteral("QVector<QStringList>"), { 0, KeltoParameterModel::Text } },
-    };
-    return shapes.value(objectName, { 1, KeltoParameterModel::Text });
-}
 
 const KeltoParameterModel &modelOf(const QModelIndex &index)
 {
@@ -43,7 +19,8 @@ const KeltoParameterModel &modelOf(const QModelIndex &index)
 TableEditor::TableEditor(EditorListener *listener, const QModelIndex &index, QWidget *parent)
     : ValueEditor(listener, index.row())
 {
-    const Shape shape = shapeOf(modelOf(index).parameter(index.row()).parameterObjectName());
+    const TableShape shape
+        = tableShapeOf(modelOf(index).parameter(index.row()).parameterObjectName());
     m_table = new KeltoTableEditor(shape.columns, shape.cells, parent);
     QObject::connect(m_table, &KeltoTableEditor::edited, m_table,
                      [this] { this->listener()->choose(row(), m_table->value()); });

@@ -201,6 +201,10 @@
         <translation>删除列</translation>
     </message>
     <message>
+        <source>Clear Cells</source>
+        <translation>清空单元格</translation>
+    </message>
+    <message>
         <source>Copy</source>
         <translation>复制</translation>
     </message>

@@ -103,6 +103,8 @@ private Q_SLOTS:
     void focusesParameters();
     void followsTheLanguage();
     void isMirroredFromRightToLeft();
+    void keepsTheArrowBesideItsText_data();
+    void keepsTheArrowBesideItsText();
     void showsModels();
     void survivesTheEndOfItsModel();
     void mayBeRebuiltWhileTellingOfAnEdit();
@@ -376,6 +378,35 @@ void tst_KeltoParameterForm::isMirroredFromRightToLeft()
     form->setLayoutDirection(Qt::RightToLeft);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     QTRY_VERIFY(labelOf(*form, "Length")->x() > form->editor("Length")->x());
+}
+
+void tst_KeltoParameterForm::keepsTheArrowBesideItsText_data()
+{
+    QTest::addColumn<Qt::LayoutDirection>("direction");
+
+    QTest::newRow("from left to right") << Qt::LeftToRight;
+    QTest::newRow("from right to left") << Qt::RightToLeft;
+}
+
+void tst_KeltoParameterForm::keepsTheArrowBesideItsText()
+{
+    QFETCH(Qt::LayoutDirection, direction);
+    const auto form = shownForm(caseBeam());
+    form->setLayoutDirection(direction);
+    auto *button = form->findChild<QToolButton *>("kelto_advanced");
+    // Text without glyphs leaves the arrow alone.
+    button->setText(QString(10, ' '));
+    QTRY_VERIFY(button->isVisible());
+    const QImage image = button->grab().toImage();
+    const QRgb background = image.pixel(0, 0);
+    int atLeft = 0;
+    int atRight = 0;
+    for (int x = 0; x < image.width(); ++x) {
+        for (int y = 0; y < image.height(); ++y)
+            (x < image.width() / 2 ? atLeft : atRight) += int(image.pixel(x, y) != background);
+    }
+    QVERIFY((direction == Qt::LeftToRight ? atLeft : atRight) > 5);
+    QCOMPARE(direction == Qt::LeftToRight ? atRight : atLeft, 0);
 }
 
 void tst_KeltoParameterForm::showsModels()

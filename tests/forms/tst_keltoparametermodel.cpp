@@ -17,6 +17,7 @@
 using Model = KeltoParameterModel;
 
 Q_DECLARE_METATYPE(Entries)
+Q_DECLARE_METATYPE(QVector<VDataItem>)
 
 namespace {
 
@@ -90,6 +91,8 @@ private Q_SLOTS:
     void storesWhatDoesNotCountAsEmptyText();
     void keepsWhatDoesNotCountForLater();
     void findsWhatIsWrong();
+    void saysWhatIsWrongAsItIsShown_data();
+    void saysWhatIsWrongAsItIsShown();
     void findsTheSameWithoutAnItem();
     void tellsWhenComplete();
     void gathersFindingsOnceForManyEdits();
@@ -390,6 +393,50 @@ void tst_KeltoParameterModel::findsWhatIsWrong()
     model.setValues({ { "Attribute/length", "2" }, { "Attribute/Case", "none" } });
     QCOMPARE(kindsOfFindings(model),
              QStringList("Attribute/Length:" + QString::number(KeltoItemFinding::NearMiss)));
+}
+
+void tst_KeltoParameterModel::saysWhatIsWrongAsItIsShown_data()
+{
+    QTest::addColumn<QStringList>("entry");
+    QTest::addColumn<QVector<VDataItem>>("hints");
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<QString>("expected");
+
+    const auto row = [](const char *name, const QStringList &entry, const QVariant &value,
+                        const QVector<VDataItem> &hints, const QString &expected) {
+        QTest::newRow(name) << entry << hints << value << "x" + expected;
+    };
+    const QVector<VDataItem> limits { { "Min.x", "0.5" }, { "Max.x", 5000 } };
+    row("limits", plainEntry("x"), "0.25", limits,
+        ": 0,25 is outside the allowed range (0,5 .. 5000).");
+    row("one limit", plainEntry("x"), 0.25, { { "Min.x", "0.5" } },
+        ": 0,25 is outside the allowed range (≥ 0,5).");
+    row("a fraction", plainEntry("x", "int"), "1.5", {}, ": \"1,5\" is not a whole number.");
+    row("no number", plainEntry("x"), "1.5 mm", {}, ": \"1.5 mm\" is not a number.");
+    row("points", multiEntry("x", "QVector<QPointF>"), QStringList { "1|2", "0.25|1.5" }, limits,
+        ", value 2: 0,25|1,5 is outside the allowed range (0,5 .. 5000).");
+    row("text that has to be typed with a point", plainEntry("x", "text"), "0.25", limits,
+        ": 0.25 is outside the allowed range (0.5 .. 5000).");
+    row("labels", plainEntry("x"), "3", { { "Choices.x", "1=one|2.5" } },
+        ": \"3\" is not among the choices (one, 2.5).");
+    row("a choice outside its limits", plainEntry("x"), "1",
+        { { "Choices.x", "1=one|2=two" }, { "Min.x", 2 } },
+        ": 1 is outside the allowed range (≥ 2).");
+    row("yes and no", plainEntry("x", "bool"), "maybe", {},
+        ": \"maybe\" is not among the choices (Yes, No).");
+}
+
+void tst_KeltoParameterModel::saysWhatIsWrongAsItIsShown()
+{
+    QFETCH(QStringList, entry);
+    QFETCH(QVector<VDataItem>, hints);
+    QFETCH(QVariant, value);
+    Model *model = modelOf(entry, hints, this);
+    model->setValues({ { "Attribute/x", value } });
+    model->setLocale(QLocale("de"));
+    QTEST(valueOf(*model, "x").data(Model::FindingRole).toString(), "expected");
+    model->setLocale(QLocale::c());
+    QVERIFY(!valueOf(*model, "x").data(Model::FindingRole).toString().contains("0,"));
 }
 
 void tst_KeltoParameterModel::findsTheSameWithoutAnItem()

@@ -224,11 +224,14 @@ void tst_KeltoTableEditor::takesKeys()
     QTest::keyClick(editor.table, Qt::Key_C, Qt::ControlModifier);
     QCOMPARE(QApplication::clipboard()->text(), "1,5\t\n\t\n\t\n");
     QTest::keyClick(editor.table, Qt::Key_Delete);
+    QCOMPARE(editor.value(), QStringList({ "|", "|", "|" }));
+    QTest::keyClick(editor.table, Qt::Key_Delete);
+    QTest::keyClick(editor.table, Qt::Key_Minus, Qt::ControlModifier);
     QCOMPARE(editor.value(), QStringList());
     QApplication::clipboard()->setText("7\t8");
     QTest::keyClick(editor.table, Qt::Key_V, Qt::ControlModifier);
     QCOMPARE(editor.value(), QStringList("7|8"));
-    QCOMPARE(editor.edits.size(), 6);
+    QCOMPARE(editor.edits.size(), 7);
 }
 
 void tst_KeltoTableEditor::deletesAndInserts_data()
@@ -258,6 +261,11 @@ void tst_KeltoTableEditor::deletesAndInserts_data()
     row("delete several", Array, three, { 0, 1, 1, 2 }, "deleteRows", { "1" });
     row("delete all", Rows, ragged, { 0, 0, 1, 3 }, "deleteRows", {});
     row("delete without a cell", Array, three, none, "deleteRows", three);
+    row("clear one", Rows, ragged, { 1, 0, 1, 1 }, "clearCells", { "a||c", "d", "|" });
+    row("clear several", Rows, ragged, { 0, 0, 2, 2 }, "clearCells", { "||c", "", "|" });
+    row("clear what is not there", Rows, ragged, { 2, 1, 1, 2 }, "clearCells", ragged);
+    row("clear y", Points, { "1|2", "3" }, { 1, 0, 1, 2 }, "clearCells", { "1|", "3" });
+    row("clear without a cell", Array, three, none, "clearCells", three);
     row("column between", Rows, ragged, { 0, 0, 1, 1 }, "insertColumn", { "a||b|c", "d|", "||" });
     row("column behind the last", Rows, ragged, none, "insertColumn", { "a|b|c|", "d", "|" });
     row("column without a row", Rows, {}, none, "insertColumn", {});
@@ -349,22 +357,24 @@ void tst_KeltoTableEditor::keepsCurrentCellWhenTheFormUndoes()
 
 void tst_KeltoTableEditor::marksFindings()
 {
-    Editor editor(Points, Model::Number, { "1|2", "3|4" });
+    Editor editor(Points, Model::Number, { "1|2", "3|4.5" }, "de");
     KeltoItemFinding outside;
     outside.kind = KeltoItemFinding::OutsideLimits;
     outside.parameter.set(QVariant(), { "Load", "Load" }, {}, "F", {}, "QVector<QPointF>", true);
-    outside.found = "3|4";
+    outside.found = "3|4.5";
+    outside.expected = QStringList("0 .. 2.5");
     outside.position = 1;
     KeltoItemFinding unknown = outside;
     unknown.position = 77;
     editor.setFindings({ outside, unknown });
     QCOMPARE(editor.toolTip(0, 0), "");
-    QCOMPARE(editor.toolTip(1, 0), outside.text());
+    const QString text = "Load (F), value 2: 3|4,5 is outside the allowed range (0 .. 2,5).";
+    QCOMPARE(editor.toolTip(1, 0), text);
     const QAbstractItemModel *model = editor.table->model();
     QVERIFY(model->headerData(0, Qt::Vertical, Qt::DecorationRole).isNull());
     QVERIFY(!model->headerData(1, Qt::Vertical, Qt::DecorationRole).isNull());
     editor.setCurrent(1, 0);
-    QCOMPARE(editor.status(), QString("Row 2: " + outside.text()));
+    QCOMPARE(editor.status(), QString("Row 2: " + text));
     editor.setFindings({});
     QCOMPARE(editor.toolTip(1, 0), "");
     QCOMPARE(editor.status(), "Rows: 2");
@@ -426,9 +436,14 @@ void tst_KeltoTableEditor::isUndoneByTheForm()
     auto *table = form.editor("Loads")->findChild<QTableView *>("kelto_table");
     table->setFocus();
     QVERIFY(QTest::qWaitForWindowActive(&form));
+    table->selectAll();
+    QTest::keyClick(table, Qt::Key_Delete);
+    QCOMPARE(form.values().value(0).second, QVariant(QStringList("|")));
+    QTest::keyClick(table, Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(form.values(), before);
     QTest::keyClick(table, Qt::Key_Insert);
-    QTest::keyClick(table, Qt::Key_Delete);
-    QTest::keyClick(table, Qt::Key_Delete);
+    QTest::keyClick(table, Qt::Key_Minus, Qt::ControlModifier);
+    QTest::keyClick(table, Qt::Key_Minus, Qt::ControlModifier);
     QCOMPARE(table->model()->rowCount(), 0);
     QTest::keyClick(table, Qt::Key_Z, Qt::ControlModifier);
     QTest::keyClick(table, Qt::Key_Z, Qt::ControlModifier);
