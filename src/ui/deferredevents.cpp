@@ -5,8 +5,12 @@
 
 #include <QCoreApplication>
 #include <QFocusEvent>
+#include <QMoveEvent>
+#include <QResizeEvent>
 #include <QShowEvent>
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace {
@@ -19,8 +23,17 @@ QEvent *copyOf(const QEvent &event)
     case QEvent::Hide:
         return new QHideEvent;
     case QEvent::FocusIn:
+    case QEvent::FocusOut:
         // With the reason that the window was activated it would be deferred again.
-        return new QFocusEvent(QEvent::FocusIn, Qt::OtherFocusReason);
+        return new QFocusEvent(event.type(), Qt::OtherFocusReason);
+    case QEvent::Move: {
+        const auto &move = static_cast<const QMoveEvent &>(event);
+        return new QMoveEvent(move.pos(), move.oldPos());
+    }
+    case QEvent::Resize: {
+        const auto &resize = static_cast<const QResizeEvent &>(event);
+        return new QResizeEvent(resize.size(), resize.oldSize());
+    }
     default:
         return new QEvent(event.type());
     }
@@ -28,10 +41,8 @@ QEvent *copyOf(const QEvent &event)
 
 } // namespace
 
-DeferredEvents::DeferredEvents(QWidget *window, const QWidget *focusWidget,
-                               std::function<void(QShowEvent *)> place)
+DeferredEvents::DeferredEvents(QWidget *window, std::function<void(QShowEvent *)> place)
     : m_window(window)
-    , m_focusWidget(focusWidget)
     , m_place(std::move(place))
 {
 }
@@ -45,32 +56,36 @@ void DeferredEvents::start()
 
 void DeferredEvents::stop()
 {
-    m_hasPolished = false;
+    m_polished.clear();
     if (--m_starts == 0)
         QCoreApplication::instance()->removeEventFilter(this);
 }
 
 void DeferredEvents::polish()
 {
-    if (m_window->testAttribute(Qt::WA_WState_Polished))
-        return;
     const QPointer<DeferredEvents> self(this);
-    QEvent event(QEvent::Polish);
-    QCoreApplication::sendEvent(m_window, &event);
-    if (self)
-        m_hasPolished = true;
+    QVector<QPointer<QWidget>> widgets { m_window };
+    const auto children = m_window->findChildren<QWidget *>();
+    std::copy(children.begin(), children.end(), std::back_inserter(widgets));
+    for (const QPointer<QWidget> &widget : std::as_const(widgets)) {
+        if (!widget || widget->testAttribute(Qt::WA_WState_Polished))
+            continue;
+        QEvent event(QEvent::Polish);
+        QCoreApplication::sendEvent(widget, &event);
+        if (!self)
+            return;
+        m_polished.append(widget);
+    }
 }
 
 void DeferredEvents::tellAfter(const std::function<void()> &change)
 {
     const QPointer<DeferredEvents> self(this);
-    Queue queue;
-    Queue *const outer = std::exchange(m_queue, &queue);
+    const bool wasChanging = std::exchange(m_isChanging, true);
     change();
     if (!self)
         return;
-    m_queue = outer;
-    m_untold += queue;
+    m_isChanging = wasChanging;
     if (!m_isClosing)
         tell();
 }
@@ -82,9 +97,11 @@ void DeferredEvents::startClosing()
 
 void DeferredEvents::tell()
 {
+    const QPointer<DeferredEvents> self(this);
     m_isClosing = false;
-    const Queue queue = std::exchange(m_untold, {});
-    for (const Deferred &deferred : queue) {
+    // A listener may show or hide the window, which tells of the rest first.
+    while (self && !m_isChanging && !m_untold.isEmpty()) {
+        const Deferred deferred = m_untold.takeFirst();
         if (deferred.receiver)
             QCoreApplication::sendEvent(deferred.receiver, deferred.event.data());
     }
@@ -92,35 +109,65 @@ void DeferredEvents::tell()
 
 bool DeferredEvents::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_window && event->type() == QEvent::Polish)
-        return std::exchange(m_hasPolished, false);
-    if (!isPremature(watched, event))
+    if (event->type() == QEvent::Polish)
+        return m_polished.removeOne(watched);
+    const bool isQueued = m_isChanging && isOfChange(watched, event);
+    if (!isQueued && !isPremature(watched, event))
         return false;
-    if (event->type() == QEvent::Show)
+    if (watched == m_window && event->type() == QEvent::Show)
         m_place(static_cast<QShowEvent *>(event));
-    if (m_queue)
-        m_queue->append({ watched, QSharedPointer<QEvent>(copyOf(*event)) });
+    if (isQueued)
+        m_untold.append({ watched, QSharedPointer<QEvent>(copyOf(*event)) });
     else
         QCoreApplication::postEvent(watched, copyOf(*event));
     return true;
 }
 
-bool DeferredEvents::isPremature(const QObject *watched, const QEvent *event) const
+bool DeferredEvents::isOfWindow(const QObject *watched) const
+{
+    return watched == m_window
+        || (watched->isWidgetType()
+            && m_window->isAncestorOf(static_cast<const QWidget *>(watched)));
+}
+
+/// Whether Qt sends @p event while it shows or hides the window, and is not done with it yet.
+bool DeferredEvents::isOfChange(const QObject *watched, const QEvent *event) const
 {
     switch (event->type()) {
     case QEvent::Show:
     case QEvent::Hide:
         // A minimised window is told by the window system.
-        return watched == m_window && m_queue && !event->spontaneous();
+        return !event->spontaneous() && isOfWindow(watched);
+    case QEvent::ShowToParent:
+    case QEvent::HideToParent:
+    case QEvent::Move:
+    case QEvent::Resize:
+    case QEvent::LayoutRequest:
+    case QEvent::WinIdChange:
+    case QEvent::ActivationChange:
+    // As a dialog is shown, its first focus widget is told again.
+    case QEvent::FocusIn:
+    case QEvent::FocusOut:
+        return isOfWindow(watched);
+    default:
+        return false;
+    }
+}
+
+/// Whether the window system tells of @p event, so that Qt still uses the window after it.
+bool DeferredEvents::isPremature(const QObject *watched, const QEvent *event) const
+{
+    switch (event->type()) {
+    case QEvent::Move:
+    case QEvent::Resize:
+    case QEvent::ActivationChange:
     case QEvent::WindowActivate:
     case QEvent::WindowDeactivate:
         return watched == m_window && event->spontaneous();
     case QEvent::FocusIn:
-        // As a dialog is shown or activated, its first focus widget is told again.
-        return watched == m_focusWidget
-            && (m_queue
-                || static_cast<const QFocusEvent *>(event)->reason()
-                    == Qt::ActiveWindowFocusReason);
+    case QEvent::FocusOut:
+        return static_cast<const QFocusEvent *>(event)->reason() == Qt::ActiveWindowFocusReason
+            && isOfWindow(watched);
     default:
         return false;
     }

@@ -16,27 +16,26 @@
 class QShowEvent;
 
 /**
- * Tells listeners that a window is polished, shown, activated or hidden when Qt has finished with
- * it.
+ * Tells listeners that a window, or a widget in it, is polished, shown, moved, activated, focused
+ * or hidden when Qt has finished with it.
  *
- * Qt itself goes on with the window after it has sent these events, so a listener that deletes the
+ * Qt itself goes on with the window after it has sent such events, so a listener that deletes the
  * window, or gives it another parent, would end the program. Sent later, the same events do no
  * harm.
  */
 class DeferredEvents : public QObject
 {
 public:
-    /// For @p window and that child of it which has the focus first. @p place is called before the
-    /// window is on the screen: by the time that listeners are told it is too late.
-    DeferredEvents(QWidget *window, const QWidget *focusWidget,
-                   std::function<void(QShowEvent *)> place);
+    /// For @p window and the widgets in it. @p place is called before the window is on the screen:
+    /// by the time that listeners are told it is too late.
+    DeferredEvents(QWidget *window, std::function<void(QShowEvent *)> place);
 
     /// Looks at all events of the program, in front of all other filters, until stop() was called
     /// as often.
     void start();
     void stop();
 
-    /// Polishes the window, unless that has been done.
+    /// Polishes the window and the widgets in it, unless that has been done.
     void polish();
     /// Calls @p change, which shows or hides the window, and then tells the listeners.
     void tellAfter(const std::function<void()> &change);
@@ -53,21 +52,21 @@ private:
         QPointer<QObject> receiver;
         QSharedPointer<QEvent> event;
     };
-    using Queue = QVector<Deferred>;
 
+    bool isOfWindow(const QObject *watched) const;
+    bool isOfChange(const QObject *watched, const QEvent *event) const;
     bool isPremature(const QObject *watched, const QEvent *event) const;
 
     QWidget *m_window;
-    const QWidget *m_focusWidget;
     std::function<void(QShowEvent *)> m_place;
     int m_starts = 0;
     /// What the listeners wait for.
-    Queue m_untold;
+    QVector<Deferred> m_untold;
     bool m_isClosing = false;
-    /// What tellAfter() will send; there is none while it is not running.
-    Queue *m_queue = nullptr;
-    /// Whether Qt is going to send a second event for the same polishing.
-    bool m_hasPolished = false;
+    /// Whether Qt is showing or hiding the window.
+    bool m_isChanging = false;
+    /// The widgets to which Qt is going to send a second event for the same polishing.
+    QVector<const QObject *> m_polished;
 };
 
 #endif

@@ -88,8 +88,7 @@ UTaskSelectDialogPrivate::UTaskSelectDialogPrivate(UTaskSelectDialog *dialog)
     comboBox = ui.comboBox;
     const auto widgets = dialog->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
     std::copy(widgets.begin(), widgets.end(), std::back_inserter(members));
-    events = std::make_unique<DeferredEvents>(q, comboBox,
-                                              [this](QShowEvent *event) { place(event); });
+    events = std::make_unique<DeferredEvents>(q, [this](QShowEvent *event) { place(event); });
 }
 
 void UTaskSelectDialogPrivate::place(QShowEvent *event) const

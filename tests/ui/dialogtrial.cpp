@@ -67,13 +67,36 @@ void showAgain(QDialog *dialog)
 template <typename Value> using Table = QVector<QPair<QString, Value>>;
 using Act = void (*)(QDialog *);
 
-Table<QEvent::Type> eventMoments()
+struct EventMoment
+{
+    QEvent::Type type;
+    /// The combo box is told, otherwise the dialog.
+    bool isOfBox = false;
+};
+Table<EventMoment> eventMoments()
 {
     return {
-        { "polish", QEvent::Polish }, { "show", QEvent::Show },
-        { "paint", QEvent::Paint },   { "activate", QEvent::WindowActivate },
-        { "hide", QEvent::Hide },     { "language", QEvent::LanguageChange },
-        { "close", QEvent::Close },   { "focus", QEvent::FocusIn },
+        { "polish", { QEvent::Polish } },
+        { "show", { QEvent::Show } },
+        { "paint", { QEvent::Paint } },
+        { "activate", { QEvent::WindowActivate } },
+        { "activation change", { QEvent::ActivationChange } },
+        { "move", { QEvent::Move } },
+        { "resize", { QEvent::Resize } },
+        { "layout request", { QEvent::LayoutRequest } },
+        { "window id", { QEvent::WinIdChange } },
+        { "show to parent", { QEvent::ShowToParent } },
+        { "hide", { QEvent::Hide } },
+        { "hide to parent", { QEvent::HideToParent } },
+        { "language", { QEvent::LanguageChange } },
+        { "close", { QEvent::Close } },
+        { "focus", { QEvent::FocusIn, true } },
+        { "focus out", { QEvent::FocusOut, true } },
+        { "box polish", { QEvent::Polish, true } },
+        { "box show", { QEvent::Show, true } },
+        { "box move", { QEvent::Move, true } },
+        { "box resize", { QEvent::Resize, true } },
+        { "box hide", { QEvent::Hide, true } },
     };
 }
 Table<Act> otherMoments()
@@ -135,13 +158,13 @@ public:
         : m_dialog(dialog)
         , m_class(typeid(*dialog))
         , m_moment(trial.moment)
-        , m_type(valueAt(eventMoments(), trial.moment, QEvent::None))
+        , m_event(valueAt(eventMoments(), trial.moment, EventMoment { QEvent::None }))
         , m_act(valueAt(waysToEnd() + otherActs(), trial.act, Act(nullptr)))
         , m_end(valueAt(waysToEnd(), trial.end, Act(nullptr)))
     {
         auto *box = dialog->findChild<QComboBox *>();
         auto *button = dialog->findChild<QPushButton *>("pushButton_cancel");
-        (m_moment == "focus" ? static_cast<QWidget *>(box) : dialog)->installEventFilter(this);
+        (m_event.isOfBox ? static_cast<QWidget *>(box) : dialog)->installEventFilter(this);
         connect(box, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
                 [this] { actAt("entry"); });
         connect(button, &QPushButton::pressed, this, [this] { actAt("button"); });
@@ -151,8 +174,8 @@ public:
     {
         const QPointer<QObject> stillThere(watched);
         // Qt hides a dialog that is being deleted, too. Nobody may delete it a second time.
-        const bool isGoing = m_type == QEvent::Hide && m_class != typeid(*watched);
-        if (event->type() == m_type && !isGoing)
+        const bool isGoing = !m_dialog || m_class != typeid(*m_dialog);
+        if (event->type() == m_event.type && !isGoing)
             actAt(m_moment);
         // An object that is gone gets no event any more.
         return !stillThere;
@@ -163,9 +186,11 @@ public:
     {
         if (m_hasActed || !m_dialog)
             return;
-        if (m_type == QEvent::LanguageChange)
-            QCoreApplication::postEvent(m_dialog, new QEvent(m_type));
-        else if (m_type == QEvent::Close || m_type == QEvent::Hide)
+        const QVector<QEvent::Type> last { QEvent::Close, QEvent::Hide, QEvent::HideToParent,
+                                           QEvent::FocusOut };
+        if (m_event.type == QEvent::LanguageChange)
+            QCoreApplication::postEvent(m_dialog, new QEvent(m_event.type));
+        else if (last.contains(m_event.type))
             m_end(m_dialog);
         else if (const Act act = valueAt(otherMoments(), m_moment, Act(nullptr)))
             act(m_dialog);
@@ -183,7 +208,7 @@ private:
     QPointer<QDialog> m_dialog;
     std::type_index m_class;
     QString m_moment;
-    QEvent::Type m_type;
+    EventMoment m_event;
     Act m_act;
     Act m_end;
     bool m_hasActed = false;
