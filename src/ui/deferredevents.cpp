@@ -15,6 +15,13 @@
 
 namespace {
 
+/// Its class tells that it has been deferred already.
+class LateEvent : public QEvent
+{
+public:
+    using QEvent::QEvent;
+};
+
 QEvent *copyOf(const QEvent &event)
 {
     switch (event.type()) {
@@ -35,7 +42,7 @@ QEvent *copyOf(const QEvent &event)
         return new QResizeEvent(resize.size(), resize.oldSize());
     }
     default:
-        return new QEvent(event.type());
+        return new LateEvent(event.type());
     }
 }
 
@@ -99,8 +106,8 @@ void DeferredEvents::tell()
 {
     const QPointer<DeferredEvents> self(this);
     m_isClosing = false;
-    // A listener may show or hide the window, which tells of the rest first.
-    while (self && !m_isChanging && !m_untold.isEmpty()) {
+    // A listener may show or hide the window, which tells of the rest first, or close it.
+    while (self && !m_isChanging && !m_isClosing && !m_untold.isEmpty()) {
         const Deferred deferred = m_untold.takeFirst();
         if (deferred.receiver)
             QCoreApplication::sendEvent(deferred.receiver, deferred.event.data());
@@ -111,7 +118,8 @@ bool DeferredEvents::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::Polish)
         return m_polished.removeOne(watched);
-    const bool isQueued = m_isChanging && isOfChange(watched, event);
+    // The close button of a window hides it twice.
+    const bool isQueued = (m_isChanging || m_isClosing) && isOfChange(watched, event);
     if (!isQueued && !isPremature(watched, event))
         return false;
     if (watched == m_window && event->type() == QEvent::Show)
@@ -154,7 +162,7 @@ bool DeferredEvents::isOfChange(const QObject *watched, const QEvent *event) con
     }
 }
 
-/// Whether the window system tells of @p event, so that Qt still uses the window after it.
+/// Whether the window system, or the window itself, tells of @p event, and goes on after it.
 bool DeferredEvents::isPremature(const QObject *watched, const QEvent *event) const
 {
     switch (event->type()) {
@@ -168,6 +176,9 @@ bool DeferredEvents::isPremature(const QObject *watched, const QEvent *event) co
     case QEvent::FocusOut:
         return static_cast<const QFocusEvent *>(event)->reason() == Qt::ActiveWindowFocusReason
             && isOfWindow(watched);
+    case QEvent::LanguageChange:
+        return watched != m_window && isOfWindow(watched)
+            && !dynamic_cast<const LateEvent *>(event);
     default:
         return false;
     }

@@ -97,6 +97,7 @@ Table<EventMoment> eventMoments()
         { "box move", { QEvent::Move, true } },
         { "box resize", { QEvent::Resize, true } },
         { "box hide", { QEvent::Hide, true } },
+        { "box language", { QEvent::LanguageChange, true } },
     };
 }
 Table<Act> otherMoments()
@@ -161,6 +162,7 @@ public:
         , m_event(valueAt(eventMoments(), trial.moment, EventMoment { QEvent::None }))
         , m_act(valueAt(waysToEnd() + otherActs(), trial.act, Act(nullptr)))
         , m_end(valueAt(waysToEnd(), trial.end, Act(nullptr)))
+        , m_deletes(trial.end == "delete")
     {
         auto *box = dialog->findChild<QComboBox *>();
         auto *button = dialog->findChild<QPushButton *>("pushButton_cancel");
@@ -174,7 +176,7 @@ public:
     {
         const QPointer<QObject> stillThere(watched);
         // Qt hides a dialog that is being deleted, too. Nobody may delete it a second time.
-        const bool isGoing = !m_dialog || m_class != typeid(*m_dialog);
+        const bool isGoing = m_isDeleting || !m_dialog || m_class != typeid(*m_dialog);
         if (event->type() == m_event.type && !isGoing)
             actAt(m_moment);
         // An object that is gone gets no event any more.
@@ -191,7 +193,7 @@ public:
         if (m_event.type == QEvent::LanguageChange)
             QCoreApplication::postEvent(m_dialog, new QEvent(m_event.type));
         else if (last.contains(m_event.type))
-            m_end(m_dialog);
+            end();
         else if (const Act act = valueAt(otherMoments(), m_moment, Act(nullptr)))
             act(m_dialog);
         else
@@ -205,12 +207,20 @@ private:
             m_act(m_dialog);
     }
 
+    void end()
+    {
+        m_isDeleting = m_deletes;
+        m_end(m_dialog);
+    }
+
     QPointer<QDialog> m_dialog;
     std::type_index m_class;
     QString m_moment;
     EventMoment m_event;
     Act m_act;
     Act m_end;
+    bool m_deletes;
+    bool m_isDeleting = false;
     bool m_hasActed = false;
 };
 
