@@ -166,7 +166,6 @@ bool DeferredEvents::isOfChange(const QObject *watched, const QEvent *event) con
 bool DeferredEvents::isPremature(const QObject *watched, const QEvent *event) const
 {
     switch (event->type()) {
-    case QEvent::Move:
     case QEvent::Resize:
     case QEvent::ActivationChange:
     case QEvent::WindowActivate:

@@ -35,9 +35,12 @@ using VStringPairList = QVector<QPair<QString, QString>>;
  * are the host's and stay. A name that is too long for the window is shown with an ellipsis; all
  * operations take and return it whole.
  *
- * While show() or exec() runs, a host may do to the dialog what it pleases, from any slot or event
- * filter: close it, show it again, give it another parent, delete it. Qt itself does not survive
- * that the dialog is deleted, or given another parent, while it is painted, or deleted by a slot of
+ * While show() or exec() runs, a host may close the dialog, show it again, give it another parent
+ * or delete it, from a timer, from a slot of its buttons or its combo box, and from an event filter
+ * when the dialog or a widget in it is polished, shown, moved, resized, laid out, activated,
+ * focused or hidden, when the dialog is closed, and when the language changes. The filters are told
+ * when Qt has finished with the window, not in between. Qt itself does not survive that the dialog
+ * is deleted, or given another parent, while it is painted, or deleted by a slot of
  * windowTitleChanged() while the language changes, or that the combo box alone is deleted by a slot
  * of its own. An event filter that has deleted the dialog returns true, as for any object of Qt.
  */

@@ -72,6 +72,8 @@ struct EventMoment
     QEvent::Type type;
     /// The combo box is told, otherwise the dialog.
     bool isOfBox = false;
+    /// The user brings it about, after one that comes by itself.
+    bool isOfUser = false;
 };
 Table<EventMoment> eventMoments()
 {
@@ -83,6 +85,7 @@ Table<EventMoment> eventMoments()
         { "activation change", { QEvent::ActivationChange } },
         { "move", { QEvent::Move } },
         { "resize", { QEvent::Resize } },
+        { "user resize", { QEvent::Resize, false, true } },
         { "layout request", { QEvent::LayoutRequest } },
         { "window id", { QEvent::WinIdChange } },
         { "show to parent", { QEvent::ShowToParent } },
@@ -157,7 +160,6 @@ class Host : public QObject
 public:
     Host(QDialog *dialog, const Trial &trial)
         : m_dialog(dialog)
-        , m_class(typeid(*dialog))
         , m_moment(trial.moment)
         , m_event(valueAt(eventMoments(), trial.moment, EventMoment { QEvent::None }))
         , m_act(valueAt(waysToEnd() + otherActs(), trial.act, Act(nullptr)))
@@ -166,7 +168,9 @@ public:
     {
         auto *box = dialog->findChild<QComboBox *>();
         auto *button = dialog->findChild<QPushButton *>("pushButton_cancel");
-        (m_event.isOfBox ? static_cast<QWidget *>(box) : dialog)->installEventFilter(this);
+        QWidget &watched = m_event.isOfBox ? static_cast<QWidget &>(*box) : *dialog;
+        m_class = typeid(watched);
+        watched.installEventFilter(this);
         connect(box, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
                 [this] { actAt("entry"); });
         connect(button, &QPushButton::pressed, this, [this] { actAt("button"); });
@@ -176,7 +180,10 @@ public:
     {
         const QPointer<QObject> stillThere(watched);
         // Qt hides a dialog that is being deleted, too. Nobody may delete it a second time.
-        const bool isGoing = m_isDeleting || !m_dialog || m_class != typeid(*m_dialog);
+        const QDialog *dialog = m_dialog;
+        if (m_event.isOfUser && !m_isUsed)
+            return false;
+        const bool isGoing = m_isDeleting || !dialog || m_class != typeid(*dialog);
         if (event->type() == m_event.type && !isGoing)
             actAt(m_moment);
         // An object that is gone gets no event any more.
@@ -188,12 +195,15 @@ public:
     {
         if (m_hasActed || !m_dialog)
             return;
+        m_isUsed = true;
         const QVector<QEvent::Type> last { QEvent::Close, QEvent::Hide, QEvent::HideToParent,
                                            QEvent::FocusOut };
         if (m_event.type == QEvent::LanguageChange)
             QCoreApplication::postEvent(m_dialog, new QEvent(m_event.type));
         else if (last.contains(m_event.type))
             end();
+        else if (m_event.isOfUser)
+            m_dialog->window()->windowHandle()->resize(500, 400);
         else if (const Act act = valueAt(otherMoments(), m_moment, Act(nullptr)))
             act(m_dialog);
         else
@@ -203,8 +213,10 @@ public:
 private:
     void actAt(const QString &moment)
     {
-        if (moment == m_moment && m_dialog && !std::exchange(m_hasActed, true))
-            m_act(m_dialog);
+        if (moment != m_moment || m_hasActed || !m_dialog)
+            return;
+        m_hasActed = true;
+        m_act(m_dialog);
     }
 
     void end()
@@ -214,13 +226,14 @@ private:
     }
 
     QPointer<QDialog> m_dialog;
-    std::type_index m_class;
+    std::type_index m_class = typeid(void);
     QString m_moment;
     EventMoment m_event;
     Act m_act;
     Act m_end;
     bool m_deletes;
     bool m_isDeleting = false;
+    bool m_isUsed = false;
     bool m_hasActed = false;
 };
 
