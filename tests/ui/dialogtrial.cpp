@@ -180,10 +180,9 @@ public:
     {
         const QPointer<QObject> stillThere(watched);
         // Qt hides a dialog that is being deleted, too. Nobody may delete it a second time.
-        const QDialog *dialog = m_dialog;
         if (m_event.isOfUser && !m_isUsed)
             return false;
-        const bool isGoing = m_isDeleting || !dialog || m_class != typeid(*dialog);
+        const bool isGoing = m_isDeleting || m_class != typeid(*watched);
         if (event->type() == m_event.type && !isGoing)
             actAt(m_moment);
         // An object that is gone gets no event any more.
