@@ -60,7 +60,7 @@ int main(int argc, char *argv[])
     QObject::connect(&form, &KeltoParameterForm::completeChanged, &calculate,
                      &QPushButton::setEnabled);
 
-    QObject::connect(&calculate, &QPushButton::clicked, [&] {
+    QObject::connect(&calculate, &QPushButton::clicked, &window, [&] {
         values = form.values();
         registry.save(valueFile, &values);
         registry.getCalculationLData(values);
