@@ -5,6 +5,7 @@
 
 #include "delimitedtext_p.h"
 #include "numbertext_p.h"
+#include "tablecells_p.h"
 
 #include <QHash>
 #include <QPointF>
@@ -17,17 +18,8 @@ namespace {
 
 bool isOfNumbers(const Result &result)
 {
-    static const QStringList words {
-        QStringLiteral("float"),
-        QStringLiteral("double"),
-        QStringLiteral("int"),
-        QStringLiteral("QVector<float>"),
-        QStringLiteral("QVector<double>"),
-        QStringLiteral("QVector<int>"),
-        QStringLiteral("QVector<QPointF>"),
-        QStringLiteral("QVector<QPoint>"),
-    };
-    return words.contains(result.row.parameter.parameterObjectName());
+    return tableShapeOf(result.row.parameter.parameterObjectName()).cells
+        != KeltoParameterModel::Text;
 }
 
 bool isText(const QVariant &value)

@@ -45,9 +45,9 @@ int main(int argc, char *argv[])
     QPushButton calculate("&Calculate");
     KeltoResultView results;
     QVBoxLayout layout(&window);
-    for (QWidget *part : { static_cast<QWidget *>(&form), static_cast<QWidget *>(&calculate),
-                           static_cast<QWidget *>(&results) })
-        layout.addWidget(part);
+    layout.addWidget(&form);
+    layout.addWidget(&calculate);
+    layout.addWidget(&results);
 
     // The values of the last time.
     const QString valueFile = "minimal-values.ini";
@@ -55,11 +55,11 @@ int main(int argc, char *argv[])
     if (QFileInfo::exists(valueFile) && registry.load(valueFile, &values))
         form.setValues(values);
 
-    // One can calculate when nothing is missing or wrong.
+    // One can calculate when nothing is missing or wrong. A changed value ends the result.
     calculate.setEnabled(form.isComplete());
     QObject::connect(&form, &KeltoParameterForm::completeChanged, &calculate,
                      &QPushButton::setEnabled);
-
+    QObject::connect(&form, &KeltoParameterForm::edited, &results, [&] { results.setResults({}); });
     QObject::connect(&calculate, &QPushButton::clicked, &window, [&] {
         values = form.values();
         registry.save(valueFile, &values);

@@ -26,7 +26,7 @@ public:
         const QByteArray source = text.toUtf8();
         const QString found
             = QCoreApplication::translate(m_context.constData(), source.constData());
-        // What is not found comes back through UTF-8, which cannot hold every QString.
+        // What is not found is returned through UTF-8, which cannot hold every QString.
         return found == QString::fromUtf8(source.constData()) ? text : found;
     }
 
