@@ -6,10 +6,10 @@
 #include "keltoitemparameterverify.h"
 
 #include "core/enteredvalues_p.h"
+#include "core/similarnames_p.h"
 #include "hints/countingparameters_p.h"
 #include "keltoitemfinding.h"
 #include "params/requiredparameters_p.h"
-#include "params/similarnames_p.h"
 
 #include <QLocale>
 

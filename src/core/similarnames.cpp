@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Kelto developers
 // SPDX-License-Identifier: MIT
 
-#include "params/similarnames_p.h"
+#include "core/similarnames_p.h"
 
 #include <QtAlgorithms>
 

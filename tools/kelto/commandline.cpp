@@ -1,0 +1,171 @@
+// SPDX-FileCopyrightText: The Kelto developers
+// SPDX-License-Identifier: MIT
+
+#include "commandline.h"
+
+#include "commands.h"
+#include "console.h"
+#include "nearestname.h"
+
+#include <QCommandLineParser>
+
+#include <algorithm>
+
+namespace {
+
+/// Two columns, of which the second is not wrapped: terminals do that.
+QString table(const QVector<QPair<QString, QString>> &rows)
+{
+    int width = 0;
+    for (const auto &row : rows)
+        width = qMax(width, row.first.size());
+    QString text;
+    for (const auto &row : rows)
+        text += QStringLiteral("  %1  %2\n").arg(row.first.leftJustified(width), row.second);
+    return text;
+}
+
+QString spelt(const CommandOption &option)
+{
+    QStringList names;
+    for (const QString &name : option.names)
+        names.append((name.size() == 1 ? QStringLiteral("-") : QStringLiteral("--")) + name);
+    const QString text = names.join(QStringLiteral(", "));
+    return option.value ? text + QLatin1Char(' ') + QLatin1String(option.value) : text;
+}
+
+QString overview()
+{
+    QVector<QPair<QString, QString>> rows;
+    for (const Command &command : commands())
+        rows.append({ QLatin1String(command.name), Command::tr(command.summary) });
+    return QStringLiteral("%1\n  kelto %2\n\n%3\n%4\n%5\n")
+        .arg(Command::tr("Usage:"), Command::tr("COMMAND [OPTION...] FILE..."),
+             Command::tr("Commands:"), table(rows),
+             Command::tr("\"kelto COMMAND --help\" says what a command takes. Exit codes: "
+                         "0 done, 1 findings or not found, 2 wrong usage."));
+}
+
+QString helpOf(const Command &command)
+{
+    QVector<QPair<QString, QString>> rows;
+    for (const CommandOption &option : command.options + commonOptions())
+        rows.append({ spelt(option), Command::tr(option.description) });
+    QString text = QStringLiteral("%1\n  kelto %2 [OPTION...] %3\n\n%4\n\n%5\n%6")
+                       .arg(Command::tr("Usage:"), QLatin1String(command.name),
+                            QLatin1String(command.arguments), Command::tr(command.description),
+                            Command::tr("Options:"), table(rows));
+    rows.clear();
+    for (const CommandExample &example : command.examples)
+        rows.append({ QLatin1String(example.line), Command::tr(example.purpose) });
+    if (!rows.isEmpty())
+        text += QLatin1Char('\n') + Command::tr("Examples:") + QLatin1Char('\n') + table(rows);
+    return text;
+}
+
+QString tryHelp(const QString &command)
+{
+    return QLatin1Char(' ')
+        + Command::tr("Try \"kelto %1\".")
+              .arg(command.isEmpty() ? QStringLiteral("--help")
+                                     : QString(command + QStringLiteral(" --help")));
+}
+
+QStringList commandNames()
+{
+    QStringList names;
+    for (const Command &command : commands())
+        names.append(QLatin1String(command.name));
+    return names;
+}
+
+void addOptions(QCommandLineParser &parser, const QVector<CommandOption> &options)
+{
+    for (const CommandOption &option : options) {
+        parser.addOption(QCommandLineOption(option.names, QString(),
+                                            QLatin1String(option.value ? option.value : "")));
+    }
+}
+
+/// What is wrong with the arguments of the command; empty when nothing is.
+QString complaintAbout(const QCommandLineParser &parser, const Command &command)
+{
+    const QStringList unknown = parser.unknownOptionNames();
+    if (!unknown.isEmpty()) {
+        QStringList names;
+        for (const CommandOption &option : command.options + commonOptions())
+            names += option.names;
+        const QString name = unknown.constFirst();
+        const QString nearest = nearestName(name, names);
+        return Command::tr("there is no option \"%1\".")
+                   .arg((name.size() == 1 ? QStringLiteral("-") : QStringLiteral("--")) + name)
+            + (nearest.isEmpty() ? QString() : didYouMean(name, names));
+    }
+    if (!parser.errorText().isEmpty())
+        return parser.errorText();
+    const int count = parser.positionalArguments().size();
+    if (count < command.leastArguments)
+        return Command::tr("\"%1\" needs %2.")
+            .arg(QLatin1String(command.name), QLatin1String(command.arguments));
+    if (command.mostArguments >= 0 && count > command.mostArguments)
+        return Command::tr("\"%1\" takes no \"%2\".")
+            .arg(QLatin1String(command.name),
+                 parser.positionalArguments().at(command.mostArguments));
+    return {};
+}
+
+ExitCode runCommand(const Command &command, const QStringList &arguments, Console &console)
+{
+    QCommandLineParser parser;
+    addOptions(parser, command.options);
+    addOptions(parser, commonOptions());
+    parser.parse(arguments);
+    if (parser.isSet(QStringLiteral("help"))) {
+        console.print(helpOf(command));
+        return Done;
+    }
+    if (parser.isSet(QStringLiteral("version"))) {
+        console.print(QStringLiteral("kelto " KELTO_VERSION_TEXT "\n"));
+        return Done;
+    }
+    const QString complaint = complaintAbout(parser, command);
+    if (!complaint.isEmpty()) {
+        console.complain(complaint + tryHelp(QLatin1String(command.name)));
+        return WrongUsage;
+    }
+    return command.run(parser, console);
+}
+
+ExitCode withoutCommand(const QString &first, Console &console)
+{
+    if (QStringList { QStringLiteral("--help"), QStringLiteral("-h"), QStringLiteral("help") }
+            .contains(first)) {
+        console.print(overview());
+        return Done;
+    }
+    if (first == QLatin1String("--version") || first == QLatin1String("-v")) {
+        console.print(QStringLiteral("kelto " KELTO_VERSION_TEXT "\n"));
+        return Done;
+    }
+    const QString complaint = first.isEmpty()
+        ? Command::tr("a command is missing.")
+        : Command::tr("there is no command \"%1\".").arg(first) + didYouMean(first, commandNames());
+    console.complain(complaint + tryHelp(QString()));
+    return WrongUsage;
+}
+
+} // namespace
+
+ExitCode runCommandLine(const QStringList &arguments, Console &console)
+{
+    QStringList rest = arguments;
+    if (rest.value(0) == QLatin1String("help") && rest.size() > 1)
+        rest = QStringList { rest.at(1), QStringLiteral("--help") };
+    const QString name = rest.value(0);
+    const auto command
+        = std::find_if(commands().cbegin(), commands().cend(),
+                       [&name](const Command &each) { return QLatin1String(each.name) == name; });
+    // The parser leaves out the first argument, which is the name of a program.
+    return command == commands().cend() ? withoutCommand(name, console)
+                                        : runCommand(*command, rest, console);
+}

@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: The Kelto developers
+// SPDX-License-Identifier: MIT
+
+#include "commands.h"
+
+#include <QCoreApplication>
+
+const QVector<Command> &commands()
+{
+    static const QVector<Command> all {
+        styleCommand(),
+    };
+    return all;
+}
+
+const QVector<CommandOption> &commonOptions()
+{
+    static const QVector<CommandOption> options {
+        { { QStringLiteral("json") },
+          nullptr,
+          QT_TRANSLATE_NOOP("Command", "Write the result as JSON.") },
+        { { QStringLiteral("h"), QStringLiteral("help") },
+          nullptr,
+          QT_TRANSLATE_NOOP("Command", "Show this help.") },
+        { { QStringLiteral("v"), QStringLiteral("version") },
+          nullptr,
+          QT_TRANSLATE_NOOP("Command", "Show the version.") },
+    };
+    return options;
+}

@@ -1,0 +1,18 @@
+// SPDX-FileCopyrightText: The Kelto developers
+// SPDX-License-Identifier: MIT
+
+#ifndef COMMANDS_H
+#define COMMANDS_H
+
+#include "command.h"
+
+/// All commands, in the order of the help.
+const QVector<Command> &commands();
+
+/// The options that every command has.
+const QVector<CommandOption> &commonOptions();
+
+// Each stands in a file of its own.
+Command styleCommand();
+
+#endif

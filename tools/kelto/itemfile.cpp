@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: The Kelto developers
+// SPDX-License-Identifier: MIT
+
+#include "itemfile.h"
+
+#include "command.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+namespace {
+
+std::string_view trimmed(std::string_view text)
+{
+    while (!text.empty() && isBlank(text.front()))
+        text.remove_prefix(1);
+    while (!text.empty() && isBlank(text.back()))
+        text.remove_suffix(1);
+    return text;
+}
+
+} // namespace
+
+ItemFile::ItemFile(const QString &path)
+    : m_path(path)
+{
+    QFile file(path);
+    // Opening a pipe would wait for somebody who writes.
+    if (!QFileInfo(path).isFile()) {
+        m_error = Command::tr("%1: no such file.").arg(path);
+    } else if (!file.open(QIODevice::ReadOnly)) {
+        m_error = Command::tr("%1: cannot be read: %2.").arg(path, file.errorString());
+    } else {
+        m_bytes = file.readAll();
+        readKeys();
+        m_item.load_ini(path);
+    }
+}
+
+void ItemFile::readKeys()
+{
+    IniReader reader(m_bytes);
+    QString section;
+    while (reader.next()) {
+        const IniLine &line = reader.line();
+        if (line.kind == IniLine::Section) {
+            // Of a key without a name only the section is left, and the "/" behind it.
+            section = SettingsKey { line.key, {} }.text();
+            section.chop(1);
+            m_sections.append({ section, reader.positionAt(line.text.data()) });
+        } else if (line.kind == IniLine::Entry) {
+            const SettingsKey key = reader.key();
+            const std::string_view value = trimmed(line.value);
+            const IniPosition position = reader.positionAt(line.text.data());
+            m_keys.append({ key.section.data() ? section : QString(),
+                            SettingsKey { {}, key.name }.text(), elementsOfValue(line.value),
+                            line.key, value, position, reader.positionAt(value.data()) });
+            const ItemFileKey &added = m_keys.constLast();
+            m_positions.insert(added.section + QLatin1Char('/') + added.name, m_keys.size() - 1);
+        }
+    }
+}
+
+const ItemFileKey *ItemFile::find(const QString &section, const QString &name) const
+{
+    const auto position = m_positions.constFind(section + QLatin1Char('/') + name);
+    return position == m_positions.cend() ? nullptr : &m_keys.at(*position);
+}

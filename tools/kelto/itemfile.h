@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: The Kelto developers
+// SPDX-License-Identifier: MIT
+
+#ifndef ITEMFILE_H
+#define ITEMFILE_H
+
+#include "core/inireader_p.h"
+
+#include <AUTH_INF>
+
+#include <QHash>
+#include <QVector>
+
+/// One key of an item file with its value, and where both stand. The spelt texts are parts of the
+/// bytes of the file.
+struct ItemFileKey
+{
+    QString section; ///< As the library reads it; empty for keys before the first header.
+    QString name; ///< The rest behind the section.
+    QStringList value; ///< The elements of a list; one for a plain text.
+    std::string_view spelt;
+    std::string_view speltValue; ///< Without white space around it.
+    IniPosition position;
+    IniPosition valuePosition;
+};
+
+struct ItemFileSection
+{
+    QString name;
+    IniPosition position;
+};
+
+/// A module item file: its bytes, what stands where in them, and the item that the library makes of
+/// it. Values; the file itself is never written and never created.
+class ItemFile
+{
+public:
+    /// Reads the file at @p path. With a non-empty error() there is nothing else.
+    explicit ItemFile(const QString &path);
+
+    const QString &path() const { return m_path; }
+    /// Why the file cannot be read, as a sentence; empty when it could.
+    const QString &error() const { return m_error; }
+    const QByteArray &bytes() const { return m_bytes; }
+    const AUTH_INF &item() const { return m_item; }
+
+    /// In the order of the file, duplicates included.
+    const QVector<ItemFileKey> &keys() const { return m_keys; }
+    const QVector<ItemFileSection> &sections() const { return m_sections; }
+
+    /// The last key of this name, which is the one that counts; null when there is none.
+    const ItemFileKey *find(const QString &section, const QString &name) const;
+
+private:
+    void readKeys();
+
+    QString m_path;
+    QString m_error;
+    QByteArray m_bytes;
+    AUTH_INF m_item;
+    QVector<ItemFileKey> m_keys;
+    QVector<ItemFileSection> m_sections;
+    QHash<QString, int> m_positions;
+};
+
+#endif

@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: The Kelto developers
+// SPDX-License-Identifier: MIT
+
+#include "itempaths.h"
+
+#include "command.h"
+#include "console.h"
+
+#include <QDirIterator>
+#include <QFileInfo>
+
+namespace {
+
+QStringList itemFilesBelow(const QString &directory)
+{
+    QStringList files;
+    QDirIterator iterator(directory, { QStringLiteral("*.ini") }, QDir::Files,
+                          QDirIterator::Subdirectories);
+    while (iterator.hasNext())
+        files.append(iterator.next());
+    files.sort();
+    return files;
+}
+
+} // namespace
+
+QStringList itemFilesAt(const QStringList &paths, Console &console, bool *areAllFound)
+{
+    QStringList files;
+    *areAllFound = true;
+    for (const QString &path : paths) {
+        const QFileInfo info(path);
+        const QStringList found
+            = info.isDir() ? itemFilesBelow(path) : QStringList(path).mid(info.exists() ? 0 : 1);
+        if (found.isEmpty()) {
+            *areAllFound = false;
+            console.complain(info.isDir()
+                                 ? Command::tr("%1: no file below it ends in \".ini\".").arg(path)
+                                 : Command::tr("%1: no such file.").arg(path));
+        }
+        files += found;
+    }
+    files.removeDuplicates();
+    return files;
+}

@@ -1,0 +1,16 @@
+// SPDX-FileCopyrightText: The Kelto developers
+// SPDX-License-Identifier: MIT
+
+#ifndef ITEMPATHS_H
+#define ITEMPATHS_H
+
+#include <QStringList>
+
+class Console;
+
+/// The module item files at @p paths: a file is itself, a directory all "*.ini" files below it,
+/// sorted, without hidden ones. Each stands once. Complains about paths that do not exist and
+/// directories without a file, and tells in @p areAllFound whether there were none.
+QStringList itemFilesAt(const QStringList &paths, Console &console, bool *areAllFound);
+
+#endif

@@ -1,0 +1,12 @@
+// SPDX-FileCopyrightText: The Kelto developers
+// SPDX-License-Identifier: MIT
+
+#include "lint/rules.h"
+
+const QVector<RuleArea> &ruleAreas()
+{
+    static const QVector<RuleArea> areas {
+        damageRules(),
+    };
+    return areas;
+}

@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: The Kelto developers
+// SPDX-License-Identifier: MIT
+
+#include "nearestname.h"
+
+#include "command.h"
+#include "core/similarnames_p.h"
+
+QString nearestName(const QString &name, const QStringList &names)
+{
+    SimilarNames similar;
+    for (const QString &candidate : names)
+        similar.append(comparableName(candidate));
+    const QString wanted = comparableName(name);
+    const QVector<int> nearest = similar.nearest(wanted, tolerableEdits(wanted.size()));
+    return nearest.isEmpty() ? QString() : names.at(nearest.constFirst());
+}
+
+QString didYouMean(const QString &name, const QStringList &names)
+{
+    const QString nearest = nearestName(name, names);
+    if (nearest.isEmpty())
+        return {};
+    return QLatin1Char(' ') + Command::tr("Did you mean \"%1\"?").arg(nearest);
+}

@@ -1,0 +1,16 @@
+// SPDX-FileCopyrightText: The Kelto developers
+// SPDX-License-Identifier: MIT
+
+#ifndef NEARESTNAME_H
+#define NEARESTNAME_H
+
+#include <QStringList>
+
+/// The one of @p names that a mistyped @p name most likely stands for; empty when none is similar.
+QString nearestName(const QString &name, const QStringList &names);
+
+/// " Did you mean "..."?" for the nearest of @p names, to be put behind a sentence; empty when none
+/// is similar.
+QString didYouMean(const QString &name, const QStringList &names);
+
+#endif
