@@ -1,0 +1,120 @@
+// SPDX-FileCopyrightText: The Kelto developers
+// SPDX-License-Identifier: MIT
+
+#include "itemtable.h"
+
+#include <QHash>
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+QString firstText(const QString &text, const QString &otherwise)
+{
+    return text.isEmpty() ? otherwise : text;
+}
+
+QVector<ItemTableMode> modesOf(const AUTH_INF &item)
+{
+    QVector<ItemTableMode> modes;
+    // The count is a stranger's number; without a name there is nothing to show.
+    const int count = qMin(item.inner_mode_count, item.inner_mode_nameList.size());
+    for (int mode = 0; mode < count; ++mode) {
+        const QString &name = item.inner_mode_nameList.at(mode);
+        modes.append({ name, firstText(item.inner_mode_nameList_tr.value(mode), name),
+                       item.inner_mode_description.value(mode), KeltoItemHints(item, name) });
+    }
+    return modes;
+}
+
+/// The rows that the lists of the modes make together, each key once.
+QVector<ItemTableRow> rowsOf(const QVector<QVector<VParameter>> &lists,
+                             const QVector<ItemTableMode> &modes)
+{
+    QVector<ItemTableRow> rows;
+    QHash<QString, int> positions;
+    for (int mode = 0; mode < lists.size(); ++mode) {
+        for (const VParameter &parameter : lists.at(mode)) {
+            const QString key = parameter.name().first;
+            const auto known = positions.constFind(key);
+            const int row = known == positions.cend() ? rows.size() : *known;
+            if (row == rows.size()) {
+                positions.insert(key, row);
+                const QString label
+                    = mode < modes.size() ? modes.at(mode).hints.label(key) : QString();
+                rows.append({ parameter, firstText(label, firstText(parameter.name().second, key)),
+                              QVector<bool>(modes.size()) });
+            }
+            if (mode < modes.size())
+                rows[row].modes[mode] = true;
+        }
+    }
+    return rows;
+}
+
+/// The hint for all modes decides, then the orders of single modes; the rest is sorted.
+QVector<ItemTableRow> ordered(QVector<ItemTableRow> rows, const KeltoItemHints &general,
+                              const QVector<ItemTableMode> &modes)
+{
+    QStringList keys = general.order();
+    for (const ItemTableMode &mode : modes)
+        keys += mode.hints.order();
+    QHash<QString, int> ranks;
+    for (const QString &key : qAsConst(keys)) {
+        if (!ranks.contains(key))
+            ranks.insert(key, ranks.size());
+    }
+    const auto rankOf = [&ranks](const ItemTableRow &row) {
+        const QString key = row.parameter.name().first;
+        return std::make_pair(ranks.value(key, ranks.size()), key);
+    };
+    std::sort(rows.begin(), rows.end(),
+              [&rankOf](const ItemTableRow &left, const ItemTableRow &right) {
+                  return rankOf(left) < rankOf(right);
+              });
+    return rows;
+}
+
+/// Sub-groups in the order of their first rows.
+QVector<ItemTableRow> grouped(QVector<ItemTableRow> rows)
+{
+    QHash<QString, int> places;
+    for (const ItemTableRow &row : qAsConst(rows)) {
+        const QString group = row.parameter.group().first;
+        if (!places.contains(group))
+            places.insert(group, places.size());
+    }
+    const auto placeOf
+        = [&places](const ItemTableRow &row) { return places.value(row.parameter.group().first); };
+    std::stable_sort(rows.begin(), rows.end(),
+                     [&placeOf](const ItemTableRow &left, const ItemTableRow &right) {
+                         return placeOf(left) < placeOf(right);
+                     });
+    return rows;
+}
+
+} // namespace
+
+ItemTable itemTable(const AUTH_INF &item)
+{
+    ItemTable table;
+    table.modes = modesOf(item);
+    QVector<QVector<VParameter>> parameters;
+    QVector<QVector<VParameter>> results;
+    for (const ItemTableMode &mode : qAsConst(table.modes)) {
+        parameters.append(mode.hints.parameters());
+        results.append(mode.hints.results());
+    }
+    // After the modes, so that results that no mode gives are not lost.
+    const KeltoItemHints general(item);
+    results.append(general.results());
+    table.parameters = grouped(ordered(rowsOf(parameters, table.modes), general, table.modes));
+    table.results = grouped(ordered(rowsOf(results, table.modes), general, table.modes));
+    return table;
+}
+
+QString groupTitle(const VParameter &parameter)
+{
+    return firstText(parameter.group().second, parameter.group().first);
+}
