@@ -24,6 +24,7 @@ test_packages=(
     clazy libclang-rt-14-dev # Clang with the checks of Qt code, and its sanitizers
     libbenchmark-dev clang-format-14 shellcheck codespell
     python3       # plants faults
+    doxygen qhelpgenerator-qt5 qtbase5-doc-dev # the reference, linked to the pages of Qt
     poppler-utils # reads the report of the example host
 )
 fuzz_packages=(clang-14 libclang-rt-14-dev llvm-14)
