@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: The Kelto developers
+// SPDX-License-Identifier: MIT
+
+#include "sourcewords.h"
+
+#include <QSet>
+#include <QStringList>
+
+namespace {
+
+// Keywords up to C++20, and other spellings of operators.
+const char *const keywords
+    = "alignas alignof and and_eq asm auto bitand bitor bool break case catch char char8_t "
+      "char16_t char32_t class co_await co_return co_yield compl concept const const_cast "
+      "consteval constexpr constinit continue decltype default delete do double dynamic_cast else "
+      "enum explicit export extern false float for friend goto if inline int long mutable "
+      "namespace new noexcept not not_eq nullptr operator or or_eq private protected public "
+      "register reinterpret_cast requires return short signed sizeof static static_assert "
+      "static_cast struct switch template this thread_local throw true try typedef typeid "
+      "typename union unsigned using virtual void volatile wchar_t while xor xor_eq";
+
+// Macros of Qt and of compilers that look like other names.
+const char *const macros = "emit foreach forever signals slots linux unix i386 NULL EOF assert "
+                           "errno stderr stdin stdout";
+
+// What the source text of an item is made of.
+const char *const ownWords = "KeltoItem QString QStringList QVector VDataItem";
+
+QSet<QString> allWords()
+{
+    QSet<QString> all;
+    for (const char *words : { keywords, macros, ownWords }) {
+        const QStringList list = QString::fromLatin1(words).split(QLatin1Char(' '));
+        all.unite(QSet<QString>(list.cbegin(), list.cend()));
+    }
+    return all;
+}
+
+} // namespace
+
+bool isReservedWord(const QString &identifier)
+{
+    static const QSet<QString> words = allWords();
+    return words.contains(identifier) || identifier.contains(QLatin1String("__"))
+        || (identifier.size() > 1 && identifier.at(0) == QLatin1Char('_')
+            && identifier.at(1).isUpper());
+}
