@@ -26,6 +26,9 @@ function(kelto_add_library target)
         OUTPUT_NAME ${arg_OUTPUT_NAME}
         VERSION ${PROJECT_VERSION}
         SOVERSION ${PROJECT_VERSION_MAJOR})
+    if(KELTO_DEBUG_INFO)
+        target_compile_options(${target} PRIVATE -g)
+    endif()
     if(NOT KELTO_SANITIZERS AND CMAKE_SYSTEM_NAME STREQUAL "Linux")
         # The sanitizers leave symbols to the program that loads the library.
         target_link_options(${target} PRIVATE LINKER:--no-undefined)

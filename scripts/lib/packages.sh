@@ -27,6 +27,8 @@ test_packages=(
     doxygen qhelpgenerator-qt5 qtbase5-doc-dev # the reference, linked to the pages of Qt
     poppler-utils # reads the report of the example host
 )
+abi_packages=(abigail-tools) # compares binary interfaces
+package_packages=(debhelper dpkg-dev fakeroot lintian mmdebstrap appstream desktop-file-utils)
 fuzz_packages=(clang-14 libclang-rt-14-dev llvm-14)
 
 say() {
