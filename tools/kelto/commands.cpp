@@ -8,6 +8,7 @@
 const QVector<Command> &commands()
 {
     static const QVector<Command> all {
+        codeCommand(),
         showCommand(),
         styleCommand(),
     };

@@ -13,6 +13,7 @@ const QVector<Command> &commands();
 const QVector<CommandOption> &commonOptions();
 
 // Each stands in a file of its own.
+Command codeCommand();
 Command showCommand();
 Command styleCommand();
 

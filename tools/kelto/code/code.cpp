@@ -1,0 +1,284 @@
+// SPDX-FileCopyrightText: The Kelto developers
+// SPDX-License-Identifier: MIT
+
+#include "code/itemsource.h"
+#include "commands.h"
+#include "console.h"
+#include "itemfile.h"
+#include "itempaths.h"
+#include "outputfile.h"
+#include "sourcetext.h"
+#include "terminaltext.h"
+
+#include <QCommandLineParser>
+#include <QFileInfo>
+#include <QHash>
+#include <QJsonArray>
+#include <QJsonObject>
+
+namespace {
+
+/// What keeps a file from becoming source text.
+struct CodeProblem
+{
+    QString path;
+    IniPosition position;
+    QString key; ///< With its section, or "file".
+    QString text;
+    QString reason; ///< The end of a sentence.
+};
+
+/// Where the value of a key stands. Keys with "/" have lost what is before it.
+IniPosition placeOf(const ItemFile &file, const QString &section, const QString &name)
+{
+    if (const ItemFileKey *key = file.find(section, name))
+        return key->valuePosition;
+    const QString end = QLatin1Char('/') + name;
+    for (const ItemFileKey &key : file.keys()) {
+        if (key.section == section && key.name.endsWith(end))
+            return key.position;
+    }
+    return {};
+}
+
+/// What the generated source itself defines.
+bool isOwnName(const QString &function)
+{
+    return function == QLatin1String("allItems") || function == QLatin1String("loaded")
+        || function == QLatin1String("translatedTexts");
+}
+
+class CodeCommand
+{
+public:
+    CodeCommand(const QCommandLineParser &line, Console &console)
+        : m_directory(line.value(QStringLiteral("o")))
+        , m_context(line.value(QStringLiteral("context")))
+        , m_isEmbedding(line.isSet(QStringLiteral("embed")))
+        , m_isJson(line.isSet(QStringLiteral("json")))
+        , m_console(console)
+    {
+        m_items.name = line.isSet(QStringLiteral("name")) ? line.value(QStringLiteral("name"))
+                                                          : QStringLiteral("keltoitems");
+    }
+
+    QString wrongUsage() const;
+    ExitCode run(const QStringList &paths);
+
+private:
+    void read(const QString &path);
+    void checkTexts(const ItemFile &file, const AUTH_INF &item);
+    void checkFunction(const ItemFile &file, const AUTH_INF &item);
+    void checkFileName(const QString &path);
+    void add(const ItemFile &file, const QString &section, const QString &key, const QString &text,
+             const QString &reason);
+    bool write();
+    bool writeFile(const QString &ending, const QByteArray &bytes);
+    void report() const;
+
+    SourceItems m_items;
+    QString m_directory;
+    QString m_context;
+    bool m_isEmbedding;
+    bool m_isJson;
+    Console &m_console;
+    bool m_hasFailed = false;
+    QVector<CodeProblem> m_problems;
+    QStringList m_written;
+    QHash<QString, QString> m_functions; ///< The file of each.
+    QHash<QString, QString> m_fileNames;
+};
+
+QString CodeCommand::wrongUsage() const
+{
+    if (m_directory.isEmpty())
+        return Command::tr("\"code\" needs a directory to write into, with \"-o DIR\".");
+    if (!isFreeIdentifier(m_items.name))
+        return Command::tr("\"%1\" cannot be a name in C++.").arg(printable(m_items.name));
+    if (!m_context.isEmpty() && !isFreeContext(m_context))
+        return Command::tr("\"%1\" cannot be the name of a class in C++.")
+            .arg(printable(m_context));
+    return {};
+}
+
+void CodeCommand::add(const ItemFile &file, const QString &section, const QString &key,
+                      const QString &text, const QString &reason)
+{
+    m_problems.append({ file.path(), placeOf(file, section, key), section + QLatin1Char('/') + key,
+                        text, reason });
+}
+
+void CodeCommand::checkTexts(const ItemFile &file, const AUTH_INF &item)
+{
+    const QVector<SourceTextProblem> problems = sourceTextProblems(item);
+    for (const SourceTextProblem &problem : problems) {
+        const bool isName = problem.reason == SourceTextProblem::NoIdentifier
+            || problem.reason == SourceTextProblem::ReservedName;
+        // A file that is embedded holds any text.
+        if (isName || !m_isEmbedding)
+            add(file, problem.section, problem.key, problem.text, reasonText(problem.reason));
+    }
+}
+
+void CodeCommand::checkFunction(const ItemFile &file, const AUTH_INF &item)
+{
+    const QString key = QStringLiteral("codeFunctionName");
+    const QString function = item.codeFunctionName;
+    if (function.isEmpty())
+        return;
+    if (m_functions.contains(function))
+        add(file, QStringLiteral("KeltoItem"), key, function,
+            Command::tr("is the function of %1 already").arg(m_functions.value(function)));
+    m_functions.insert(function, file.path());
+    if (isOwnName(function))
+        add(file, QStringLiteral("KeltoItem"), key, function,
+            reasonText(SourceTextProblem::ReservedName));
+}
+
+/// In the resources all files lie in one directory.
+void CodeCommand::checkFileName(const QString &path)
+{
+    const QString name = QFileInfo(path).fileName();
+    if (m_isEmbedding && m_fileNames.contains(name)) {
+        m_problems.append({ path,
+                            {},
+                            QStringLiteral("file"),
+                            name,
+                            Command::tr("is the name of %1 in the resources already")
+                                .arg(m_fileNames.value(name)) });
+    }
+    m_fileNames.insert(name, path);
+}
+
+void CodeCommand::read(const QString &path)
+{
+    const ItemFile file(path);
+    if (!file.error().isEmpty()) {
+        m_console.complain(file.error());
+        m_hasFailed = true;
+        return;
+    }
+    AUTH_INF item = file.item();
+    checkTexts(file, item);
+    if (item.name.isEmpty())
+        add(file, QStringLiteral("KeltoItem"), QStringLiteral("name"), item.name,
+            Command::tr("is empty or missing: this is no item"));
+    checkFunction(file, item);
+    checkFileName(path);
+    if (item.trObjectName.isEmpty())
+        item.trObjectName = m_context;
+    m_items.items.append({ item, path });
+}
+
+bool CodeCommand::writeFile(const QString &ending, const QByteArray &bytes)
+{
+    const QString path = m_directory + QLatin1Char('/') + m_items.name + ending;
+    const QString complaint = writeOutputFile(path, bytes);
+    if (!complaint.isEmpty()) {
+        m_console.complain(complaint);
+        return false;
+    }
+    m_written.append(path);
+    return true;
+}
+
+bool CodeCommand::write()
+{
+    const QByteArray source = m_isEmbedding ? embeddingSourceText(m_items) : sourceText(m_items);
+    return writeFile(QStringLiteral(".h"), headerText(m_items))
+        && writeFile(QStringLiteral(".cpp"), source)
+        && (!m_isEmbedding
+            || writeFile(QStringLiteral(".qrc"), resourceList(m_items, m_directory)));
+}
+
+void CodeCommand::report() const
+{
+    QJsonArray problems;
+    for (const CodeProblem &problem : m_problems) {
+        problems.append(QJsonObject { { QStringLiteral("file"), problem.path },
+                                      { QStringLiteral("line"), problem.position.line },
+                                      { QStringLiteral("column"), problem.position.column },
+                                      { QStringLiteral("key"), problem.key },
+                                      { QStringLiteral("text"), problem.text },
+                                      { QStringLiteral("reason"), problem.reason } });
+        const QString text = Command::tr("%1:%2:%3: %4 \"%5\" %6.");
+        if (!m_isJson)
+            m_console.complain(text.arg(problem.path, QString::number(problem.position.line),
+                                        QString::number(problem.position.column),
+                                        printable(problem.key), printable(problem.text),
+                                        problem.reason));
+    }
+    if (m_isJson)
+        m_console.print(QJsonObject {
+            { QStringLiteral("files"), QJsonArray::fromStringList(m_written) },
+            { QStringLiteral("problems"), problems },
+        });
+}
+
+ExitCode CodeCommand::run(const QStringList &paths)
+{
+    bool areAllFound = true;
+    const QStringList files = itemFilesAt(paths, m_console, &areAllFound);
+    for (const QString &path : files)
+        read(path);
+    m_hasFailed = m_hasFailed || !areAllFound;
+    if (!m_hasFailed && m_problems.isEmpty())
+        m_hasFailed = !write();
+    report();
+    return m_hasFailed || !m_problems.isEmpty() ? Found : Done;
+}
+
+ExitCode run(const QCommandLineParser &line, Console &console)
+{
+    CodeCommand command(line, console);
+    const QString complaint = command.wrongUsage();
+    if (complaint.isEmpty())
+        return command.run(line.positionalArguments());
+    console.complain(complaint);
+    return WrongUsage;
+}
+
+} // namespace
+
+Command codeCommand()
+{
+    return {
+        "code",
+        "PATH...",
+        1,
+        -1,
+        QT_TRANSLATE_NOOP("Command", "Write C++ source text that builds the items"),
+        QT_TRANSLATE_NOOP(
+            "Command",
+            "Writes NAME.h and NAME.cpp, in the order of the files: in the namespace NAME one "
+            "function for each item, called as its codeFunctionName says, and allItems(), which "
+            "also returns items without one. The texts are those of AUTH_INF::to_code(); tr() "
+            "needs "
+            "no class of the program's, and lupdate finds all texts, those of hints included.\n\n"
+            "Files are written only when they change. An item that source text cannot carry is an "
+            "error, and nothing is written: a double quote would end a literal, and what stands "
+            "behind it would become code of the program."),
+        { { { QStringLiteral("o") },
+            "DIR",
+            QT_TRANSLATE_NOOP("Command",
+                              "The directory to write into, made where it is missing.") },
+          { { QStringLiteral("name") },
+            "NAME",
+            QT_TRANSLATE_NOOP("Command",
+                              "The name of files and namespace instead of keltoitems.") },
+          { { QStringLiteral("context") },
+            "CONTEXT",
+            QT_TRANSLATE_NOOP("Command",
+                              "The translation context of items without a Tr_ObjectName.") },
+          { { QStringLiteral("embed") },
+            nullptr,
+            QT_TRANSLATE_NOOP("Command",
+                              "Load the items from resources, and write NAME.qrc to compile these, "
+                              "so that they may hold any text.") } },
+        { { "kelto code items -o generated",
+            QT_TRANSLATE_NOOP("Command", "Source text for all items of a directory.") },
+          { "kelto code beam.ini --embed --name beams -o .",
+            QT_TRANSLATE_NOOP("Command", "One item as a resource.") } },
+        run
+    };
+}
