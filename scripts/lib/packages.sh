@@ -26,6 +26,7 @@ test_packages=(
     python3       # plants faults
     doxygen qhelpgenerator-qt5 qtbase5-doc-dev # the reference, linked to the pages of Qt
     poppler-utils # reads the report of the example host
+    chromium qhelpgenerator-qt5 # read the manual that the command writes
 )
 abi_packages=(abigail-tools) # compares binary interfaces
 package_packages=(debhelper dpkg-dev fakeroot lintian mmdebstrap appstream desktop-file-utils)

@@ -10,6 +10,7 @@ const QVector<Command> &commands()
     static const QVector<Command> all {
         codeCommand(),
         showCommand(),
+        docCommand(),
         styleCommand(),
     };
     return all;

@@ -15,6 +15,7 @@ const QVector<CommandOption> &commonOptions();
 // Each stands in a file of its own.
 Command codeCommand();
 Command showCommand();
+Command docCommand();
 Command styleCommand();
 
 #endif

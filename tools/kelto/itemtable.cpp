@@ -28,37 +28,40 @@ QVector<ItemTableMode> modesOf(const AUTH_INF &item)
     return modes;
 }
 
-/// The rows that the lists of the modes make together, each key once.
-QVector<ItemTableRow> rowsOf(const QVector<QVector<VParameter>> &lists,
-                             const QVector<ItemTableMode> &modes)
+QString labelOf(const VParameter &parameter, const KeltoItemHints &hints)
+{
+    const QString key = parameter.name().first;
+    return firstText(hints.label(key), firstText(parameter.name().second, key));
+}
+
+/// The rows that the lists make together, each key once. There is one list for each mode, and for
+/// results one more for what no mode gives.
+QVector<ItemTableRow> rowsOf(const QVector<QVector<VParameter>> &lists, const ItemTable &table)
 {
     QVector<ItemTableRow> rows;
     QHash<QString, int> positions;
-    for (int mode = 0; mode < lists.size(); ++mode) {
-        for (const VParameter &parameter : lists.at(mode)) {
+    for (int list = 0; list < lists.size(); ++list) {
+        const bool isMode = list < table.modes.size();
+        const KeltoItemHints &hints = isMode ? table.modes.at(list).hints : table.hints;
+        for (const VParameter &parameter : lists.at(list)) {
             const QString key = parameter.name().first;
-            const auto known = positions.constFind(key);
-            const int row = known == positions.cend() ? rows.size() : *known;
-            if (row == rows.size()) {
-                positions.insert(key, row);
-                const QString label
-                    = mode < modes.size() ? modes.at(mode).hints.label(key) : QString();
-                rows.append({ parameter, firstText(label, firstText(parameter.name().second, key)),
-                              QVector<bool>(modes.size()) });
+            if (!positions.contains(key)) {
+                positions.insert(key, rows.size());
+                rows.append(
+                    { parameter, labelOf(parameter, hints), QVector<bool>(table.modes.size()) });
             }
-            if (mode < modes.size())
-                rows[row].modes[mode] = true;
+            if (isMode)
+                rows[positions.value(key)].modes[list] = true;
         }
     }
     return rows;
 }
 
 /// The hint for all modes decides, then the orders of single modes; the rest is sorted.
-QVector<ItemTableRow> ordered(QVector<ItemTableRow> rows, const KeltoItemHints &general,
-                              const QVector<ItemTableMode> &modes)
+QVector<ItemTableRow> ordered(QVector<ItemTableRow> rows, const ItemTable &table)
 {
-    QStringList keys = general.order();
-    for (const ItemTableMode &mode : modes)
+    QStringList keys = table.hints.order();
+    for (const ItemTableMode &mode : table.modes)
         keys += mode.hints.order();
     QHash<QString, int> ranks;
     for (const QString &key : qAsConst(keys)) {
@@ -107,10 +110,10 @@ ItemTable itemTable(const AUTH_INF &item)
         results.append(mode.hints.results());
     }
     // After the modes, so that results that no mode gives are not lost.
-    const KeltoItemHints general(item);
-    results.append(general.results());
-    table.parameters = grouped(ordered(rowsOf(parameters, table.modes), general, table.modes));
-    table.results = grouped(ordered(rowsOf(results, table.modes), general, table.modes));
+    table.hints = KeltoItemHints(item);
+    results.append(table.hints.results());
+    table.parameters = grouped(ordered(rowsOf(parameters, table), table));
+    table.results = grouped(ordered(rowsOf(results, table), table));
     return table;
 }
 

@@ -32,6 +32,7 @@ struct ItemTable
     QVector<ItemTableMode> modes;
     QVector<ItemTableRow> parameters;
     QVector<ItemTableRow> results;
+    KeltoItemHints hints; ///< For all modes: all there is where an item has no modes.
 };
 
 /// The table of @p item, in the language of the program. Modes are those that have a name in the

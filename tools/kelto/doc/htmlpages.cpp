@@ -1,0 +1,387 @@
+// SPDX-FileCopyrightText: The Kelto developers
+// SPDX-License-Identifier: MIT
+
+// The pages of the manual for a browser.
+
+#include "command.h"
+#include "doc/htmlwriter.h"
+#include "doc/manual.h"
+#include "doc/moduletable.h"
+
+#include <QFile>
+#include <QLocale>
+
+// Outside of any namespace. The linker leaves the files out of a program that does not name them.
+static void initResources()
+{
+    Q_INIT_RESOURCE(manual);
+}
+
+namespace {
+
+const QString htmlEnding = QStringLiteral(".html");
+
+/// As HTML spells it: "zh-CN" for "zh_CN".
+QString languageTag(QString language)
+{
+    return language.replace(QLatin1Char('_'), QLatin1Char('-'));
+}
+
+/// The name of a language in this language. Qt would name a country with English.
+QString languageName(const QString &language)
+{
+    const QLocale locale(language);
+    if (locale.language() == QLocale::C)
+        return language;
+    return locale.language() == QLocale::English ? QStringLiteral("English")
+                                                 : locale.nativeLanguageName();
+}
+
+class Page
+{
+public:
+    Page(const ManualView &view, const QString &page)
+        : m_view(view)
+        , m_page(page)
+        , m_html(&m_bytes)
+    {
+    }
+
+    QByteArray index();
+    QByteArray module(const ManualModule &module);
+
+private:
+    void head(const QString &title);
+    void begin(const QString &title);
+    void search();
+    void languages();
+    QByteArray end();
+    void listedModule(const ManualModule &module);
+    void facts(const ManualModule &module);
+    void modes(const ManualModule &module);
+    void parameters(const ManualModule &module);
+    void results(const ManualModule &module);
+    void table(const ManualModule &module, const QVector<ItemTableRow> &rows,
+               const QStringList &ids, const QString &name);
+    void tableHead(const ManualModule &module, const QString &name);
+    void groupRow(const QString &title, int columns);
+    void row(const ItemTable &table, const ItemTableRow &row, const QString &id);
+    void lines(const QStringList &lines);
+    void modeCell(const QStringList &lines);
+
+    const ManualView &m_view;
+    QString m_page;
+    QByteArray m_bytes;
+    HtmlWriter m_html;
+};
+
+QByteArray Page::index()
+{
+    begin(m_view.title());
+    m_html.element("h1", m_view.title());
+    for (const ManualGroup &group : m_view.groups()) {
+        m_html.open("section");
+        m_html.element("h2", group.title);
+        m_html.open("ul", { { "class", QStringLiteral("modules") } });
+        for (const int module : group.modules)
+            listedModule(m_view.modules().at(module));
+        m_html.close(2);
+    }
+    return end();
+}
+
+QByteArray Page::module(const ManualModule &module)
+{
+    begin(module.title);
+    m_html.element("h1", module.title);
+    if (!module.item.description.isEmpty())
+        m_html.element("p", module.item.description, { { "class", QStringLiteral("text") } });
+    facts(module);
+    modes(module);
+    parameters(module);
+    results(module);
+    return end();
+}
+
+void Page::head(const QString &title)
+{
+    m_html.open("head");
+    m_html.voidElement("meta", { { "charset", QStringLiteral("utf-8") } });
+    m_html.voidElement("meta",
+                       { { "name", QStringLiteral("viewport") },
+                         { "content", QStringLiteral("width=device-width, initial-scale=1") } });
+    m_html.element("title",
+                   m_page == indexPage() ? title
+                                         : QString(title + QStringLiteral(" – ") + m_view.title()));
+    m_html.voidElement("link",
+                       { { "rel", QStringLiteral("stylesheet") },
+                         { "href", QStringLiteral("manual.css") } });
+    const QString index = m_view.file(QStringLiteral("searchindex"), QStringLiteral(".js"));
+    for (const QString &script : { index, QStringLiteral("search.js") })
+        m_html.element("script", {}, { { "src", script }, { "defer", QStringLiteral("defer") } });
+    m_html.close();
+}
+
+void Page::begin(const QString &title)
+{
+    m_html.open("html", { { "lang", languageTag(m_view.language()) } });
+    head(title);
+    m_html.open("body");
+    m_html.link(QStringLiteral("#content"), Command::tr("Skip to the content"),
+                { { "class", QStringLiteral("skip") } });
+    m_html.open("header");
+    m_html.link(m_view.file(indexPage(), htmlEnding), m_view.title(),
+                { { "class", QStringLiteral("home") } });
+    search();
+    languages();
+    m_html.close();
+    m_html.open("main", { { "id", QStringLiteral("content") } });
+}
+
+/// Shown by the script, without which it would do nothing.
+void Page::search()
+{
+    m_html.open("div",
+                { { "role", QStringLiteral("search") }, { "hidden", QStringLiteral("hidden") } });
+    m_html.voidElement("input",
+                       { { "id", QStringLiteral("search") },
+                         { "type", QStringLiteral("search") },
+                         { "autocomplete", QStringLiteral("off") },
+                         { "placeholder", Command::tr("Search") },
+                         { "aria-label", Command::tr("Search the manual") } });
+    m_html.element("p", {}, { { "role", QStringLiteral("status") } });
+    m_html.element("ul", {});
+    m_html.close();
+}
+
+void Page::languages()
+{
+    const QStringList &all = m_view.manual().languages;
+    if (all.size() < 2)
+        return;
+    m_html.open("nav", { { "aria-label", Command::tr("Languages") } });
+    for (const QString &language : all) {
+        HtmlWriter::Attributes attributes { { "lang", languageTag(language) },
+                                            { "hreflang", languageTag(language) } };
+        if (language == m_view.language())
+            attributes.append({ "aria-current", QStringLiteral("true") });
+        m_html.link(m_view.file(m_page, htmlEnding, language), languageName(language), attributes);
+    }
+    m_html.close();
+}
+
+QByteArray Page::end()
+{
+    m_html.end();
+    return m_bytes.trimmed() + '\n';
+}
+
+void Page::listedModule(const ManualModule &module)
+{
+    const QString file = m_view.file(module.page, htmlEnding);
+    m_html.open("li");
+    m_html.open("h3");
+    m_html.link(file, module.title);
+    m_html.close();
+    if (!module.item.description.isEmpty())
+        m_html.element("p", module.item.description, { { "class", QStringLiteral("text") } });
+    if (!module.modeIds.isEmpty()) {
+        m_html.open("ul", { { "class", QStringLiteral("inline") } });
+        for (int mode = 0; mode < module.modeIds.size(); ++mode) {
+            m_html.open("li");
+            m_html.link(file + QLatin1Char('#') + module.modeIds.at(mode),
+                        module.table.modes.at(mode).title);
+            m_html.close();
+        }
+        m_html.close();
+    }
+    m_html.close();
+}
+
+void Page::facts(const ManualModule &module)
+{
+    const AUTH_INF &item = module.item;
+    const QVector<QPair<QString, QString>> facts {
+        { Command::tr("Group"), item.group_tr.isEmpty() ? item.group : item.group_tr },
+        { Command::tr("Type"), item.type_tr.isEmpty() ? item.type : item.type_tr },
+        { Command::tr("Libraries"), item.lib_name.join(QStringLiteral(", ")) },
+    };
+    m_html.open("dl");
+    for (const auto &fact : facts) {
+        if (fact.second.isEmpty())
+            continue;
+        m_html.open("div");
+        m_html.element("dt", fact.first);
+        m_html.element("dd", fact.second);
+        m_html.close();
+    }
+    m_html.close();
+}
+
+void Page::modes(const ManualModule &module)
+{
+    m_html.open("section");
+    m_html.element("h2", Command::tr("Modes"));
+    if (module.table.modes.isEmpty())
+        m_html.element("p", Command::tr("This module has no modes."));
+    for (int mode = 0; mode < module.table.modes.size(); ++mode) {
+        const ItemTableMode &shown = module.table.modes.at(mode);
+        m_html.element("h3", shown.title, { { "id", module.modeIds.at(mode) } });
+        if (!shown.description.isEmpty())
+            m_html.element("p", shown.description, { { "class", QStringLiteral("text") } });
+    }
+    m_html.close();
+}
+
+void Page::parameters(const ManualModule &module)
+{
+    m_html.open("section");
+    m_html.element("h2", Command::tr("Parameters"));
+    if (module.table.parameters.isEmpty()) {
+        m_html.element("p", Command::tr("This module takes no parameters."));
+    } else {
+        m_html.element("p",
+                       Command::tr("Below each mode stands the value that a parameter starts with; "
+                                   "%1 if there is none, %2 if the mode does not take it.")
+                           .arg(usedMark(), unusedMark()));
+        table(module, module.table.parameters, module.parameterIds, Command::tr("Parameter"));
+    }
+    m_html.close();
+}
+
+void Page::results(const ManualModule &module)
+{
+    m_html.open("section");
+    m_html.element("h2", Command::tr("Results"));
+    if (module.table.results.isEmpty()) {
+        m_html.element("p", Command::tr("This module gives no results."));
+    } else {
+        if (!module.table.modes.isEmpty()) {
+            m_html.element("p",
+                           Command::tr("%1 marks the modes that give a result.").arg(usedMark()));
+        }
+        table(module, module.table.results, module.resultIds, Command::tr("Result"));
+    }
+    m_html.close();
+}
+
+/// Wide tables scroll in a box of their own, which the keyboard can reach.
+void Page::table(const ManualModule &module, const QVector<ItemTableRow> &rows,
+                 const QStringList &ids, const QString &name)
+{
+    m_html.open("div",
+                { { "class", QStringLiteral("scroll") },
+                  { "tabindex", QStringLiteral("0") },
+                  { "role", QStringLiteral("region") },
+                  { "aria-label", name } });
+    m_html.open("table");
+    tableHead(module, name);
+    m_html.open("tbody");
+    for (int row = 0; row < rows.size(); ++row) {
+        const QString heading = headingAbove(rows, row);
+        if (row > 0 && !heading.isEmpty()) {
+            m_html.close();
+            m_html.open("tbody");
+        }
+        groupRow(heading, 4 + module.table.modes.size());
+        this->row(module.table, rows.at(row), ids.at(row));
+    }
+    m_html.close(3);
+}
+
+void Page::tableHead(const ManualModule &module, const QString &name)
+{
+    const HtmlWriter::Attributes scope { { "scope", QStringLiteral("col") } };
+    m_html.open("thead");
+    m_html.open("tr");
+    const QStringList columns { name, Command::tr("Symbol"), Command::tr("Unit"),
+                                Command::tr("Values") };
+    for (const QString &column : columns)
+        m_html.element("th", column, scope);
+    for (int mode = 0; mode < module.table.modes.size(); ++mode) {
+        m_html.open("th", scope);
+        m_html.link(QLatin1Char('#') + module.modeIds.at(mode), module.table.modes.at(mode).title);
+        m_html.close();
+    }
+    m_html.close(2);
+}
+
+void Page::groupRow(const QString &title, int columns)
+{
+    if (title.isEmpty())
+        return;
+    m_html.open("tr", { { "class", QStringLiteral("group") } });
+    m_html.open("th",
+                { { "scope", QStringLiteral("rowgroup") },
+                  { "colspan", QString::number(columns) } });
+    // In a narrow window the cell is wider than the screen, and the name has to stay in view.
+    m_html.element("span", title);
+    m_html.close(2);
+}
+
+void Page::row(const ItemTable &table, const ItemTableRow &row, const QString &id)
+{
+    const PrintedRow printed = printedRow(table, row);
+    m_html.open("tr", { { "id", id } });
+    m_html.open("th", { { "scope", QStringLiteral("row") } });
+    m_html.element("span", row.label);
+    if (!printed.help.isEmpty())
+        m_html.element("p", printed.help, { { "class", QStringLiteral("text") } });
+    m_html.close();
+    m_html.element("td", row.parameter.symbol());
+    m_html.element("td", row.parameter.unit().first);
+    m_html.open("td");
+    lines(printed.facts);
+    m_html.close();
+    for (const QStringList &mode : printed.modes)
+        modeCell(mode);
+    m_html.close();
+}
+
+void Page::modeCell(const QStringList &lines)
+{
+    m_html.open("td");
+    m_html.element("span", lines.constFirst());
+    this->lines(lines.mid(1));
+    m_html.close();
+}
+
+void Page::lines(const QStringList &lines)
+{
+    if (lines.isEmpty()) {
+        m_html.text({});
+        return;
+    }
+    m_html.open("ul");
+    for (const QString &line : lines)
+        m_html.element("li", line);
+    m_html.close();
+}
+
+QByteArray resource(const QString &name)
+{
+    QFile file(QStringLiteral(":/kelto-command/manual/") + name);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace
+
+ManualFiles htmlFiles(const ManualView &view)
+{
+    ManualFiles files;
+    files.insert(view.file(indexPage(), htmlEnding), Page(view, indexPage()).index());
+    files.insert(view.file(QStringLiteral("searchindex"), QStringLiteral(".js")),
+                 searchIndex(view));
+    for (const ManualModule &module : view.modules())
+        files.insert(view.file(module.page, htmlEnding), Page(view, module.page).module(module));
+    return files;
+}
+
+ManualFiles htmlAssets()
+{
+    initResources();
+    ManualFiles files;
+    for (const QString &name : { QStringLiteral("manual.css"), QStringLiteral("search.js") })
+        files.insert(name, resource(name));
+    return files;
+}
