@@ -11,6 +11,7 @@ const QVector<Command> &commands()
         codeCommand(),
         showCommand(),
         docCommand(),
+        modesCommand(),
         styleCommand(),
     };
     return all;

@@ -3,8 +3,7 @@
 
 #include "commands.h"
 #include "console.h"
-#include "itemfile.h"
-#include "itempaths.h"
+#include "itemregistry.h"
 #include "itemtable.h"
 #include "itemtext.h"
 #include "nearestname.h"
@@ -193,19 +192,12 @@ private:
 ExitCode run(const QCommandLineParser &line, Console &console)
 {
     bool areAllRead = true;
-    const QStringList paths = itemFilesAt(line.positionalArguments(), console, &areAllRead);
-    Show show(line);
-    for (const QString &path : paths) {
-        const ItemFile file(path);
-        if (file.error().isEmpty()) {
-            show.add(file);
-        } else {
-            console.complain(file.error());
-            areAllRead = false;
-        }
-    }
-    if (paths.isEmpty())
+    const QVector<ItemFile> files = readItemFiles(line.positionalArguments(), console, &areAllRead);
+    if (files.isEmpty())
         return Found;
+    Show show(line);
+    for (const ItemFile &file : files)
+        show.add(file);
     return show.print(console) && areAllRead ? Done : Found;
 }
 
