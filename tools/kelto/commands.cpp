@@ -12,6 +12,7 @@ const QVector<Command> &commands()
         showCommand(),
         docCommand(),
         modesCommand(),
+        checkCommand(),
         styleCommand(),
     };
     return all;

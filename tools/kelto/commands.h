@@ -14,6 +14,7 @@ const QVector<CommandOption> &commonOptions();
 
 // Each stands in a file of its own.
 Command codeCommand();
+Command checkCommand();
 Command modesCommand();
 Command showCommand();
 Command docCommand();

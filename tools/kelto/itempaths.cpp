@@ -7,6 +7,7 @@
 #include "console.h"
 
 #include <QDirIterator>
+#include <QFile>
 #include <QFileInfo>
 
 namespace {
@@ -42,4 +43,15 @@ QStringList itemFilesAt(const QStringList &paths, Console &console, bool *areAll
     }
     files.removeDuplicates();
     return files;
+}
+
+QString whyUnreadable(const QString &path)
+{
+    // Opening a pipe would wait for somebody who writes.
+    if (!QFileInfo(path).isFile())
+        return Command::tr("%1: no such file.").arg(path);
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly)
+        ? QString()
+        : Command::tr("%1: cannot be read: %2.").arg(path, file.errorString());
 }

@@ -13,4 +13,7 @@ class Console;
 /// directories without a file, and tells in @p areAllFound whether there were none.
 QStringList itemFilesAt(const QStringList &paths, Console &console, bool *areAllFound);
 
+/// Why the file at @p path cannot be read, as a sentence; empty when it can. Nothing is created.
+QString whyUnreadable(const QString &path);
+
 #endif
