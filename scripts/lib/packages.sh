@@ -9,6 +9,7 @@
 build_packages=(
     g++ cmake ninja-build
     qtbase5-dev qttools5-dev qttools5-dev-tools # Qt 5, and its tools for translations
+    libudunits2-dev # units of measurement, for the command kelto
 )
 host_packages=(
     libqwt-qt5-dev                       # the plots of the example host
