@@ -7,6 +7,10 @@ const QVector<RuleArea> &ruleAreas()
 {
     static const QVector<RuleArea> areas {
         damageRules(),
+        nameRules(),
+        registryRules(),
+        hintRules(),
+        unitRules(),
     };
     return areas;
 }

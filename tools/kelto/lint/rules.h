@@ -56,6 +56,10 @@ struct RuleArea
 
 // Each stands in a file of its own.
 RuleArea damageRules();
+RuleArea hintRules();
+RuleArea nameRules();
+RuleArea registryRules();
+RuleArea unitRules();
 
 /// All areas, in the order in which their rules are listed.
 const QVector<RuleArea> &ruleAreas();

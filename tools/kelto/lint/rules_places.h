@@ -1,0 +1,69 @@
+// SPDX-FileCopyrightText: The Kelto developers
+// SPDX-License-Identifier: MIT
+
+#ifndef RULES_PLACES_H
+#define RULES_PLACES_H
+
+#include "itemfile.h"
+#include "lint/rules.h"
+
+// What the examples of rules have in common.
+#define EXAMPLE_MODE                                                                               \
+    "exclusive_group=true\n"                                                                       \
+    "inner_mode_count=1\n"                                                                         \
+    "inner_mode_nameList=Bending\n"                                                                \
+    "inner_mode_description=Loads across the beam\n"
+#define EXAMPLE_ITEM                                                                               \
+    "[KeltoItem]\n"                                                                                \
+    "name=Beam\n"                                                                                  \
+    "type=calculation\n"                                                                           \
+    "group=Statics\n" EXAMPLE_MODE
+#define EXAMPLE_LENGTH                                                                             \
+    "[Attribute]\n"                                                                                \
+    "Length=\n"                                                                                    \
+    "[Belong]\n"                                                                                   \
+    "Length=Bending\n"
+/// Stands before each other file of an example of several.
+#define EXAMPLE_FILE(name) "; --- " name " ---\n"
+
+/// The key of @p file that the library reads as @p name: of a key with "/" it takes the last part.
+/// Null when there is none.
+inline const ItemFileKey *keyReadAs(const ItemFile &file, const QString &section,
+                                    const QString &name)
+{
+    if (const ItemFileKey *key = file.find(section, name))
+        return key;
+    const ItemFileKey *found = nullptr;
+    for (const ItemFileKey &key : file.keys()) {
+        if (key.section == section && key.name.endsWith(QLatin1Char('/') + name))
+            found = &key;
+    }
+    return found;
+}
+
+/// Where the key stands, or the file begins when it does not.
+inline IniPosition keyPosition(const ItemFile &file, const QString &section, const QString &name)
+{
+    const ItemFileKey *key = keyReadAs(file, section, name);
+    return key ? key->position : IniPosition();
+}
+
+/// The same for its value.
+inline IniPosition valuePosition(const ItemFile &file, const QString &section, const QString &name)
+{
+    const ItemFileKey *key = keyReadAs(file, section, name);
+    return key ? key->valuePosition : IniPosition();
+}
+
+inline IniPosition fieldPosition(const ItemFile &file, const char *field)
+{
+    return valuePosition(file, QStringLiteral("KeltoItem"), QLatin1String(field));
+}
+
+inline void addFinding(Findings *findings, const char *rule, const ItemFile &file,
+                       IniPosition position, const QString &text)
+{
+    findings->append({ QLatin1String(rule), file.path(), position, text, {} });
+}
+
+#endif
