@@ -29,7 +29,8 @@ QString dimensionOf(const Unit &unit)
 {
     QStringList parts;
     for (auto base = unit.dimension.cbegin(); base != unit.dimension.cend(); ++base)
-        parts += base.value() == 1 ? base.key() : QString("%1^%2").arg(base.key()).arg(base.value());
+        parts
+            += base.value() == 1 ? base.key() : QString("%1^%2").arg(base.key()).arg(base.value());
     parts.sort(Qt::CaseInsensitive);
     return parts.join(' ');
 }
@@ -52,7 +53,8 @@ void TestUnit::readsWhatEngineersWrite_data()
         QTest::newRow(name) << QString(texts).split('|') << factor << QString(dimension);
     };
     const double turn = 2 * M_PI;
-    row("superscripts, powers and digits", "mm⁴|mm^4|mm4|mm**4|[mm⁴]| mm⁴ |㎜⁴|毫米⁴", 1e-12, "m^4");
+    row("superscripts, powers and digits", "mm⁴|mm^4|mm4|mm**4|[mm⁴]| mm⁴ |㎜⁴|毫米⁴", 1e-12,
+        "m^4");
     row("area", "mm²|平方毫米|㎟", 1e-6, "m^2");
     row("flow", "m³/h|m3/h|m^3/h|Nm³/h|立方米/小时|㎥/h", 1. / 3600, "m^3 s^-1");
     row("product", "N·m|N*m|N.m|Nm|N m|N⋅m|N x m|N-m|牛·米|牛米|J", 1, "kg m^2 s^-2");
@@ -76,8 +78,8 @@ void TestUnit::readsWhatEngineersWrite_data()
     row("percent", "%|%RH|Vol.-%|cm/m", 0.01, "");
     row("per mille", "‰|mm/m|g/kg", 0.001, "");
     row("strain", "με|µε|μm/m|ppm", 1e-6, "");
-    row("all behind the slash is below it", "W/(m·K)|W/m·K|W/mK|W·m⁻¹·K⁻¹|W/m/K|W per m K|W/(K·m)", 1,
-        "K^-1 kg m s^-3");
+    row("all behind the slash is below it", "W/(m·K)|W/m·K|W/mK|W·m⁻¹·K⁻¹|W/m/K|W per m K|W/(K·m)",
+        1, "K^-1 kg m s^-3");
     row("transfer of heat", "W/(m²·K)|W/m²K|W/m2K|W/(m^2 K)", 1, "K^-1 kg s^-3");
     row("heat capacity", "kJ/(kg·K)|kJ/kgK|kJ/kg·K|kJ/kg/K|J/(g·K)", 1e3, "K^-1 m^2 s^-2");
     row("spring", "N·mm/°", 0.18 / M_PI, "kg m^2 s^-2");
@@ -117,9 +119,12 @@ void TestUnit::refusesWhatIsNoUnit_data()
     QTest::addColumn<QString>("text");
 
     for (const char *text :
-         { "Mpa", "KN", "mmm", "millimetr", "N·", "·m", "N/", "/s", "N//m", "(m", "m)", "()", "√",
-           "m^", "m^x", "m^(1/0)", "0 mm", "1e999 m", "m^999999999", "mm since 1990", "s@0",
-           "2020-01-01", "lg(re 1 mW)", "平方", "N,m", "µ", "ft-lbq", "[mm", "per", "W per" }) {
+         { "Mpa",     "KN",         "mmm",         "millimetr",   "N·",
+           "·m",      "N/",         "/s",          "N//m",        "(m",
+           "m)",      "()",         "√",           "m^",          "m^x",
+           "m^(1/0)", "0 mm",       "1e999 m",     "m^999999999", "mm since 1990",
+           "s@0",     "2020-01-01", "lg(re 1 mW)", "平方",        "N,m",
+           "µ",       "ft-lbq",     "[mm",         "per",         "W per" }) {
         QTest::newRow(text) << QString(text);
     }
     QTest::newRow("deeply nested") << QString(1000000, '(');

@@ -6,11 +6,7 @@
 const QVector<RuleArea> &ruleAreas()
 {
     static const QVector<RuleArea> areas {
-        damageRules(),
-        nameRules(),
-        registryRules(),
-        hintRules(),
-        unitRules(),
+        damageRules(), nameRules(), registryRules(), hintRules(), unitRules(), codeRules(),
     };
     return areas;
 }

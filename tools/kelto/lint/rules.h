@@ -55,6 +55,7 @@ struct RuleArea
 };
 
 // Each stands in a file of its own.
+RuleArea codeRules();
 RuleArea damageRules();
 RuleArea hintRules();
 RuleArea nameRules();

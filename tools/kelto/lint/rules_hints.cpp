@@ -37,8 +37,7 @@ public:
     /// Whether the unknown @p part of a hint is one of them, with or without "@" and a mode behind.
     bool explain(const Problem &problem) const
     {
-        const bool isOfResult = problem.extraKey.startsWith(QLatin1String("Belong."));
-        return areIn(m_results, problem) || (!isOfResult && areIn(m_parameters, problem));
+        return areIn(m_results, problem) || (!isOfResult(problem) && areIn(m_parameters, problem));
     }
     /// Whether a condition begins with one of them that is not in @p item.
     bool explainCondition(const Problem &problem, const AUTH_INF &item) const
@@ -49,13 +48,18 @@ public:
     }
     bool areEmpty() const { return m_parameters.isEmpty() && m_results.isEmpty(); }
 
-    /// The one that was most likely meant.
-    QString suggestionFor(const QString &key) const
+    /// The one that was most likely meant. Behind "@" there is a mode.
+    QString suggestionFor(const Problem &problem) const
     {
-        return didYouMean(key, m_parameters + m_results);
+        const QString key = problem.part.section(QLatin1Char('@'), 0, 0);
+        return didYouMean(key, isOfResult(problem) ? m_results : m_parameters + m_results);
     }
 
 private:
+    static bool isOfResult(const Problem &problem)
+    {
+        return problem.extraKey.startsWith(QLatin1String("Belong."));
+    }
     static bool areIn(const QStringList &keys, const Problem &problem)
     {
         return std::any_of(keys.cbegin(), keys.cend(), [&](const QString &key) {
@@ -88,9 +92,8 @@ bool isConsequence(const Problem &problem, const ItemFile &file, const DeclaredK
 
 QString suggestionFor(const Problem &problem, const ItemFile &file, const DeclaredKeys &keys)
 {
-    // Behind "@" there is a mode.
     if (problem.kind == Problem::UnknownKey)
-        return keys.suggestionFor(problem.part.section(QLatin1Char('@'), 0, 0));
+        return keys.suggestionFor(problem);
     if (problem.kind == Problem::UnknownMode)
         return didYouMean(problem.part, file.item().inner_mode_nameList);
     return {};

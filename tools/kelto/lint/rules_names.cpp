@@ -53,9 +53,9 @@ private:
         if (m_reported.contains({ section, key }))
             return;
         m_reported.insert({ section, key });
-        addFinding(m_findings, "like-names", m_file, keyPosition(m_file, section, key),
-                   Command::tr("\"%1\" is the same name as \"%2\" to a search by name")
-                       .arg(key, first));
+        addFinding(
+            m_findings, "like-names", m_file, keyPosition(m_file, section, key),
+            Command::tr("\"%1\" is the same name as \"%2\" to a search by name").arg(key, first));
     }
 
     const ItemFile &m_file;
@@ -127,7 +127,8 @@ void findUpdate(const ItemFile &file, Findings *findings)
         return;
     const auto hasEntries = [](const QVector<QStringList> &entries) { return !entries.isEmpty(); };
     const auto &modes = item.inner_mode_parameterList;
-    if (item.exclusive_group || hasEntries(item.output_results) || item.inner_mode_nameList.size() > 1
+    if (item.exclusive_group || hasEntries(item.output_results)
+        || item.inner_mode_nameList.size() > 1
         || std::any_of(modes.cbegin(), modes.cend(), hasEntries)) {
         addFinding(findings, "update-module", file, fieldPosition(file, "name"),
                    Command::tr("a module named \"Update\" makes the program write its name and "

@@ -60,6 +60,17 @@ inline IniPosition fieldPosition(const ItemFile &file, const char *field)
     return valuePosition(file, QStringLiteral("KeltoItem"), QLatin1String(field));
 }
 
+/// The last header of this name; where the file begins when there is none.
+inline IniPosition sectionPosition(const ItemFile &file, const QString &name)
+{
+    IniPosition position;
+    for (const ItemFileSection &section : file.sections()) {
+        if (section.name == name)
+            position = section.position;
+    }
+    return position;
+}
+
 inline void addFinding(Findings *findings, const char *rule, const ItemFile &file,
                        IniPosition position, const QString &text)
 {

@@ -122,12 +122,13 @@ void checkAll(const QVector<ItemFile> &files, Findings *findings)
 } // namespace
 
 #define EXAMPLE_GROUPS(translation)                                                                \
-    EXAMPLE_ITEM EXAMPLE_LENGTH EXAMPLE_FILE("second.ini")                                         \
-    "[KeltoItem]\nname=Plate\ntype=calculation\ngroup=Statik\n" EXAMPLE_MODE EXAMPLE_LENGTH        \
-    EXAMPLE_FILE("host_de.ts")                                                                     \
-    "<TS><context><name>UCal</name>\n"                                                             \
-    "<message><source>Statics</source><translation>" translation "</translation></message>\n"      \
-    "</context></TS>\n"
+    EXAMPLE_ITEM EXAMPLE_LENGTH EXAMPLE_FILE(                                                      \
+        "second.ini") "[KeltoItem]\nname=Plate\ntype=calculation\ngroup=Statik\n" EXAMPLE_MODE     \
+        EXAMPLE_LENGTH EXAMPLE_FILE(                                                               \
+            "host_de.ts") "<TS><context><name>UCal</name>\n"                                       \
+                          "<message><source>Statics</source><translation>" translation             \
+                          "</translation></message>\n"                                             \
+                          "</context></TS>\n"
 
 RuleArea registryRules()
 {
@@ -138,12 +139,13 @@ RuleArea registryRules()
               QT_TRANSLATE_NOOP("Command",
                                 "A registry finds the first of them only: AUTH_SET::index() never "
                                 "gives the other. Give one of them another name."),
-              EXAMPLE_ITEM EXAMPLE_LENGTH EXAMPLE_FILE("second.ini")
-              "[KeltoItem]\nname=Beam\ntype=calculation\ngroup=Dynamics\n" EXAMPLE_MODE
-                  EXAMPLE_LENGTH,
-              EXAMPLE_ITEM EXAMPLE_LENGTH EXAMPLE_FILE("second.ini")
-              "[KeltoItem]\nname=Moving beam\ntype=calculation\ngroup=Dynamics\n" EXAMPLE_MODE
-                  EXAMPLE_LENGTH },
+              EXAMPLE_ITEM EXAMPLE_LENGTH EXAMPLE_FILE(
+                  "second.ini") "[KeltoItem]\nname=Beam\ntype=calculation\ngroup="
+                                "Dynamics\n" EXAMPLE_MODE EXAMPLE_LENGTH,
+              EXAMPLE_ITEM EXAMPLE_LENGTH EXAMPLE_FILE(
+                  "second.ini") "[KeltoItem]\nname=Moving "
+                                "beam\ntype=calculation\ngroup=Dynamics\n" EXAMPLE_MODE
+                                    EXAMPLE_LENGTH },
             { "mode-twice", Severity::Error,
               QT_TRANSLATE_NOOP("Command", "Two modes of a module or a group have one name"),
               QT_TRANSLATE_NOOP("Command",
@@ -151,12 +153,12 @@ RuleArea registryRules()
                                 "parameters of the other cannot be had, or are those of the first. "
                                 "This holds for the modes of a module, and for those of all "
                                 "modules of an exclusive group. Give one of them another name."),
-              EXAMPLE_ITEM EXAMPLE_LENGTH EXAMPLE_FILE("second.ini")
-              "[KeltoItem]\nname=Plate\ntype=calculation\ngroup=Statics\n" EXAMPLE_MODE
-                  EXAMPLE_LENGTH,
-              EXAMPLE_ITEM EXAMPLE_LENGTH EXAMPLE_FILE("second.ini")
-              "[KeltoItem]\nname=Plate\ntype=calculation\ngroup=Plates\n" EXAMPLE_MODE
-                  EXAMPLE_LENGTH },
+              EXAMPLE_ITEM EXAMPLE_LENGTH EXAMPLE_FILE(
+                  "second.ini") "[KeltoItem]\nname=Plate\ntype=calculation\ngroup="
+                                "Statics\n" EXAMPLE_MODE EXAMPLE_LENGTH,
+              EXAMPLE_ITEM EXAMPLE_LENGTH EXAMPLE_FILE(
+                  "second.ini") "[KeltoItem]\nname=Plate\ntype=calculation\ngroup="
+                                "Plates\n" EXAMPLE_MODE EXAMPLE_LENGTH },
             { "group-translation", Severity::Warning,
               QT_TRANSLATE_NOOP("Command",
                                 "The translated name of a group is a name of another group"),

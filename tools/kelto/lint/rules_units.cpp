@@ -34,9 +34,9 @@ std::optional<UnitPair> pairOf(const ItemFile &file, const ItemFileKey &key, Fin
         return std::nullopt;
     }
     if (units[0]->dimension != units[1]->dimension) {
-        addFinding(findings, "unit-dimension", file, key.valuePosition,
-                   Command::tr("\"%1\" and \"%2\" are units of different quantities")
-                       .arg(first, second));
+        addFinding(
+            findings, "unit-dimension", file, key.valuePosition,
+            Command::tr("\"%1\" and \"%2\" are units of different quantities").arg(first, second));
         return std::nullopt;
     }
     return UnitPair { &key, first, *units[0], first == second };
@@ -46,10 +46,9 @@ std::optional<UnitPair> pairOf(const ItemFile &file, const ItemFileKey &key, Fin
 /// it. Ratios and angles are kept as they are by many.
 void findUnconverted(const ItemFile &file, const QVector<UnitPair> &pairs, Findings *findings)
 {
-    const bool converts
-        = std::any_of(pairs.cbegin(), pairs.cend(), [](const UnitPair &pair) {
-              return !pair.areTextsEqual && !pair.first.isCoherent();
-          });
+    const bool converts = std::any_of(pairs.cbegin(), pairs.cend(), [](const UnitPair &pair) {
+        return !pair.areTextsEqual && !pair.first.isCoherent();
+    });
     for (const UnitPair &pair : pairs) {
         if (converts && pair.areTextsEqual && !pair.first.isCoherent()
             && !pair.first.dimension.isEmpty()) {
@@ -75,37 +74,47 @@ void check(const ItemFile &file, Findings *findings)
     findUnconverted(file, pairs, findings);
 }
 
+const char *whereAvailable(const char *explanation)
+{
+    return areUnitsKnown()
+        ? explanation
+        : QT_TRANSLATE_NOOP("Command",
+                            "Not available: this program was built without the library UDUNITS, or "
+                            "does not find its definitions of units.");
+}
+
 } // namespace
 
 RuleArea unitRules()
 {
-    if (!areUnitsKnown())
-        return { {}, nullptr, nullptr };
     return {
         {
             { "unknown-unit", Severity::Warning,
               QT_TRANSLATE_NOOP("Command", "A unit is none that is known"),
-              QT_TRANSLATE_NOOP("Command",
-                                "Capital letters count: it is \"MPa\" and \"kN\". A \"·\" or a "
-                                "space multiplies, all behind a \"/\" is below it, and powers are "
-                                "\"m²\", \"m^2\" or \"m2\". A parameter without a unit has an "
-                                "empty text or \"-\"."),
+              whereAvailable(QT_TRANSLATE_NOOP(
+                  "Command",
+                  "Capital letters count: it is \"MPa\" and \"kN\". A \"·\" or a "
+                  "space multiplies, all behind a \"/\" is below it, and powers are "
+                  "\"m²\", \"m^2\" or \"m2\". A parameter without a unit has an "
+                  "empty text or \"-\".")),
               EXAMPLE_ITEM EXAMPLE_LENGTH "[Unit]\nLength=Mmm, m\n",
               EXAMPLE_ITEM EXAMPLE_LENGTH "[Unit]\nLength=mm, m\n" },
             { "unit-dimension", Severity::Error,
               QT_TRANSLATE_NOOP("Command", "The two units of a parameter measure different things"),
-              QT_TRANSLATE_NOOP("Command",
-                                "The first is the unit that a person reads, the second the one "
-                                "that it is converted to, which no number does here."),
+              whereAvailable(
+                  QT_TRANSLATE_NOOP("Command",
+                                    "The first is the unit that a person reads, the second the one "
+                                    "that it is converted to, which no number does here.")),
               EXAMPLE_ITEM EXAMPLE_LENGTH "[Unit]\nLength=mm, s\n",
               EXAMPLE_ITEM EXAMPLE_LENGTH "[Unit]\nLength=mm, m\n" },
             { "unit-not-converted", Severity::Warning,
               QT_TRANSLATE_NOOP("Command", "A unit is not converted while others are"),
-              QT_TRANSLATE_NOOP("Command",
-                                "Two equal texts mean that a value counts as it is. That is right "
-                                "for units of the SI without a factor, such as \"N\". Beside "
-                                "\"mm, m\" in the same module, \"N/mm, N/mm\" would be taken for "
-                                "\"N/m\"."),
+              whereAvailable(QT_TRANSLATE_NOOP(
+                  "Command",
+                  "Two equal texts mean that a value counts as it is. That is right "
+                  "for units of the SI without a factor, such as \"N\". Beside "
+                  "\"mm, m\" in the same module, \"N/mm, N/mm\" would be taken for "
+                  "\"N/m\".")),
               EXAMPLE_ITEM
               "[Attribute]\nLength=\nLine load=\n[Belong]\nLength=Bending\nLine load=Bending\n"
               "[Unit]\nLength=mm, m\nLine load=N/mm, N/mm\n",

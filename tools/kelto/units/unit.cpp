@@ -6,6 +6,9 @@
 #include "units/unitbase.h"
 #include "units/unitsymbols.h"
 
+#include <QHash>
+#include <QMutex>
+#include <QMutexLocker>
 #include <QRegularExpression>
 
 #include <cmath>
@@ -93,8 +96,7 @@ MaybeUnit symbolUnit(const QString &symbol)
         return raised(symbolUnit(symbol.mid(2)), 3);
     const double factor = factorOfPrefix(symbol);
     const QString prefixed = factor > 0 ? meaningOfPrefixableSymbol(symbol.mid(1)) : QString();
-    return prefixed.isNull() ? std::nullopt
-                             : product(Unit { factor, {} }, unitOfMeaning(prefixed));
+    return prefixed.isNull() ? std::nullopt : product(Unit { factor, {} }, unitOfMeaning(prefixed));
 }
 
 /// Reads a normalised text from front to back.
@@ -132,8 +134,9 @@ private:
     /// What @p pattern matches here, which is then skipped.
     QString take(const QRegularExpression &pattern)
     {
-        const QRegularExpressionMatch match = pattern.match(
-            m_text, m_at, QRegularExpression::NormalMatch, QRegularExpression::AnchoredMatchOption);
+        const QRegularExpressionMatch match
+            = pattern.match(m_text, m_at, QRegularExpression::NormalMatch,
+                            QRegularExpression::AnchoredMatchOption);
         m_at += match.capturedLength();
         return match.captured();
     }
@@ -214,8 +217,7 @@ private:
     {
         for (const UnitSpelling &spelling : longSpellings()) {
             const int end = m_at + spelling.text.size();
-            const bool isPartOfLonger
-                = end < m_text.size() && (m_text.at(end).isLetterOrNumber());
+            const bool isPartOfLonger = end < m_text.size() && (m_text.at(end).isLetterOrNumber());
             if (m_text.midRef(m_at).startsWith(spelling.text) && !isPartOfLonger) {
                 m_at = end;
                 return unitOfMeaning(spelling.meaning);
@@ -230,8 +232,9 @@ private:
     /// 1 without an exponent. Behind a symbol it may stand without a "^".
     double readExponent(bool isBehindSymbol)
     {
-        static const QRegularExpression raisedTo(QStringLiteral(
-            "\\^\\s*(\\(\\s*([-+]?[0-9.]+)(\\s*/\\s*([0-9.]+))?\\s*\\)|([-+]?[0-9]+(\\.[0-9]+)?))"));
+        static const QRegularExpression raisedTo(
+            QStringLiteral("\\^\\s*(\\(\\s*([-+]?[0-9.]+)(\\s*/"
+                           "\\s*([0-9.]+))?\\s*\\)|([-+]?[0-9]+(\\.[0-9]+)?))"));
         static const QRegularExpression digits(QStringLiteral("[-+]?[0-9]+"));
         const QRegularExpressionMatch match
             = raisedTo.match(m_text, m_at, QRegularExpression::NormalMatch,
@@ -256,17 +259,8 @@ MaybeUnit unitOfMeaning(const QString &meaning)
     return UnitReader(meaning).readAll();
 }
 
-} // namespace
-
-bool areUnitsKnown()
+MaybeUnit readUnit(const QString &text)
 {
-    return unitOfSymbol(QStringLiteral("m")).has_value();
-}
-
-std::optional<Unit> unitOf(const QString &text)
-{
-    if (!areUnitsKnown() || text.size() > mostCharacters)
-        return std::nullopt;
     const QString plain = normalised(text);
     if (isNoUnit(plain))
         return Unit();
@@ -276,4 +270,25 @@ std::optional<Unit> unitOf(const QString &text)
     for (auto base = unit->dimension.begin(); base != unit->dimension.end();)
         base = qFuzzyIsNull(base.value()) ? unit->dimension.erase(base) : base + 1;
     return unit;
+}
+
+} // namespace
+
+bool areUnitsKnown()
+{
+    return unitOfSymbol(QStringLiteral("m")).has_value();
+}
+
+std::optional<Unit> unitOf(const QString &text)
+{
+    if (text.size() > mostCharacters)
+        return std::nullopt;
+    // Modules have few units, and each of them often.
+    static QMutex mutex;
+    static QHash<QString, MaybeUnit> known;
+    const QMutexLocker locker(&mutex);
+    const auto found = known.constFind(text);
+    if (found != known.constEnd())
+        return found.value();
+    return known.insert(text, areUnitsKnown() ? readUnit(text) : std::nullopt).value();
 }

@@ -6,11 +6,9 @@
 
 #include "units/unitbase.h"
 
-#include <QHash>
 #include <QMutex>
 #include <QMutexLocker>
 
-#include <clocale>
 #include <memory>
 
 #include <locale.h>
@@ -124,11 +122,7 @@ std::optional<Unit> readSymbol(const QString &symbol)
 std::optional<Unit> unitOfSymbol(const QString &symbol)
 {
     static QMutex mutex;
-    static QHash<QString, std::optional<Unit>> known;
     const QMutexLocker locker(&mutex);
-    const auto found = known.constFind(symbol);
-    if (found != known.constEnd())
-        return found.value();
     const PlainNumbers plainNumbers;
-    return known.insert(symbol, readSymbol(symbol)).value();
+    return readSymbol(symbol);
 }

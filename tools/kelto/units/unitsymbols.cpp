@@ -188,10 +188,11 @@ const QVector<UnitSpelling> &longSpellings()
 {
     static const QVector<UnitSpelling> spellings = [] {
         QVector<UnitSpelling> list = allSpellings();
-        list.erase(
-            std::remove_if(list.begin(), list.end(),
-                           [](const UnitSpelling &spelling) { return isOfLetters(spelling.text); }),
-            list.end());
+        list.erase(std::remove_if(list.begin(), list.end(),
+                                  [](const UnitSpelling &spelling) {
+                                      return isOfLetters(spelling.text);
+                                  }),
+                   list.end());
         std::stable_sort(list.begin(), list.end(), [](const auto &a, const auto &b) {
             return a.text.size() > b.text.size();
         });
@@ -203,10 +204,10 @@ const QVector<UnitSpelling> &longSpellings()
 double factorOfPrefix(const QString &symbol)
 {
     static const QHash<QChar, double> factors {
-        { u'T', 1e12 }, { u'G', 1e9 },  { u'M', 1e6 },   { u'k', 1e3 },  { u'h', 1e2 },
-        { u'd', 1e-1 }, { u'c', 1e-2 }, { u'm', 1e-3 },  { u'μ', 1e-6 }, { u'µ', 1e-6 },
-        { u'n', 1e-9 }, { u'p', 1e-12 }, { u'吉', 1e9 }, { u'兆', 1e6 }, { u'万', 1e4 },
-        { u'千', 1e3 }, { u'百', 1e2 }, { u'分', 1e-1 }, { u'厘', 1e-2 }, { u'毫', 1e-3 },
+        { u'T', 1e12 },  { u'G', 1e9 },   { u'M', 1e6 },   { u'k', 1e3 },   { u'h', 1e2 },
+        { u'd', 1e-1 },  { u'c', 1e-2 },  { u'm', 1e-3 },  { u'μ', 1e-6 },  { u'µ', 1e-6 },
+        { u'n', 1e-9 },  { u'p', 1e-12 }, { u'吉', 1e9 },  { u'兆', 1e6 },  { u'万', 1e4 },
+        { u'千', 1e3 },  { u'百', 1e2 },  { u'分', 1e-1 }, { u'厘', 1e-2 }, { u'毫', 1e-3 },
         { u'微', 1e-6 }, { u'纳', 1e-9 },
     };
     return symbol.isEmpty() ? 0 : factors.value(symbol.at(0));
@@ -214,14 +215,10 @@ double factorOfPrefix(const QString &symbol)
 
 bool isNoUnit(const QString &text)
 {
-    static const QStringList texts { QString(),
-                                     QStringLiteral("-"),
-                                     QStringLiteral("--"),
-                                     QStringLiteral("–"),
-                                     QStringLiteral("—"),
-                                     QStringLiteral("/"),
-                                     QStringLiteral("none"),
-                                     QStringLiteral("one"),
-                                     QStringLiteral("无") };
+    static const QStringList texts {
+        QString(),           QStringLiteral("-"), QStringLiteral("--"),   QStringLiteral("–"),
+        QStringLiteral("—"), QStringLiteral("/"), QStringLiteral("none"), QStringLiteral("one"),
+        QStringLiteral("无")
+    };
     return texts.contains(text);
 }
