@@ -80,28 +80,29 @@ QStringList linesOf(const Findings &findings)
 
 void TestKeltoLintRules::showsInExamplesWhatRulesFind_data()
 {
-    QTest::addColumn<QString>("id");
-    QTest::addColumn<QString>("bad");
-    QTest::addColumn<QString>("good");
+    QTest::addColumn<QString>("files");
+    QTest::addColumn<QStringList>("rules");
 
     for (const RuleArea &area : ruleAreas()) {
-        for (const Rule &rule : area.rules)
-            QTest::newRow(rule.id) << QString(rule.id) << QString(rule.bad) << QString(rule.good);
+        for (const Rule &rule : area.rules) {
+            QTest::addRow("%s, bad", rule.id) << QString(rule.bad) << QStringList(rule.id);
+            QTest::addRow("%s, good", rule.id) << QString(rule.good) << QStringList();
+        }
     }
 }
 
 void TestKeltoLintRules::showsInExamplesWhatRulesFind()
 {
-    QFETCH(QString, id);
-    QFETCH(QString, bad);
-    QFETCH(QString, good);
+    QFETCH(QString, files);
+    QFETCH(QStringList, rules);
 
-    if (id.contains("unit") && !areUnitsKnown())
+    if (!areUnitsKnown() && QByteArray(QTest::currentDataTag()).contains("unit"))
         QSKIP("This program was built without UDUNITS.");
-    const Findings findings = findingsIn(writeFiles(bad));
-    QVERIFY2(findings.size() == 1, qPrintable(linesOf(findings).join('\n')));
-    QCOMPARE(findings.constFirst().rule, id);
-    QCOMPARE(linesOf(findingsIn(writeFiles(good))), QStringList());
+    const Findings findings = findingsIn(writeFiles(files));
+    QStringList found;
+    for (const Finding &finding : findings)
+        found += finding.rule;
+    QVERIFY2(found == rules, qPrintable(linesOf(findings).join('\n')));
 }
 
 void TestKeltoLintRules::finds_data()
@@ -259,7 +260,7 @@ void TestKeltoLintRules::finds_data()
     row("hints that are wrong",
         item + "output_results=x\n" + length
             + "[Result]\nStress=\n[ObjectName]\nLength=double\n[ExtraKey]\nDefault.Length=long\n"
-              "Min.Lenght=1\nHelp.Length@Bendign=\"\"\nOrder=Length|Stres\nChoices.Length=1|1\n"
+              "Min.Lngth=1\nHelp.Length@Bendign=\"\"\nOrder=Length|Stres\nChoices.Length=1|1\n"
               "Belong.Length=Bending\nOptional.Length=yes\nWhen.Length=Section=a\nOwn=1\n"
               "Maximum.Length=1\n",
         { "first.ini:23:1 bad-hint Belong.Length: there is no result \"Length\"",
@@ -267,7 +268,7 @@ void TestKeltoLintRules::finds_data()
           "first.ini:18:1 bad-hint Default.Length: \"long\" is not a number",
           "first.ini:20:1 bad-hint Help.Length@Bendign: there is no inner mode \"Bendign\". Did "
           "you mean \"Bending\"?",
-          "first.ini:19:1 bad-hint Min.Lenght: there is no parameter or result \"Lenght\". Did you "
+          "first.ini:19:1 bad-hint Min.Lngth: there is no parameter or result \"Lngth\". Did you "
           "mean \"Length\"?",
           "first.ini:24:1 bad-hint Optional.Length: \"yes\" is neither \"true\" nor \"false\"",
           "first.ini:21:1 bad-hint Order: there is no parameter or result \"Stres\". Did you mean "

@@ -73,7 +73,7 @@ bool isConsequence(const Problem &problem, const ItemFile &file)
     return isEscape && key->speltValue.find('"') == std::string_view::npos;
 }
 
-IniPosition positionOf(const Problem &problem, const ItemFile &file)
+IniPosition placeOf(const Problem &problem, const ItemFile &file)
 {
     if (!keyReadAs(file, problem.section, problem.key))
         return sectionPosition(file, problem.section);
@@ -91,7 +91,7 @@ void check(const ItemFile &file, Findings *findings)
     for (const Problem &problem : problems) {
         const char *rule = ruleFor(problem.reason);
         if (rule && !isConsequence(problem, file)) {
-            addFinding(findings, rule, file, positionOf(problem, file),
+            addFinding(findings, rule, file, placeOf(problem, file),
                        QStringLiteral("\"%1\" %2")
                            .arg(shortened(problem.text), reasonText(problem.reason)));
         }
