@@ -8,11 +8,11 @@
 const QVector<Command> &commands()
 {
     static const QVector<Command> all {
-        codeCommand(),
         showCommand(),
-        docCommand(),
         modesCommand(),
         checkCommand(),
+        codeCommand(),
+        docCommand(),
         styleCommand(),
     };
     return all;
