@@ -13,6 +13,7 @@ const QVector<Command> &commands()
         checkCommand(),
         codeCommand(),
         docCommand(),
+        lintCommand(),
         styleCommand(),
     };
     return all;

@@ -18,6 +18,7 @@ Command checkCommand();
 Command modesCommand();
 Command showCommand();
 Command docCommand();
+Command lintCommand();
 Command styleCommand();
 
 #endif

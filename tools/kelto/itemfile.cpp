@@ -8,6 +8,9 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
+#include <iterator>
+
 namespace {
 
 std::string_view trimmed(std::string_view text)
@@ -32,9 +35,18 @@ ItemFile::ItemFile(const QString &path)
         m_error = Command::tr("%1: cannot be read: %2.").arg(path, file.errorString());
     } else {
         m_bytes = file.readAll();
+        readLines();
         readKeys();
         m_item.load_ini(path);
     }
+}
+
+void ItemFile::readLines()
+{
+    const char lineEnd = m_bytes.contains('\n') ? '\n' : '\r';
+    m_lineStarts.append(0);
+    for (int at = m_bytes.indexOf(lineEnd); at >= 0; at = m_bytes.indexOf(lineEnd, at + 1))
+        m_lineStarts.append(at + 1);
 }
 
 void ItemFile::readKeys()
@@ -47,7 +59,7 @@ void ItemFile::readKeys()
             // Of a key without a name only the section is left, and the "/" behind it.
             section = SettingsKey { line.key, {} }.text();
             section.chop(1);
-            m_sections.append({ section, reader.positionAt(line.text.data()) });
+            m_sections.append({ section, line.key, reader.positionAt(line.text.data()) });
         } else if (line.kind == IniLine::Entry) {
             const SettingsKey key = reader.key();
             const std::string_view value = trimmed(line.value);
@@ -65,4 +77,15 @@ const ItemFileKey *ItemFile::find(const QString &section, const QString &name) c
 {
     const auto position = m_positions.constFind(section + QLatin1Char('/') + name);
     return position == m_positions.cend() ? nullptr : &m_keys.at(*position);
+}
+
+IniPosition ItemFile::positionAt(const char *place) const
+{
+    const int offset = static_cast<int>(place - m_bytes.constData());
+    const auto behind = std::upper_bound(m_lineStarts.cbegin(), m_lineStarts.cend(), offset);
+    IniPosition position;
+    position.line = static_cast<int>(std::distance(m_lineStarts.cbegin(), behind));
+    for (int i = *std::prev(behind); i < offset; ++i)
+        position.column += (m_bytes.at(i) & 0xc0) != 0x80 ? 1 : 0;
+    return position;
 }

@@ -27,6 +27,7 @@ struct ItemFileKey
 struct ItemFileSection
 {
     QString name;
+    std::string_view spelt; ///< What stands in the brackets.
     IniPosition position;
 };
 
@@ -51,12 +52,17 @@ public:
     /// The last key of this name, which is the one that counts; null when there is none.
     const ItemFileKey *find(const QString &section, const QString &name) const;
 
+    /// Where @p place, which points into the bytes or behind their end, is.
+    IniPosition positionAt(const char *place) const;
+
 private:
+    void readLines();
     void readKeys();
 
     QString m_path;
     QString m_error;
     QByteArray m_bytes;
+    QVector<int> m_lineStarts;
     AUTH_INF m_item;
     QVector<ItemFileKey> m_keys;
     QVector<ItemFileSection> m_sections;

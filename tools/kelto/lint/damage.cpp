@@ -5,23 +5,139 @@
 
 #include "command.h"
 #include "core/iniproblems_p.h"
-#include "itemfile.h"
-#include "lint/rules.h"
+#include "lint/filefindings.h"
 
 namespace {
 
+/// What is in a text that a save drops: a quote inside of it, which is not read either, or a
+/// character that QSettings reads and cannot write.
+void addDroppedCharacter(IniPosition position, bool isWide, FileFindings *findings)
+{
+    if (isWide) {
+        findings->add("unsaved-character", position,
+                      Command::tr("the character is read, but gone when the file is saved"));
+    } else {
+        findings->add("stray-quote", position,
+                      Command::tr("the quote is not around the whole text and is dropped; put "
+                                  "quotes around all of it and write the ones inside as \\\""));
+    }
+}
+
+void addByteOrderMark(const IniProblem &problem, FileFindings *findings)
+{
+    const int start = findings->file().bytes().indexOf("\xef\xbb\xbf");
+    const bool isFirst = start == 0 && problem.position.line == 1;
+    findings->add("byte-order-mark", problem.position,
+                  Command::tr("the byte-order mark becomes part of what follows"),
+                  isFirst ? QVector<TextEdit> { { 0, 3, {} } } : QVector<TextEdit>());
+}
+
+void addProblem(const IniProblem &problem, FileFindings *findings)
+{
+    const auto add = [&](const char *rule, const QString &text) {
+        findings->add(rule, problem.position, text);
+    };
+    switch (problem.kind) {
+    case IniProblem::NoEqualsSign:
+        return add("no-equals-sign", Command::tr("the line has no \"=\" and is ignored"));
+    case IniProblem::BrokenHeader:
+        return add("broken-header",
+                   Command::tr("the header has no \"]\", or text behind it, which is ignored"));
+    case IniProblem::EmptySection:
+        return add("empty-section", Command::tr("the section has no keys"));
+    case IniProblem::UnreadableKey:
+        return add("unreadable-key",
+                   Command::tr("a superfluous \"/\" keeps the value of the key from being read"));
+    case IniProblem::ByteOrderMark:
+        return addByteOrderMark(problem, findings);
+    case IniProblem::BadEscape:
+        return add("bad-escape",
+                   Command::tr("the escape means nothing and is dropped; write a backslash as "
+                               "\\\\"));
+    case IniProblem::NotUtf8:
+        return add("not-utf8", Command::tr("the bytes are not UTF-8"));
+    case IniProblem::DamagedValue:
+        return add("damaged-value",
+                   Command::tr("the value is neither a text nor what was once saved"));
+    case IniProblem::UnsafeValue:
+        return add("unsafe-value",
+                   Command::tr("the value is unsafe to read, so that nothing in the file is read"));
+    default:
+        // The other checks know more about these.
+        return;
+    }
+}
+
+/// The byte at @p position, given the file's lines; 0 behind the last.
+char byteAt(const QList<QByteArray> &lines, IniPosition position)
+{
+    const QByteArray &line = lines.at(position.line - 1);
+    int column = 0;
+    for (const char c : line) {
+        if ((c & 0xc0) != 0x80 && ++column == position.column)
+            return c;
+    }
+    return 0;
+}
+
+void checkProblems(FileFindings *findings)
+{
+    const QByteArray &bytes = findings->file().bytes();
+    QList<QByteArray> lines;
+    int quoteLine = 0;
+    const QVector<IniProblem> problems = iniProblems(bytes);
+    for (const IniProblem &problem : problems) {
+        if (problem.kind != IniProblem::DroppedCharacter) {
+            addProblem(problem, findings);
+            continue;
+        }
+        if (lines.isEmpty())
+            lines = bytes.split(bytes.contains('\n') ? '\n' : '\r');
+        const char byte = byteAt(lines, problem.position);
+        const bool isWide = (byte >= '\xef' && byte <= '\xf4') || byte == '\\';
+        // Of two quotes the first says it all. One that is not closed is known by its beginning.
+        if (byte != 0 && (isWide || problem.position.line != quoteLine))
+            addDroppedCharacter(problem.position, isWide, findings);
+        if (!isWide)
+            quoteLine = problem.position.line;
+    }
+}
+
+/// A "#" line with a key in it is no comment, and a ";" behind a value ends it.
+void checkComments(FileFindings *findings)
+{
+    IniReader reader(findings->file().bytes());
+    IniLine before;
+    int lineBefore = 0;
+    while (reader.next()) {
+        const IniLine line = reader.line();
+        const char *const start = line.text.data();
+        const IniPosition position = reader.positionAt(start);
+        const bool isHash = *start == '#';
+        if (isHash && line.kind == IniLine::Entry) {
+            findings->add("hash-key", position,
+                          Command::tr("\"#\" begins no comment here: the line is a key; a "
+                                      "comment begins with \";\""));
+        } else if (line.kind == IniLine::Comment && before.kind == IniLine::Entry
+                   && position.line == lineBefore) {
+            findings->add("cut-text", position,
+                          Command::tr("the text ends at the \";\"; put quotes around it, or put "
+                                      "the comment on a line of its own"));
+        } else if ((isHash || line.kind == IniLine::Comment)
+                   && !(before.kind == IniLine::Other && position.line == lineBefore)) {
+            findings->add("comment", position,
+                          Command::tr("the comment is gone when the file is saved"));
+        }
+        before = line;
+        lineBefore = reader.positionAt(start + line.text.size()).line;
+    }
+}
+
 void check(const ItemFile &file, Findings *findings)
 {
-    const QVector<IniProblem> problems = iniProblems(file.bytes());
-    for (const IniProblem &problem : problems) {
-        if (problem.kind == IniProblem::NoEqualsSign) {
-            findings->append({ QStringLiteral("no-equals-sign"),
-                               file.path(),
-                               problem.position,
-                               Command::tr("the line has no \"=\" and is ignored"),
-                               {} });
-        }
-    }
+    FileFindings added(file, findings);
+    checkProblems(&added);
+    checkComments(&added);
 }
 
 } // namespace
@@ -35,7 +151,92 @@ RuleArea damageRules()
               QT_TRANSLATE_NOOP("Command",
                                 "Such a line is ignored, and gone when the file is saved. "
                                 "Put a \"=\" behind the key, or a \";\" before a comment."),
-              "[KeltoItem]\nname Beam\n", "[KeltoItem]\nname=Beam\n" },
+              "[KeltoItem]\nname=Beam\nicon beam.png\n",
+              "[KeltoItem]\nname=Beam\nicon=beam.png\n" },
+            { "cut-text", Severity::Error, QT_TRANSLATE_NOOP("Command", "A text ends at a \";\""),
+              QT_TRANSLATE_NOOP("Command",
+                                "Outside of quotes a \";\" begins a comment, also in the middle "
+                                "of a line. Put quotes around the text, or the comment on a line "
+                                "of its own."),
+              "[KeltoItem]\nname=Beam\ndescription=Bending; slender beams only\n",
+              "[KeltoItem]\nname=Beam\ndescription=\"Bending; slender beams only\"\n" },
+            { "hash-key", Severity::Warning,
+              QT_TRANSLATE_NOOP("Command", "A line that begins with \"#\" is a key"),
+              QT_TRANSLATE_NOOP("Command",
+                                "Only a \";\" begins a comment. A line with \"#\" and \"=\" is "
+                                "read as a key whose name begins with \"#\"."),
+              "[KeltoItem]\nname=Beam\n\n[ExtraKey]\n#Author=Euler\n",
+              "[KeltoItem]\nname=Beam\n\n[ExtraKey]\nAuthor=Euler\n" },
+            { "comment", Severity::Off,
+              QT_TRANSLATE_NOOP("Command", "A comment is gone when the file is saved"),
+              QT_TRANSLATE_NOOP("Command",
+                                "A save keeps what is read, and comments are not. Switch this on "
+                                "for files that a program saves again."),
+              "; Statics\n[KeltoItem]\nname=Beam\n", "[KeltoItem]\nname=Beam\n" },
+            { "broken-header", Severity::Error,
+              QT_TRANSLATE_NOOP("Command", "A header of a section is not whole"),
+              QT_TRANSLATE_NOOP("Command",
+                                "A header is a name in brackets and nothing else. Text behind it "
+                                "is ignored."),
+              "[KeltoItem] name=Beam\nname=Beam\n", "[KeltoItem]\nname=Beam\n" },
+            { "empty-section", Severity::Off, QT_TRANSLATE_NOOP("Command", "A section has no keys"),
+              QT_TRANSLATE_NOOP("Command",
+                                "Nothing is wrong with it, but a save leaves the header out."),
+              "[KeltoItem]\nname=Beam\n\n[Attribute]\n", "[KeltoItem]\nname=Beam\n" },
+            { "unreadable-key", Severity::Error,
+              QT_TRANSLATE_NOOP("Command", "A key cannot be read because of a \"/\""),
+              QT_TRANSLATE_NOOP("Command",
+                                "With a \"/\" in front, at the end or behind another one a key "
+                                "has no value. Leave it out."),
+              "[KeltoItem]\nname=Beam\n\n[ExtraKey]\n/Author=Euler\n",
+              "[KeltoItem]\nname=Beam\n\n[ExtraKey]\nAuthor=Euler\n" },
+            { "byte-order-mark", Severity::Error,
+              QT_TRANSLATE_NOOP("Command", "A byte-order mark becomes part of a key"),
+              QT_TRANSLATE_NOOP("Command",
+                                "Some editors put these three bytes before the text. Only in "
+                                "front of a header they do no harm. Save the file as UTF-8 "
+                                "without a byte-order mark."),
+              "\xef\xbb\xbf; Statics\n[KeltoItem]\nname=Beam\n", "[KeltoItem]\nname=Beam\n" },
+            { "bad-escape", Severity::Error,
+              QT_TRANSLATE_NOOP("Command", "A backslash is followed by nothing that it escapes"),
+              QT_TRANSLATE_NOOP("Command",
+                                "Backslash and letter are dropped. Write a backslash as two."),
+              "[KeltoItem]\nname=Beam\nicon=C:\\icons\n",
+              "[KeltoItem]\nname=Beam\nicon=C:/icons\n" },
+            { "not-utf8", Severity::Error, QT_TRANSLATE_NOOP("Command", "Bytes are not UTF-8"),
+              QT_TRANSLATE_NOOP("Command",
+                                "Files are read in UTF-8, in which these bytes mean nothing. "
+                                "Save the file in that encoding."),
+              "[KeltoItem]\nname=Tr\xe4ger\n", "[KeltoItem]\nname=Träger\n" },
+            { "stray-quote", Severity::Error,
+              QT_TRANSLATE_NOOP("Command", "A quote inside of a text is dropped"),
+              QT_TRANSLATE_NOOP("Command",
+                                "Quotes belong around a whole text. A quote inside of it is "
+                                "written as \\\"."),
+              "[KeltoItem]\nname=Beam\ndescription=The \"slender\" beam\n",
+              "[KeltoItem]\nname=Beam\ndescription=The slender beam\n" },
+            { "unsaved-character", Severity::Warning,
+              QT_TRANSLATE_NOOP("Command", "A character is gone when the file is saved"),
+              QT_TRANSLATE_NOOP("Command",
+                                "QSettings of Qt 5 reads characters such as emoji and does not "
+                                "write them."),
+              "[KeltoItem]\nname=Beam\ndescription=Bending \xf0\x9f\x93\x90\n",
+              "[KeltoItem]\nname=Beam\ndescription=Bending\n" },
+            { "damaged-value", Severity::Error,
+              QT_TRANSLATE_NOOP("Command", "A value of another type than text is damaged"),
+              QT_TRANSLATE_NOOP("Command",
+                                "A value that begins with \"@Variant(\" and the like was written "
+                                "by a program. What is left of it cannot be read. Write a text "
+                                "that begins with \"@\" as \"@@\"."),
+              "[KeltoItem]\nname=Beam\n\n[ExtraKey]\nSize=@Size(12 px)\n",
+              "[KeltoItem]\nname=Beam\n\n[ExtraKey]\nSize=@Size(12 7)\n" },
+            { "unsafe-value", Severity::Error,
+              QT_TRANSLATE_NOOP("Command", "A value is unsafe to read"),
+              QT_TRANSLATE_NOOP("Command",
+                                "Its bytes could end the program, so that the library reads "
+                                "nothing of the file. Remove the value."),
+              "[KeltoItem]\nname=Beam\n\n[ExtraKey]\nTime=@DateTime(\\0\\0\\0V\\0)\n",
+              "[KeltoItem]\nname=Beam\n\n[ExtraKey]\nTime=12:00\n" },
         },
         check,
         nullptr

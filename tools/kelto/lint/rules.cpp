@@ -6,7 +6,29 @@
 const QVector<RuleArea> &ruleAreas()
 {
     static const QVector<RuleArea> areas {
-        damageRules(), nameRules(), registryRules(), hintRules(), unitRules(), codeRules(),
+        damageRules(),   keyRules(),  structureRules(), valueRules(), nameRules(),
+        registryRules(), hintRules(), unitRules(),      codeRules(),
     };
     return areas;
+}
+
+QStringList ruleNames()
+{
+    QStringList names;
+    for (const RuleArea &area : ruleAreas()) {
+        for (const Rule &rule : area.rules)
+            names.append(QLatin1String(rule.id));
+    }
+    return names;
+}
+
+const Rule *ruleOf(const QString &id)
+{
+    for (const RuleArea &area : ruleAreas()) {
+        for (const Rule &rule : area.rules) {
+            if (QLatin1String(rule.id) == id)
+                return &rule;
+        }
+    }
+    return nullptr;
 }

@@ -6,7 +6,7 @@
 
 #include "core/inireader_p.h"
 
-#include <QString>
+#include <QStringList>
 #include <QVector>
 
 class ItemFile;
@@ -61,8 +61,17 @@ RuleArea hintRules();
 RuleArea nameRules();
 RuleArea registryRules();
 RuleArea unitRules();
+RuleArea keyRules();
+RuleArea structureRules();
+RuleArea valueRules();
 
 /// All areas, in the order in which their rules are listed.
 const QVector<RuleArea> &ruleAreas();
+
+/// The identifiers of all rules, in the same order.
+QStringList ruleNames();
+
+/// The rule with the identifier @p id; null when there is none.
+const Rule *ruleOf(const QString &id);
 
 #endif

@@ -1,0 +1,88 @@
+// SPDX-FileCopyrightText: The Kelto developers
+// SPDX-License-Identifier: MIT
+
+// What the rules find, in their own examples and in other files.
+
+#include "lint/linter.h"
+
+#include "support/directorytest.h"
+#include "support/testfiles.h"
+
+#include <QTest>
+
+class TestKeltoLint : public DirectoryTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void showsWhatItMeans_data();
+    void showsWhatItMeans();
+};
+
+namespace {
+
+/// Writes the files of an example, which a line "; --- NAME ---" divides, and reads them again.
+QVector<ItemFile> filesOf(const char *example)
+{
+    QByteArrayList lines = QByteArray(example).split('\n');
+    QByteArray name = "first.ini";
+    QMap<QByteArray, QByteArray> contents;
+    for (int i = 0; i < lines.size(); ++i) {
+        const QByteArray &line = lines.at(i);
+        if (line.startsWith("; --- ") && line.endsWith(" ---"))
+            name = line.mid(6).chopped(4);
+        else
+            contents[name] += line + (i + 1 < lines.size() ? "\n" : "");
+    }
+    QVector<ItemFile> files;
+    for (auto each = contents.cbegin(); each != contents.cend(); ++each) {
+        writeFile(QString::fromUtf8(each.key()), each.value());
+        if (each.key().endsWith(".ini"))
+            files.append(ItemFile(QString::fromUtf8(each.key())));
+    }
+    return files;
+}
+
+QStringList findingsOf(const QVector<ItemFile> &files)
+{
+    Findings findings;
+    for (const ItemFile &file : files)
+        findings += findingsIn(file);
+    findings += findingsAmong(files);
+    QStringList lines;
+    for (const Finding &finding : qAsConst(findings)) {
+        lines.append(QString("%1 %2:%3:%4")
+                         .arg(finding.rule, finding.path)
+                         .arg(finding.position.line)
+                         .arg(finding.position.column));
+    }
+    return lines;
+}
+
+} // namespace
+
+void TestKeltoLint::showsWhatItMeans_data()
+{
+    QTest::addColumn<QString>("finding");
+
+    // Each line is a rule and where its bad example has the finding.
+    const QStringList lines = QString::fromUtf8(fileContent(LINT_POSITIONS)).split('\n');
+    QHash<QString, QString> positions;
+    for (const QString &line : lines)
+        positions.insert(line.section(' ', 0, 0), line);
+    for (const QString &rule : ruleNames())
+        QTest::newRow(qPrintable(rule)) << positions.value(rule, rule + " has no position");
+}
+
+void TestKeltoLint::showsWhatItMeans()
+{
+    QFETCH(QString, finding);
+    const Rule *const rule = ruleOf(finding.section(' ', 0, 0));
+
+    QCOMPARE(findingsOf(filesOf(rule->bad)), QStringList(finding));
+    QCOMPARE(findingsOf(filesOf(rule->good)), QStringList());
+}
+
+QTEST_GUILESS_MAIN(TestKeltoLint)
+
+#include "tst_kelto_lint.moc"

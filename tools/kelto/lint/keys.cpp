@@ -1,0 +1,390 @@
+// SPDX-FileCopyrightText: The Kelto developers
+// SPDX-License-Identifier: MIT
+
+// Sections and keys that nobody looks up, or that are read as others.
+
+#include "command.h"
+#include "lint/examples.h"
+#include "lint/filefindings.h"
+#include "lint/lintitem.h"
+#include "nearestname.h"
+
+#include <QSet>
+
+#include <algorithm>
+
+namespace {
+
+/// Names that differ in the case of their letters only are one to whoever writes them.
+bool areAlike(const QString &a, const QString &b)
+{
+    return a.compare(b, Qt::CaseInsensitive) == 0;
+}
+
+// --- Sections ----------------------------------------------------------------------
+
+bool hasSection(const ItemFile &file, const QString &name)
+{
+    return std::any_of(file.sections().cbegin(), file.sections().cend(),
+                       [&name](const ItemFileSection &each) { return each.name == name; });
+}
+
+void checkSections(FileFindings *findings)
+{
+    const ItemFile &file = findings->file();
+    for (const ItemFileSection &section : file.sections()) {
+        if (knownSections().contains(section.name)
+            || areAlike(section.name, QStringLiteral("General")))
+            continue;
+        const QString nearest = nearestName(section.name, knownSections());
+        const QString text
+            = Command::tr("nothing is read from the section \"%1\".").arg(section.name);
+        if (nearest.isEmpty()) {
+            findings->add("unknown-section", section.position, text.chopped(1));
+            continue;
+        }
+        const bool isClear = areAlike(nearest, section.name) && !hasSection(file, nearest);
+        findings->add("misspelt-section", section.position,
+                      text + didYouMean(section.name, knownSections()),
+                      isClear
+                          ? QVector<TextEdit> { findings->edit(section.spelt, nearest.toUtf8()) }
+                          : QVector<TextEdit>());
+    }
+}
+
+// --- The spelling of keys ----------------------------------------------------------
+
+/// Non-ASCII letters as QSettings spells them; null when the bytes are not UTF-8.
+QByteArray respelt(std::string_view key)
+{
+    if (firstInvalidByte(key) != key.data() + key.size())
+        return {};
+    QByteArray spelt;
+    const QString text = QString::fromUtf8(key.data(), static_cast<int>(key.size()));
+    for (const QChar c : text) {
+        const QByteArray number = QByteArray::number(c.unicode(), 16).toUpper();
+        if (c.unicode() < 0x80)
+            spelt += c.toLatin1();
+        else if (c.unicode() <= 0xff)
+            spelt += '%' + number;
+        else
+            spelt += "%U" + number.rightJustified(4, '0');
+    }
+    return spelt;
+}
+
+/// The first "%" in @p key that is read together with the next characters, though QSettings would
+/// write the character they stand for as it is; null when there is none.
+const char *oddEscapeIn(std::string_view key)
+{
+    for (std::size_t at = key.find('%'); at != key.npos; at = key.find('%', at + 1)) {
+        const std::size_t length = key.substr(at, 2) == "%U" ? 6 : 3;
+        const QString read = SettingsKey { {}, key.substr(at, length) }.text();
+        if (read.size() != 1 || read == QLatin1String("%"))
+            continue;
+        const bool isUsual = read.at(0).unicode() < 0x80
+            && (read.at(0).isLetterOrNumber() || QStringLiteral("_-.").contains(read.at(0)));
+        const auto isDigit = [](char c) { return std::isxdigit(static_cast<unsigned char>(c)); };
+        const std::string_view digits = key.substr(at + length / 3, length - length / 3);
+        if (isUsual || !std::all_of(digits.cbegin(), digits.cend(), isDigit))
+            return key.data() + at;
+    }
+    return nullptr;
+}
+
+bool isReadable(const QString &name)
+{
+    const QLatin1Char slash('/');
+    return !name.startsWith(slash) && !name.endsWith(slash) && !name.contains(QLatin1String("//"));
+}
+
+void checkSpelling(const ItemFileKey &key, FileFindings *findings)
+{
+    const auto isAscii = [](char c) { return static_cast<signed char>(c) >= 0; };
+    const auto foreign = std::find_if_not(key.spelt.cbegin(), key.spelt.cend(), isAscii);
+    if (key.spelt.find_first_of("\r\n") != key.spelt.npos) {
+        findings->add("quote-in-key", key.position,
+                      Command::tr("the quote in the key makes the next lines a part of the key; "
+                                  "write it as %22"));
+    } else if (key.name.isEmpty()) {
+        findings->add("nameless-key", key.position, Command::tr("no key stands before the \"=\""));
+    } else if (foreign != key.spelt.cend()) {
+        const QByteArray spelt = respelt(key.spelt);
+        findings->add("non-ascii-key", &*foreign,
+                      Command::tr("the key is read as \"%1\": other letters than ASCII are "
+                                  "written as %U and four hexadecimal digits in a key")
+                          .arg(key.name),
+                      spelt.isEmpty() ? QVector<TextEdit>()
+                                      : QVector<TextEdit> { findings->edit(key.spelt, spelt) });
+    } else if (const char *const escape = oddEscapeIn(key.spelt)) {
+        findings->add("escape-in-key", escape,
+                      Command::tr("the key is read as \"%1\"; write \"%\" as %25").arg(key.name));
+    }
+    if (key.name.contains(QLatin1Char('/')) && isReadable(key.name)) {
+        findings->add("slash-in-key", key.position,
+                      Command::tr("of the key only \"%1\" is read, what stands behind the \"/\"")
+                          .arg(key.name.mid(key.name.lastIndexOf(QLatin1Char('/')) + 1)));
+    }
+}
+
+// --- What keys are for -------------------------------------------------------------
+
+void checkField(const LintItem &item, const ItemFileKey &key, FileFindings *findings)
+{
+    if (knownFields().contains(key.name) || key.name.isEmpty())
+        return;
+    if (isTranslatedField(key.name)) {
+        findings->add("translated-field", key.position,
+                      Command::tr("\"%1\" is not read: texts of files are translated by "
+                                  "KeltoItemTranslation, in the context \"Tr_ObjectName\"")
+                          .arg(key.name));
+        return;
+    }
+    const QString nearest = nearestName(key.name, knownFields());
+    const QString text = Command::tr("nothing reads the key \"%1\".").arg(key.name);
+    if (nearest.isEmpty()) {
+        findings->add("unknown-key", key.position, text.chopped(1));
+        return;
+    }
+    const bool isClear
+        = areAlike(nearest, key.name) && item.field(nearest.toLatin1().constData()) == &key;
+    findings->add("misspelt-key", key.position, text + didYouMean(key.name, knownFields()),
+                  isClear ? QVector<TextEdit> { findings->edit(key.spelt, nearest.toUtf8()) }
+                          : QVector<TextEdit>());
+}
+
+/// Keys that describe a parameter or a result, where neither has that key.
+class UndeclaredKeys
+{
+public:
+    explicit UndeclaredKeys(const LintItem &item)
+        : m_parameters(declaredIn(item, QStringLiteral("Attribute")))
+        , m_all(m_parameters + declaredIn(item, QStringLiteral("Result")))
+        , m_known(m_all.cbegin(), m_all.cend())
+    {
+    }
+
+    void check(const LintKey &key, FileFindings *findings) const
+    {
+        static const QStringList describing {
+            QStringLiteral("Belong"), QStringLiteral("Group"), QStringLiteral("ObjectName"),
+            QStringLiteral("Symbol"), QStringLiteral("Unit"),  QStringLiteral("Multi")
+        };
+        const QString &name = key.name;
+        if (!describing.contains(key.section) || name.isEmpty() || name.contains(QLatin1Char('/')))
+            return;
+        const bool isForParameters = key.section == describing.constFirst();
+        if (isForParameters ? m_parameters.contains(name) : m_known.contains(name))
+            return;
+        const QString text = isForParameters
+            ? Command::tr("there is no parameter \"%1\".")
+            : Command::tr("there is neither a parameter nor a result \"%1\".");
+        const QStringList candidates = isForParameters ? m_parameters : m_all;
+        const QString nearest = didYouMean(name, candidates);
+        findings->add("undeclared-key", key.key->position,
+                      nearest.isEmpty() ? text.arg(name).chopped(1) : text.arg(name) + nearest);
+    }
+
+private:
+    /// Of a key with a "/" the last part is what is looked up.
+    static QStringList declaredIn(const LintItem &item, const QString &section)
+    {
+        QStringList names = item.namesIn(section);
+        for (QString &name : names)
+            name = name.mid(name.lastIndexOf(QLatin1Char('/')) + 1);
+        return names;
+    }
+
+    const QStringList m_parameters;
+    const QStringList m_all;
+    const QSet<QString> m_known;
+};
+
+// --- Keys that are given twice -----------------------------------------------------
+
+bool isBoth(const LintItem &item, const LintKey &key)
+{
+    static const QStringList describing { QStringLiteral("Group"), QStringLiteral("ObjectName"),
+                                          QStringLiteral("Symbol"), QStringLiteral("Unit"),
+                                          QStringLiteral("Multi") };
+    return describing.contains(key.section) && item.find(QStringLiteral("Attribute"), key.name)
+        && item.find(QStringLiteral("Result"), key.name);
+}
+
+void addDuplicate(const LintItem &item, const LintKey &key, const ItemFileKey &first,
+                  FileFindings *findings)
+{
+    const ItemFileKey &again = *key.key;
+    const QString line = QString::number(first.position.line);
+    if (first.value == again.value) {
+        findings->add("repeated-key", again.position,
+                      Command::tr("\"%1\" stands in line %2, too, with the same value")
+                          .arg(again.name, line));
+    } else if (isBoth(item, key)) {
+        findings->add("parameter-and-result", again.position,
+                      Command::tr("\"%1\" is a parameter and a result and is described in line %2 "
+                                  "in another way; only one description is read, for both")
+                          .arg(again.name, line));
+    } else {
+        findings->add("duplicate-key", again.position,
+                      Command::tr("\"%1\" stands in line %2, too, with another value; only one "
+                                  "of them is read")
+                          .arg(again.name, line));
+    }
+}
+
+void checkDuplicates(const LintItem &item, FileFindings *findings)
+{
+    QHash<QString, const ItemFileKey *> firsts;
+    for (const LintKey &key : item.keys()) {
+        const QString name = key.key->section + QLatin1Char('/') + key.key->name;
+        const ItemFileKey *&first = firsts[name];
+        if (first)
+            addDuplicate(item, key, *first, findings);
+        else
+            first = key.key;
+    }
+}
+
+void check(const ItemFile &file, Findings *findings)
+{
+    FileFindings added(file, findings);
+    const LintItem item(file);
+    const UndeclaredKeys undeclared(item);
+    checkSections(&added);
+    for (const LintKey &key : item.keys()) {
+        if (key.key->section.isEmpty()) {
+            added.add("key-outside-section", key.key->position,
+                      Command::tr("the key stands in no section and is not read"));
+        } else if (!key.section.isEmpty()) {
+            checkSpelling(*key.key, &added);
+            undeclared.check(key, &added);
+            if (key.section == knownSections().constFirst())
+                checkField(item, *key.key, &added);
+        }
+    }
+    checkDuplicates(item, &added);
+}
+
+} // namespace
+
+RuleArea keyRules()
+{
+    return {
+        {
+            { "misspelt-section", Severity::Error,
+              QT_TRANSLATE_NOOP("Command", "The name of a section is misspelt"),
+              QT_TRANSLATE_NOOP("Command",
+                                "Names of sections are compared with case. Nothing is read from a "
+                                "section with another name."),
+              "[Keltoitem]\nname=Beam\n", "[KeltoItem]\nname=Beam\n" },
+            { "unknown-section", Severity::Warning,
+              QT_TRANSLATE_NOOP("Command", "A section is none of a module item"),
+              QT_TRANSLATE_NOOP("Command",
+                                "Nothing is read from it. What a host wants to know of a module "
+                                "belongs into the section ExtraKey."),
+              "[KeltoItem]\nname=Beam\n\n[Window]\nWidth=800\n",
+              "[KeltoItem]\nname=Beam\n\n[ExtraKey]\nWindow width=800\n" },
+            { "key-outside-section", Severity::Error,
+              QT_TRANSLATE_NOOP("Command", "A key stands in no section"),
+              QT_TRANSLATE_NOOP("Command",
+                                "Keys before the first header, and those in [General], are not "
+                                "read."),
+              "icon=beam.png\n\n[KeltoItem]\nname=Beam\n",
+              "[KeltoItem]\nicon=beam.png\nname=Beam\n" },
+            { "misspelt-key", Severity::Error,
+              QT_TRANSLATE_NOOP("Command", "The name of a field is misspelt"),
+              QT_TRANSLATE_NOOP("Command",
+                                "Keys are compared with case. Nothing reads a key of another "
+                                "name."),
+              "[KeltoItem]\nname=Beam\nDescription=Bending\n",
+              "[KeltoItem]\nname=Beam\ndescription=Bending\n" },
+            { "unknown-key", Severity::Warning,
+              QT_TRANSLATE_NOOP("Command", "A key of the section KeltoItem is no field"),
+              QT_TRANSLATE_NOOP("Command",
+                                "Nothing reads it. What a host wants to know of a module belongs "
+                                "into the section ExtraKey."),
+              "[KeltoItem]\nname=Beam\nauthor=Euler\n",
+              "[KeltoItem]\nname=Beam\n\n[ExtraKey]\nauthor=Euler\n" },
+            { "translated-field", Severity::Error,
+              QT_TRANSLATE_NOOP("Command", "A file carries no translated texts"),
+              QT_TRANSLATE_NOOP("Command",
+                                "name_tr and its like are not read: they become copies of the "
+                                "plain texts. KeltoItemTranslation translates an item that was "
+                                "read, in the context that \"Tr_ObjectName\" names."),
+              "[KeltoItem]\nname=Beam\nname_tr=Balken\n",
+              "[KeltoItem]\nname=Beam\nTr_ObjectName=ModuleTexts\n" },
+            { "undeclared-key", Severity::Error,
+              QT_TRANSLATE_NOOP("Command", "A description belongs to no parameter or result"),
+              QT_TRANSLATE_NOOP("Command",
+                                "What describes a key is read only where the same key, with "
+                                "case, stands under [Attribute] or [Result]; \"Belong\" is for "
+                                "parameters only."),
+              "[KeltoItem]\nname=Pump\ntype=calculation\nexclusive_group=true\ninner_mode_count=1\n"
+              "inner_mode_nameList=Design\n\n[Attribute]\nStatic Head=\n\n"
+              "[Belong]\nStatic Head=Design\n\n[Unit]\nStatic head=m, m\n",
+              "[KeltoItem]\nname=Pump\ntype=calculation\nexclusive_group=true\ninner_mode_count=1\n"
+              "inner_mode_nameList=Design\n\n[Attribute]\nStatic head=\n\n"
+              "[Belong]\nStatic head=Design\n\n[Unit]\nStatic head=m, m\n" },
+            { "nameless-key", Severity::Error, QT_TRANSLATE_NOOP("Command", "A key has no name"),
+              QT_TRANSLATE_NOOP("Command", "Before the \"=\" stands a key."),
+              "[KeltoItem]\nname=Beam\n\n[ExtraKey]\n=Euler\n",
+              "[KeltoItem]\nname=Beam\n\n[ExtraKey]\nAuthor=Euler\n" },
+            { "non-ascii-key", Severity::Error,
+              QT_TRANSLATE_NOOP("Command", "A key holds letters that are not ASCII"),
+              QT_TRANSLATE_NOOP("Command",
+                                "Keys, unlike values, are not read in UTF-8: each byte becomes a "
+                                "letter. QSettings writes a letter that is not ASCII as %U and "
+                                "four hexadecimal digits, or as % and two."),
+              "[KeltoItem]\nname=Beam\n\n[ExtraKey]\n作者=Euler\n",
+              "[KeltoItem]\nname=Beam\n\n[ExtraKey]\n%U4F5C%U8005=Euler\n" },
+            { "escape-in-key", Severity::Error,
+              QT_TRANSLATE_NOOP("Command", "A \"%\" in a key is read as an escape"),
+              QT_TRANSLATE_NOOP("Command",
+                                "% and two hexadecimal digits stand for one character in a key. "
+                                "A \"%\" before digits or letters is written as %25."),
+              "[KeltoItem]\nname=Beam\n\n[ExtraKey]\nSteel%50=yes\n",
+              "[KeltoItem]\nname=Beam\n\n[ExtraKey]\nSteel%2550=yes\n" },
+            { "quote-in-key", Severity::Error,
+              QT_TRANSLATE_NOOP("Command", "A quote in a key swallows the next lines"),
+              QT_TRANSLATE_NOOP("Command",
+                                "All up to the next quote belongs to the key. A quote in a key is "
+                                "written as %22."),
+              "[KeltoItem]\nname=Beam\n\n[ExtraKey]\nPipe 5\"=yes\nPipe 6\"=no\n",
+              "[KeltoItem]\nname=Beam\n\n[ExtraKey]\nPipe 5%22=yes\nPipe 6%22=no\n" },
+            { "slash-in-key", Severity::Error, QT_TRANSLATE_NOOP("Command", "A key holds a \"/\""),
+              QT_TRANSLATE_NOOP("Command",
+                                "Of such a key only the last part is read, and what describes it "
+                                "is looked up under that. Backslashes are read as \"/\"."),
+              "[KeltoItem]\nname=Beam\n\n[ExtraKey]\nPrice/m=12\n",
+              "[KeltoItem]\nname=Beam\n\n[ExtraKey]\nPrice per m=12\n" },
+            { "duplicate-key", Severity::Error,
+              QT_TRANSLATE_NOOP("Command", "A key is given twice, with different values"),
+              QT_TRANSLATE_NOOP("Command", "Only one of them is read. Remove the other."),
+              "[KeltoItem]\nname=Beam\ngroup=Statics\ngroup=Beams\n",
+              "[KeltoItem]\nname=Beam\ngroup=Statics\n" },
+            { "repeated-key", Severity::Warning,
+              QT_TRANSLATE_NOOP("Command", "A key is given twice, with the same value"),
+              QT_TRANSLATE_NOOP("Command",
+                                "Nothing is lost yet, but only one of them counts when somebody "
+                                "changes the other."),
+              "[KeltoItem]\nname=Beam\ngroup=Statics\ngroup=Statics\n",
+              "[KeltoItem]\nname=Beam\ngroup=Statics\n" },
+            { "parameter-and-result", Severity::Error,
+              QT_TRANSLATE_NOOP("Command",
+                                "A parameter and a result of one key are described differently"),
+              QT_TRANSLATE_NOOP("Command",
+                                "Both are described by the same keys, of which only one counts. "
+                                "Give them different keys, or one description."),
+              BEAM_ITEM
+              "output_results=Load\n\n[Attribute]\nLoad=\n\n"
+              "[Belong]\nLoad=Cantilever\n\n[Result]\nLoad=\n\n[Symbol]\nLoad=F\nLoad=Fmax\n",
+              BEAM_ITEM
+              "output_results=Largest load\n\n"
+              "[Attribute]\nLoad=\n\n[Belong]\nLoad=Cantilever\n\n[Result]\nLargest load=\n\n"
+              "[Symbol]\nLoad=F\nLargest load=Fmax\n" },
+        },
+        check,
+        nullptr
+    };
+}

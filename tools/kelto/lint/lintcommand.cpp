@@ -1,0 +1,141 @@
+// SPDX-FileCopyrightText: The Kelto developers
+// SPDX-License-Identifier: MIT
+
+#include "commands.h"
+#include "console.h"
+#include "itempaths.h"
+#include "lint/lintconfig.h"
+#include "lint/linter.h"
+#include "lint/lintoutput.h"
+#include "nearestname.h"
+
+#include <QCommandLineParser>
+#include <QJsonArray>
+
+namespace {
+
+ExitCode explain(const QString &id, bool asJson, Console &console)
+{
+    const Rule *const rule = ruleOf(id);
+    if (!rule) {
+        console.complain(Command::tr("there is no rule \"%1\".").arg(id)
+                         + didYouMean(id, ruleNames()));
+        return WrongUsage;
+    }
+    if (asJson)
+        console.print(ruleAsJson(*rule));
+    else
+        console.print(ruleAsText(*rule));
+    return Done;
+}
+
+ExitCode listRules(bool asJson, Console &console)
+{
+    QJsonArray array;
+    QString text;
+    for (const RuleArea &area : ruleAreas()) {
+        for (const Rule &rule : area.rules) {
+            array.append(ruleAsJson(rule));
+            text += QStringLiteral("%1  %2  %3\n")
+                        .arg(QLatin1String(rule.id), -24)
+                        .arg(wordOf(rule.severity), -7)
+                        .arg(Command::tr(rule.summary));
+        }
+    }
+    if (asJson)
+        console.print(QJsonObject { { QStringLiteral("rules"), array } });
+    else
+        console.print(text);
+    return Done;
+}
+
+void print(const Findings &findings, const LintConfig &config, const QCommandLineParser &line,
+           Console &console)
+{
+    if (line.isSet(QStringLiteral("sarif")))
+        console.print(findingsAsSarif(findings, config));
+    else if (line.isSet(QStringLiteral("json")))
+        console.print(findingsAsJson(findings, {}, config));
+    else
+        console.print(findingsAsText(findings, config, console.isColoured()));
+}
+
+ExitCode lintFiles(const QCommandLineParser &line, Console &console)
+{
+    bool areAllFound = false;
+    const QStringList paths = itemFilesAt(line.positionalArguments(), console, &areAllFound);
+    const LintConfig config(paths);
+    for (const QString &complaint : config.complaints())
+        console.complain(complaint);
+    if (!config.complaints().isEmpty())
+        return WrongUsage;
+    const LintResult result = lint(paths, config, console);
+    for (const QString &sentence : result.unreadable)
+        console.complain(sentence);
+    print(result.findings, config, line, console);
+    const bool isDone = areAllFound && result.unreadable.isEmpty() && result.findings.isEmpty();
+    return isDone ? Done : Found;
+}
+
+ExitCode run(const QCommandLineParser &line, Console &console)
+{
+    const bool asJson = line.isSet(QStringLiteral("json"));
+    if (line.isSet(QStringLiteral("explain")))
+        return explain(line.value(QStringLiteral("explain")), asJson, console);
+    if (line.isSet(QStringLiteral("rules")))
+        return listRules(asJson, console);
+    if (!line.positionalArguments().isEmpty())
+        return lintFiles(line, console);
+    console.complain(
+        Command::tr("\"%1\" needs %2.").arg(QStringLiteral("lint"), QStringLiteral("PATH..."))
+        + QLatin1Char(' ') + Command::tr("Try \"kelto %1\".").arg(QStringLiteral("lint --help")));
+    return WrongUsage;
+}
+
+} // namespace
+
+Command lintCommand()
+{
+    return {
+        "lint",
+        "PATH...",
+        0,
+        -1,
+        QT_TRANSLATE_NOOP("Command", "Find what is wrong in files of module items"),
+        QT_TRANSLATE_NOOP(
+            "Command",
+            "Lists every problem of module item files, one to a line: file, line, column, "
+            "severity,\n"
+            "what is wrong, and the rule in brackets. Of a directory all files are read that end "
+            "in\n"
+            "\".ini\". The exit code is 1 when there is a finding, also if it is only a warning.\n"
+            "\n"
+            "Rules are configured in files named \".kelto-lint.ini\", in the directory of a file "
+            "or\n"
+            "above it; the nearest one counts. They hold the section [Rules], in which a key is a\n"
+            "rule and its value one of error, warning and off:\n"
+            "\n"
+            "  [Rules]\n"
+            "  comment=warning\n"
+            "  mode-without-parameters=off"),
+        {
+            { { QStringLiteral("explain") },
+              "RULE",
+              QT_TRANSLATE_NOOP("Command",
+                                "Say why a rule matters, with a bad and a good example.") },
+            { { QStringLiteral("rules") },
+              nullptr,
+              QT_TRANSLATE_NOOP("Command", "List all rules.") },
+            { { QStringLiteral("sarif") },
+              nullptr,
+              QT_TRANSLATE_NOOP("Command", "Write the findings as SARIF 2.1.0.") },
+        },
+        {
+            { "kelto lint modules",
+              QT_TRANSLATE_NOOP("Command", "All item files below a directory.") },
+            { "kelto lint --explain unknown-mode",
+              QT_TRANSLATE_NOOP("Command", "What is behind a finding.") },
+        },
+        run
+    };
+}

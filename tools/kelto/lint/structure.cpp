@@ -1,0 +1,396 @@
+// SPDX-FileCopyrightText: The Kelto developers
+// SPDX-License-Identifier: MIT
+
+// Modes, parameters and results that are lost because parts of a file do not fit each other.
+
+#include "command.h"
+#include "lint/examples.h"
+#include "lint/filefindings.h"
+#include "lint/lintitem.h"
+#include "lint/speltvalue.h"
+#include "nearestname.h"
+
+#include <QSet>
+
+#include <algorithm>
+
+namespace {
+
+QString attribute()
+{
+    return QStringLiteral("Attribute");
+}
+
+QString belong()
+{
+    return QStringLiteral("Belong");
+}
+
+QString result()
+{
+    return QStringLiteral("Result");
+}
+
+class StructureCheck
+{
+public:
+    explicit StructureCheck(FileFindings *findings)
+        : m_findings(findings)
+        , m_item(findings->file())
+        , m_modes(LintItem::elements(m_item.field("inner_mode_nameList")))
+        , m_parameters(m_item.namesIn(attribute()))
+    {
+    }
+
+    void check()
+    {
+        checkName();
+        checkModeCount();
+        checkDescriptions();
+        checkFlag();
+        if (m_modes.isEmpty() && !m_parameters.isEmpty())
+            addMissingModes();
+        else if (checkBelong())
+            checkEmptyModes();
+        checkResults();
+    }
+
+private:
+    IniPosition headerPosition(const QString &name) const
+    {
+        for (const ItemFileSection &section : m_findings->file().sections()) {
+            if (section.name == name)
+                return section.position;
+        }
+        return {};
+    }
+
+    const char *elementPlace(const ItemFileKey &key, int index) const
+    {
+        const SpeltValue spelt = speltValueOf(rawValueOf(m_findings->file(), key));
+        return spelt.elements.at(qMin(index, spelt.elements.size() - 1)).text.data();
+    }
+
+    /// A line behind that of @p key.
+    TextEdit lineBehind(const ItemFileKey &key, const QByteArray &text) const
+    {
+        const QByteArray &bytes = m_findings->file().bytes();
+        const char lineEnd = bytes.contains('\n') ? '\n' : '\r';
+        const int valueEnd = m_findings->offsetOf(key.speltValue.data() + key.speltValue.size());
+        const int end = bytes.indexOf(lineEnd, valueEnd);
+        const bool isPair = end > 0 && lineEnd == '\n' && bytes.at(end - 1) == '\r';
+        const QByteArray lineEnding = isPair ? QByteArray("\r\n") : QByteArray(1, lineEnd);
+        const int place = end < 0 ? bytes.size() : end - (isPair ? 1 : 0);
+        return { place, place, lineEnding + text };
+    }
+
+    void checkName()
+    {
+        const ItemFileKey *const name = m_item.field("name");
+        if (!name) {
+            m_findings->add("missing-name", headerPosition(QStringLiteral("KeltoItem")),
+                            Command::tr("the item has no name: [KeltoItem] has no key \"name\""));
+        } else if (LintItem::elements(name).isEmpty()) {
+            m_findings->add("missing-name", name->valuePosition,
+                            Command::tr("the item has no name"));
+        }
+    }
+
+    void checkModeCount()
+    {
+        const ItemFileKey *const count = m_item.field("inner_mode_count");
+        const ItemFileKey *const names = m_item.field("inner_mode_nameList");
+        const QByteArray right = "inner_mode_count=" + QByteArray::number(m_modes.size());
+        if (!count) {
+            if (!m_modes.isEmpty()) {
+                m_findings->add("mode-count", names->position,
+                                Command::tr("\"inner_mode_count\" is missing, so that there is no "
+                                            "mode; %1 have a name")
+                                    .arg(m_modes.size()),
+                                { lineBehind(*names, right) });
+            }
+            return;
+        }
+        bool isNumber = false;
+        const int number = count->value.constFirst().toInt(&isNumber);
+        if (!isNumber || number == m_modes.size())
+            return;
+        // What fits the descriptions is right.
+        const bool isCountRight = names && number == descriptions().size();
+        m_findings->add("mode-count", isCountRight ? names->valuePosition : count->valuePosition,
+                        Command::tr("\"inner_mode_count\" is %1, and \"inner_mode_nameList\" has "
+                                    "%2; a name with a comma needs quotes")
+                            .arg(number)
+                            .arg(m_modes.size()));
+    }
+
+    QStringList descriptions() const
+    {
+        return LintItem::elements(m_item.field("inner_mode_description"));
+    }
+
+    void checkDescriptions()
+    {
+        const ItemFileKey *const key = m_item.field("inner_mode_description");
+        const ItemFileKey *const count = m_item.field("inner_mode_count");
+        const int size = descriptions().size();
+        if (size == 0 || size == m_modes.size()
+            || (count && count->value.constFirst() == QString::number(size)))
+            return;
+        m_findings->add("list-length", key->valuePosition,
+                        Command::tr("there are %1 descriptions for %2 modes; a description with a "
+                                    "comma needs quotes")
+                            .arg(size)
+                            .arg(m_modes.size()));
+    }
+
+    void checkFlag()
+    {
+        const ItemFileKey *const flag = m_item.field("exclusive_group");
+        if (!m_modes.isEmpty() && (!flag || flag->value == QStringList(QString()))) {
+            m_findings->add("missing-exclusive-group",
+                            m_item.field("inner_mode_nameList")->position,
+                            Command::tr("modes are listed, and \"exclusive_group\" does not say "
+                                        "whether one of them is selected at a time"));
+        }
+    }
+
+    void addMissingModes()
+    {
+        m_findings->add("missing-modes",
+                        m_item.find(attribute(), m_parameters.constFirst())->position,
+                        Command::tr("there are parameters, but \"inner_mode_nameList\" names no "
+                                    "mode to which they belong"));
+    }
+
+    /// Whether every parameter belongs to modes that there are.
+    bool checkBelong()
+    {
+        bool isRight = true;
+        const QSet<QString> meant = misspeltParameters();
+        for (const QString &name : m_parameters) {
+            const ItemFileKey *const key = m_item.find(belong(), name);
+            const QStringList modes = LintItem::elements(key);
+            if (!modes.isEmpty()) {
+                isRight = checkModes(*key, modes) && isRight;
+                continue;
+            }
+            isRight = false;
+            if (name.contains(QLatin1Char('/')) || name.isEmpty() || meant.contains(name))
+                continue;
+            const ItemFileKey &parameter = *m_item.find(attribute(), name);
+            m_findings->add("missing-belong", key ? key->position : parameter.position,
+                            Command::tr("the parameter \"%1\" belongs to no mode; [Belong] has to "
+                                        "name the modes that take it")
+                                .arg(name));
+        }
+        return isRight;
+    }
+
+    /// The parameters that keys of [Belong] mean which belong to none.
+    QSet<QString> misspeltParameters() const
+    {
+        QSet<QString> meant;
+        const QStringList names = m_item.namesIn(belong());
+        for (const QString &name : names) {
+            if (!m_item.find(attribute(), name))
+                meant.insert(nearestName(name, m_parameters));
+        }
+        return meant;
+    }
+
+    bool checkModes(const ItemFileKey &key, const QStringList &modes)
+    {
+        bool isRight = true;
+        for (int i = 0; i < modes.size(); ++i) {
+            const QString &mode = modes.at(i);
+            if (m_modes.contains(mode)) {
+                m_used.insert(mode);
+                continue;
+            }
+            isRight = false;
+            const QString nearest = didYouMean(mode, m_modes);
+            const QString text = Command::tr("there is no mode \"%1\".").arg(mode);
+            m_findings->add("unknown-mode", elementPlace(key, i),
+                            nearest.isEmpty() ? text.chopped(1) : text + nearest,
+                            fixOfMode(key, i));
+        }
+        return isRight;
+    }
+
+    /// Another spelling of one mode only, as far as it is not in quotes.
+    QVector<TextEdit> fixOfMode(const ItemFileKey &key, int index) const
+    {
+        const SpeltValue spelt = speltValueOf(rawValueOf(m_findings->file(), key));
+        const QString mode = key.value.at(index);
+        QStringList alike;
+        for (const QString &each : m_modes) {
+            if (each.compare(mode, Qt::CaseInsensitive) == 0)
+                alike.append(each);
+        }
+        const std::string_view text = spelt.elements.value(index).text;
+        if (alike.size() != 1 || QByteArray(text.data(), int(text.size())) != mode.toUtf8())
+            return {};
+        return { m_findings->edit(text, alike.constFirst().toUtf8()) };
+    }
+
+    void checkEmptyModes()
+    {
+        // The module that records the version of a program takes no parameters.
+        if (m_parameters.isEmpty()
+            && LintItem::elements(m_item.field("name")) == QStringList(QStringLiteral("Update")))
+            return;
+        for (int i = 0; i < m_modes.size(); ++i) {
+            if (m_used.contains(m_modes.at(i)))
+                continue;
+            m_findings->add("mode-without-parameters",
+                            elementPlace(*m_item.field("inner_mode_nameList"), i),
+                            Command::tr("no parameter belongs to the mode \"%1\", and values for "
+                                        "it are never complete")
+                                .arg(m_modes.at(i)));
+        }
+    }
+
+    void checkResults()
+    {
+        const QStringList names = m_item.namesIn(result());
+        const ItemFileKey *const key = m_item.field("output_results");
+        const int count = key && key->value != QStringList(QStringLiteral("@Invalid()"))
+            ? key->value.size()
+            : 0;
+        if (count == names.size() || (names.isEmpty() && LintItem::elements(key).isEmpty()))
+            return;
+        if (key) {
+            m_findings->add("results-not-read", key->valuePosition,
+                            Command::tr("\"output_results\" has %1, and there are %2 under "
+                                        "[Result]; as many are read as it has")
+                                .arg(count)
+                                .arg(names.size()));
+            return;
+        }
+        m_findings->add("results-not-read", m_item.find(result(), names.constFirst())->position,
+                        Command::tr("no result is read, since \"output_results\" is missing under "
+                                    "[KeltoItem]"),
+                        fixOfResults(names));
+    }
+
+    QVector<TextEdit> fixOfResults(const QStringList &names) const
+    {
+        const ItemFileKey *last = nullptr;
+        for (const LintKey &key : m_item.keys()) {
+            if (key.section == QLatin1String("KeltoItem"))
+                last = key.key;
+        }
+        const auto isSimple = [](const QString &name) {
+            return std::all_of(name.cbegin(), name.cend(), [](QChar c) {
+                return c.unicode() >= ' ' && c.unicode() < 0x7f
+                    && !QStringLiteral("\\\",;=@%/").contains(c);
+            });
+        };
+        if (!last || !std::all_of(names.cbegin(), names.cend(), isSimple))
+            return {};
+        return { lineBehind(*last, "output_results=" + names.join(QStringLiteral(", ")).toUtf8()) };
+    }
+
+    FileFindings *const m_findings;
+    const LintItem m_item;
+    const QStringList m_modes;
+    const QStringList m_parameters;
+    QSet<QString> m_used;
+};
+
+void check(const ItemFile &file, Findings *findings)
+{
+    FileFindings added(file, findings);
+    StructureCheck(&added).check();
+}
+
+} // namespace
+
+RuleArea structureRules()
+{
+    return {
+        {
+            { "missing-name", Severity::Error, QT_TRANSLATE_NOOP("Command", "The item has no name"),
+              QT_TRANSLATE_NOOP("Command",
+                                "By its name a module is found. A file without one, or without "
+                                "the section KeltoItem, gives a module that nobody can name."),
+              "[KeltoItem]\ngroup=Statics\n", "[KeltoItem]\nname=Beam\ngroup=Statics\n" },
+            { "mode-count", Severity::Error,
+              QT_TRANSLATE_NOOP("Command", "\"inner_mode_count\" is not the number of modes"),
+              QT_TRANSLATE_NOOP("Command",
+                                "The number decides how many modes there are, whatever the list "
+                                "of names says. Where it is missing there are none. A name with "
+                                "a comma in it needs quotes."),
+              "[KeltoItem]\nname=Beam\ntype=calculation\nexclusive_group=true\ninner_mode_count=1\n"
+              "inner_mode_nameList=Cantilever, Fixed\n\n[Attribute]\nLength=\n\n"
+              "[Belong]\nLength=Cantilever, Fixed\n",
+              "[KeltoItem]\nname=Beam\ntype=calculation\nexclusive_group=true\ninner_mode_count=2\n"
+              "inner_mode_nameList=Cantilever, Fixed\n\n[Attribute]\nLength=\n\n"
+              "[Belong]\nLength=Cantilever, Fixed\n" },
+            { "list-length", Severity::Error,
+              QT_TRANSLATE_NOOP("Command", "There are more or fewer descriptions than modes"),
+              QT_TRANSLATE_NOOP("Command",
+                                "\"inner_mode_description\" has one text for each mode. A text "
+                                "with a comma in it needs quotes."),
+              BEAM_ITEM "inner_mode_description=Clamped at the left, free at the right\n\n"
+                        "[Attribute]\nLength=\n\n[Belong]\nLength=Cantilever\n",
+              BEAM_ITEM "inner_mode_description=\"Clamped at the left, free at the right\"\n\n"
+                        "[Attribute]\nLength=\n\n[Belong]\nLength=Cantilever\n" },
+            { "missing-exclusive-group", Severity::Warning,
+              QT_TRANSLATE_NOOP("Command", "\"exclusive_group\" is missing"),
+              QT_TRANSLATE_NOOP("Command",
+                                "Without it the modes of the module can be selected only if "
+                                "another module makes an exclusive group of their group. Say "
+                                "\"true\" or \"false\"."),
+              "[KeltoItem]\nname=Beam\ntype=calculation\ninner_mode_count=1\ninner_mode_nameList="
+              "Cantilever\n\n"
+              "[Attribute]\nLength=\n\n[Belong]\nLength=Cantilever\n",
+              BEAM_ITEM BEAM_PARAMETER },
+            { "missing-modes", Severity::Error,
+              QT_TRANSLATE_NOOP("Command", "There are parameters and no modes"),
+              QT_TRANSLATE_NOOP("Command",
+                                "Parameters belong to modes. List the names of the modes in "
+                                "\"inner_mode_nameList\"."),
+              "[KeltoItem]\nname=Beam\ntype=calculation\n\n[Attribute]\nLength=\n\n[Belong]"
+              "\nLength=Cantilever\n",
+              BEAM_ITEM BEAM_PARAMETER },
+            { "missing-belong", Severity::Error,
+              QT_TRANSLATE_NOOP("Command", "A parameter belongs to no mode"),
+              QT_TRANSLATE_NOOP("Command",
+                                "\"Belong\" names the modes that take a parameter. Without it the "
+                                "parameter is in none of them."),
+              BEAM_ITEM BEAM_ATTRIBUTE, BEAM_ITEM BEAM_PARAMETER },
+            { "unknown-mode", Severity::Error,
+              QT_TRANSLATE_NOOP("Command", "\"Belong\" names a mode that there is not"),
+              QT_TRANSLATE_NOOP("Command",
+                                "Names of modes are compared with case. The parameter is missing "
+                                "in the mode that was meant, and the check of entered values does "
+                                "not ask for it."),
+              BEAM_ITEM BEAM_ATTRIBUTE "\n[Belong]\nLength=Cantlever\n", BEAM_ITEM BEAM_PARAMETER },
+            { "mode-without-parameters", Severity::Warning,
+              QT_TRANSLATE_NOOP("Command", "No parameter belongs to a mode"),
+              QT_TRANSLATE_NOOP("Command",
+                                "Entered values are never complete for such a mode. Only the "
+                                "module \"Update\" needs none."),
+              "[KeltoItem]\nname=Beam\ntype=calculation\nexclusive_group=true\ninner_mode_count=2\n"
+              "inner_mode_nameList=Cantilever, Fixed\n\n[Attribute]\nLength=\n\n"
+              "[Belong]\nLength=Cantilever\n",
+              "[KeltoItem]\nname=Beam\ntype=calculation\nexclusive_group=true\ninner_mode_count=2\n"
+              "inner_mode_nameList=Cantilever, Fixed\n\n[Attribute]\nLength=\n\n"
+              "[Belong]\nLength=Cantilever, Fixed\n" },
+            { "results-not-read", Severity::Error,
+              QT_TRANSLATE_NOOP("Command",
+                                "\"output_results\" is not as long as there are results"),
+              QT_TRANSLATE_NOOP("Command",
+                                "As many results are read as \"output_results\" has elements, in "
+                                "the order of their keys; without it none. A save does not write "
+                                "it."),
+              "[KeltoItem]\nname=Beam\ntype=calculation\n\n[Result]\nDeflection=\n",
+              "[KeltoItem]\nname=Beam\ntype=calculation\noutput_results=Deflection\n\n[Result]"
+              "\nDeflection=\n" },
+        },
+        check,
+        nullptr
+    };
+}
