@@ -8,13 +8,8 @@
 const QVector<Command> &commands()
 {
     static const QVector<Command> all {
-        showCommand(),
-        modesCommand(),
-        checkCommand(),
-        codeCommand(),
-        docCommand(),
-        lintCommand(),
-        styleCommand(),
+        showCommand(), modesCommand(), checkCommand(), codeCommand(),
+        docCommand(),  lintCommand(),  styleCommand(),
     };
     return all;
 }

@@ -114,7 +114,7 @@ void checkAll(const QVector<ItemFile> &files, Findings *findings)
     const QVector<const ItemFile *> groups = filesOfGroups(files);
     if (groups.size() < 2)
         return;
-    const QVector<TranslationFile> translations = translationFilesOf(files);
+    const std::vector<TranslationFile> translations = translationFilesOf(files);
     for (const TranslationFile &file : translations)
         findGroupsTranslatedAlike(groups, file, findings);
 }
