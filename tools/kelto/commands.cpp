@@ -10,6 +10,15 @@ const QVector<Command> &commands()
     static const QVector<Command> all {
         showCommand(), modesCommand(), checkCommand(), codeCommand(),
         docCommand(),  lintCommand(),  styleCommand(),
+        showCommand(),
+        modesCommand(),
+        checkCommand(),
+        codeCommand(),
+        docCommand(),
+        lintCommand(),
+        fmtCommand(),
+        newCommand(),
+        styleCommand(),
     };
     return all;
 }

@@ -19,6 +19,8 @@ Command modesCommand();
 Command showCommand();
 Command docCommand();
 Command lintCommand();
+Command fmtCommand();
+Command newCommand();
 Command styleCommand();
 
 #endif
