@@ -7,6 +7,8 @@
 
 const QVector<Command> &commands()
 {
+    // One to a line, so that a new command changes no other line.
+    // clang-format off
     static const QVector<Command> all {
         showCommand(), modesCommand(), checkCommand(), codeCommand(),
         docCommand(),  lintCommand(),  styleCommand(),
@@ -20,6 +22,7 @@ const QVector<Command> &commands()
         newCommand(),
         styleCommand(),
     };
+    // clang-format on
     return all;
 }
 
