@@ -10,16 +10,14 @@ const QVector<Command> &commands()
     // One to a line, so that a new command changes no other line.
     // clang-format off
     static const QVector<Command> all {
-        showCommand(), modesCommand(), checkCommand(), codeCommand(),
-        docCommand(),  lintCommand(),  styleCommand(),
+        lintCommand(),
         showCommand(),
         modesCommand(),
         checkCommand(),
         codeCommand(),
         docCommand(),
-        lintCommand(),
-        fmtCommand(),
         newCommand(),
+        fmtCommand(),
         styleCommand(),
     };
     // clang-format on
