@@ -18,6 +18,8 @@ const QVector<Command> &commands()
         docCommand(),
         newCommand(),
         fmtCommand(),
+        lintCommand(),
+        docCommand(),
         styleCommand(),
     };
     // clang-format on
