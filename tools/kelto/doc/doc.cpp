@@ -18,9 +18,9 @@
 
 namespace {
 
-const QString html = QStringLiteral("html");
-const QString markdown = QStringLiteral("markdown");
-const QString qhp = QStringLiteral("qhp");
+constexpr QLatin1String html("html");
+constexpr QLatin1String markdown("markdown");
+constexpr QLatin1String qhp("qhp");
 
 /// Languages become parts of names of files.
 bool isLanguage(const QString &name)

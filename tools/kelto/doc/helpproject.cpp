@@ -27,8 +27,7 @@ private:
     void sections();
     void keyword(const QString &name, const QString &reference);
     void keywords();
-    void rowKeywords(const QVector<ItemTableRow> &rows, const QStringList &ids,
-                     const QString &file);
+    void rowKeywords(const QVector<PrintedRow> &rows, const QStringList &ids, const QString &file);
     void files();
     QString fileOf(const ManualModule &module) const;
 
@@ -96,7 +95,7 @@ void Project::keyword(const QString &name, const QString &reference)
     m_xml.writeAttribute(QStringLiteral("ref"), reference);
 }
 
-void Project::rowKeywords(const QVector<ItemTableRow> &rows, const QStringList &ids,
+void Project::rowKeywords(const QVector<PrintedRow> &rows, const QStringList &ids,
                           const QString &file)
 {
     for (int row = 0; row < rows.size(); ++row)
@@ -110,11 +109,10 @@ void Project::keywords()
         const QString file = fileOf(module);
         keyword(module.title, file);
         for (int mode = 0; mode < module.modeIds.size(); ++mode) {
-            keyword(module.table.modes.at(mode).title,
-                    file + QLatin1Char('#') + module.modeIds.at(mode));
+            keyword(module.modes.at(mode).title, file + QLatin1Char('#') + module.modeIds.at(mode));
         }
-        rowKeywords(module.table.parameters, module.parameterIds, file);
-        rowKeywords(module.table.results, module.resultIds, file);
+        rowKeywords(module.parameters.rows, module.parameterIds, file);
+        rowKeywords(module.results.rows, module.resultIds, file);
     }
     m_xml.writeEndElement();
 }
@@ -122,7 +120,7 @@ void Project::keywords()
 void Project::files()
 {
     m_xml.writeStartElement(QStringLiteral("files"));
-    const QStringList names = htmlAssets().keys() + htmlFiles(m_view).keys();
+    const QStringList names = htmlFileNames(m_view);
     for (const QString &name : names)
         namedElement("file", name);
     m_xml.writeEndElement();

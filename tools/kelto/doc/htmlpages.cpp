@@ -6,7 +6,6 @@
 #include "command.h"
 #include "doc/htmlwriter.h"
 #include "doc/manual.h"
-#include "doc/moduletable.h"
 
 #include <QFile>
 #include <QLocale>
@@ -19,7 +18,9 @@ static void initResources()
 
 namespace {
 
-const QString htmlEnding = QStringLiteral(".html");
+constexpr QLatin1String htmlEnding(".html");
+constexpr QLatin1String scriptEnding(".js");
+constexpr QLatin1String searchIndexFile("searchindex");
 
 /// As HTML spells it: "zh-CN" for "zh_CN".
 QString languageTag(QString language)
@@ -61,13 +62,12 @@ private:
     void modes(const ManualModule &module);
     void parameters(const ManualModule &module);
     void results(const ManualModule &module);
-    void table(const ManualModule &module, const QVector<ItemTableRow> &rows,
-               const QStringList &ids, const QString &name);
-    void tableHead(const ManualModule &module, const QString &name);
+    void table(const PrintedTable &table, const QString &name, const QStringList &ids,
+               const QStringList &modeIds);
+    void tableHead(const PrintedTable &table, const QString &name, const QStringList &modeIds);
     void groupRow(const QString &title, int columns);
-    void row(const ItemTable &table, const ItemTableRow &row, const QString &id);
-    void lines(const QStringList &lines);
-    void modeCell(const QStringList &lines);
+    void row(const PrintedRow &row, const QStringList &columns, const QString &id);
+    void cell(const QStringList &lines, const QString &column);
 
     const ManualView &m_view;
     QString m_page;
@@ -116,7 +116,7 @@ void Page::head(const QString &title)
     m_html.voidElement("link",
                        { { "rel", QStringLiteral("stylesheet") },
                          { "href", QStringLiteral("manual.css") } });
-    const QString index = m_view.file(QStringLiteral("searchindex"), QStringLiteral(".js"));
+    const QString index = m_view.file(searchIndexFile, scriptEnding);
     for (const QString &script : { index, QStringLiteral("search.js") })
         m_html.element("script", {}, { { "src", script }, { "defer", QStringLiteral("defer") } });
     m_html.close();
@@ -190,7 +190,7 @@ void Page::listedModule(const ManualModule &module)
         for (int mode = 0; mode < module.modeIds.size(); ++mode) {
             m_html.open("li");
             m_html.link(file + QLatin1Char('#') + module.modeIds.at(mode),
-                        module.table.modes.at(mode).title);
+                        module.modes.at(mode).title);
             m_html.close();
         }
         m_html.close();
@@ -222,10 +222,10 @@ void Page::modes(const ManualModule &module)
 {
     m_html.open("section");
     m_html.element("h2", Command::tr("Modes"));
-    if (module.table.modes.isEmpty())
+    if (module.modes.isEmpty())
         m_html.element("p", Command::tr("This module has no modes."));
-    for (int mode = 0; mode < module.table.modes.size(); ++mode) {
-        const ItemTableMode &shown = module.table.modes.at(mode);
+    for (int mode = 0; mode < module.modes.size(); ++mode) {
+        const ItemTableMode &shown = module.modes.at(mode);
         m_html.element("h3", shown.title, { { "id", module.modeIds.at(mode) } });
         if (!shown.description.isEmpty())
             m_html.element("p", shown.description, { { "class", QStringLiteral("text") } });
@@ -237,14 +237,14 @@ void Page::parameters(const ManualModule &module)
 {
     m_html.open("section");
     m_html.element("h2", Command::tr("Parameters"));
-    if (module.table.parameters.isEmpty()) {
+    if (module.parameters.rows.isEmpty()) {
         m_html.element("p", Command::tr("This module takes no parameters."));
     } else {
         m_html.element("p",
-                       Command::tr("Below each mode stands the value that a parameter starts with; "
-                                   "%1 if there is none, %2 if the mode does not take it.")
+                       Command::tr("For each mode: the value that a parameter starts with, %1 if "
+                                   "there is none, %2 if the mode does not take it.")
                            .arg(usedMark(), unusedMark()));
-        table(module, module.table.parameters, module.parameterIds, Command::tr("Parameter"));
+        table(module.parameters, Command::tr("Parameter"), module.parameterIds, module.modeIds);
     }
     m_html.close();
 }
@@ -253,21 +253,21 @@ void Page::results(const ManualModule &module)
 {
     m_html.open("section");
     m_html.element("h2", Command::tr("Results"));
-    if (module.table.results.isEmpty()) {
+    if (module.results.rows.isEmpty()) {
         m_html.element("p", Command::tr("This module gives no results."));
     } else {
-        if (!module.table.modes.isEmpty()) {
+        if (!module.modes.isEmpty()) {
             m_html.element("p",
                            Command::tr("%1 marks the modes that give a result.").arg(usedMark()));
         }
-        table(module, module.table.results, module.resultIds, Command::tr("Result"));
+        table(module.results, Command::tr("Result"), module.resultIds, module.modeIds);
     }
     m_html.close();
 }
 
 /// Wide tables scroll in a box of their own, which the keyboard can reach.
-void Page::table(const ManualModule &module, const QVector<ItemTableRow> &rows,
-                 const QStringList &ids, const QString &name)
+void Page::table(const PrintedTable &table, const QString &name, const QStringList &ids,
+                 const QStringList &modeIds)
 {
     m_html.open("div",
                 { { "class", QStringLiteral("scroll") },
@@ -275,32 +275,33 @@ void Page::table(const ManualModule &module, const QVector<ItemTableRow> &rows,
                   { "role", QStringLiteral("region") },
                   { "aria-label", name } });
     m_html.open("table");
-    tableHead(module, name);
+    tableHead(table, name, modeIds);
     m_html.open("tbody");
-    for (int row = 0; row < rows.size(); ++row) {
-        const QString heading = headingAbove(rows, row);
+    for (int row = 0; row < table.rows.size(); ++row) {
+        const QString heading = table.rows.at(row).heading;
         if (row > 0 && !heading.isEmpty()) {
             m_html.close();
             m_html.open("tbody");
         }
-        groupRow(heading, 4 + module.table.modes.size());
-        this->row(module.table, rows.at(row), ids.at(row));
+        groupRow(heading, 1 + table.columns.size());
+        this->row(table.rows.at(row), table.columns, ids.at(row));
     }
     m_html.close(3);
 }
 
-void Page::tableHead(const ManualModule &module, const QString &name)
+void Page::tableHead(const PrintedTable &table, const QString &name, const QStringList &modeIds)
 {
     const HtmlWriter::Attributes scope { { "scope", QStringLiteral("col") } };
     m_html.open("thead");
     m_html.open("tr");
-    const QStringList columns { name, Command::tr("Symbol"), Command::tr("Unit"),
-                                Command::tr("Values") };
-    for (const QString &column : columns)
-        m_html.element("th", column, scope);
-    for (int mode = 0; mode < module.table.modes.size(); ++mode) {
+    m_html.element("th", name, scope);
+    const int shared = table.columns.size() - table.modes;
+    for (int column = 0; column < table.columns.size(); ++column) {
         m_html.open("th", scope);
-        m_html.link(QLatin1Char('#') + module.modeIds.at(mode), module.table.modes.at(mode).title);
+        if (column < shared)
+            m_html.text(table.columns.at(column));
+        else
+            m_html.link(QLatin1Char('#') + modeIds.at(column - shared), table.columns.at(column));
         m_html.close();
     }
     m_html.close(2);
@@ -314,47 +315,36 @@ void Page::groupRow(const QString &title, int columns)
     m_html.open("th",
                 { { "scope", QStringLiteral("rowgroup") },
                   { "colspan", QString::number(columns) } });
-    // In a narrow window the cell is wider than the screen, and the name has to stay in view.
+    // Where the table is wider than the screen, the name has to stay in view.
     m_html.element("span", title);
     m_html.close(2);
 }
 
-void Page::row(const ItemTable &table, const ItemTableRow &row, const QString &id)
+void Page::row(const PrintedRow &row, const QStringList &columns, const QString &id)
 {
-    const PrintedRow printed = printedRow(table, row);
     m_html.open("tr", { { "id", id } });
     m_html.open("th", { { "scope", QStringLiteral("row") } });
     m_html.element("span", row.label);
-    if (!printed.help.isEmpty())
-        m_html.element("p", printed.help, { { "class", QStringLiteral("text") } });
+    if (!row.help.isEmpty())
+        m_html.element("p", row.help, { { "class", QStringLiteral("text") } });
     m_html.close();
-    m_html.element("td", row.parameter.symbol());
-    m_html.element("td", row.parameter.unit().first);
-    m_html.open("td");
-    lines(printed.facts);
-    m_html.close();
-    for (const QStringList &mode : printed.modes)
-        modeCell(mode);
+    for (int column = 0; column < columns.size(); ++column)
+        cell(row.cells.at(column), columns.at(column));
     m_html.close();
 }
 
-void Page::modeCell(const QStringList &lines)
+/// On a narrow screen a row is a card, and the name of the column stands beside each value.
+void Page::cell(const QStringList &lines, const QString &column)
 {
-    m_html.open("td");
-    m_html.element("span", lines.constFirst());
-    this->lines(lines.mid(1));
-    m_html.close();
-}
-
-void Page::lines(const QStringList &lines)
-{
-    if (lines.isEmpty()) {
-        m_html.text({});
-        return;
+    m_html.open("td", { { "data-column", column } });
+    if (lines.size() < 2) {
+        m_html.text(lines.value(0));
+    } else {
+        m_html.open("ul");
+        for (const QString &line : lines)
+            m_html.element("li", line);
+        m_html.close();
     }
-    m_html.open("ul");
-    for (const QString &line : lines)
-        m_html.element("li", line);
     m_html.close();
 }
 
@@ -370,11 +360,20 @@ ManualFiles htmlFiles(const ManualView &view)
 {
     ManualFiles files;
     files.insert(view.file(indexPage(), htmlEnding), Page(view, indexPage()).index());
-    files.insert(view.file(QStringLiteral("searchindex"), QStringLiteral(".js")),
-                 searchIndex(view));
+    files.insert(view.file(searchIndexFile, scriptEnding), searchIndex(view));
     for (const ManualModule &module : view.modules())
         files.insert(view.file(module.page, htmlEnding), Page(view, module.page).module(module));
     return files;
+}
+
+QStringList htmlFileNames(const ManualView &view)
+{
+    QStringList names = htmlAssets().keys();
+    names.append(view.file(indexPage(), htmlEnding));
+    names.append(view.file(searchIndexFile, scriptEnding));
+    for (const ManualModule &module : view.modules())
+        names.append(view.file(module.page, htmlEnding));
+    return names;
 }
 
 ManualFiles htmlAssets()

@@ -28,11 +28,11 @@ QStringList takenNames()
     return names;
 }
 
-QStringList idsOf(const QVector<ItemTableRow> &rows, const QString &kind, UniqueNames *names)
+QStringList idsOf(const PrintedTable &table, const QString &kind, UniqueNames *names)
 {
     QStringList ids;
-    for (const ItemTableRow &row : rows)
-        ids.append(names->make(kind + QLatin1Char(' ') + row.parameter.name().first, kind));
+    for (const PrintedRow &row : table.rows)
+        ids.append(names->make(kind + QLatin1Char(' ') + row.key, kind));
     return ids;
 }
 
@@ -44,13 +44,16 @@ ManualModule moduleOf(const AUTH_INF &plain, UniqueNames *pages)
     // A function's name is made of the letters that a name in another script lacks.
     module.page = pages->make(plain.name,
                               UniqueNames().make(plain.codeFunctionName, QStringLiteral("module")));
-    module.table = itemTable(module.item);
+    const ItemTable table = itemTable(module.item);
+    module.modes = table.modes;
+    module.parameters = printedTable(table, table.parameters);
+    module.results = printedTable(table, table.results);
     UniqueNames ids({ QStringLiteral("content"), QStringLiteral("search") });
-    for (const ItemTableMode &mode : qAsConst(module.table.modes))
+    for (const ItemTableMode &mode : qAsConst(module.modes))
         module.modeIds.append(
             ids.make(QStringLiteral("mode ") + mode.name, QStringLiteral("mode")));
-    module.parameterIds = idsOf(module.table.parameters, QStringLiteral("parameter"), &ids);
-    module.resultIds = idsOf(module.table.results, QStringLiteral("result"), &ids);
+    module.parameterIds = idsOf(module.parameters, QStringLiteral("parameter"), &ids);
+    module.resultIds = idsOf(module.results, QStringLiteral("result"), &ids);
     return module;
 }
 

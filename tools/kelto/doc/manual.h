@@ -4,7 +4,7 @@
 #ifndef MANUAL_H
 #define MANUAL_H
 
-#include "itemtable.h"
+#include "doc/moduletable.h"
 
 #include <QByteArray>
 #include <QMap>
@@ -25,7 +25,9 @@ struct ManualModule
     AUTH_INF item;
     QString title;
     QString page; ///< Of its file, without an ending.
-    ItemTable table;
+    QVector<ItemTableMode> modes;
+    PrintedTable parameters;
+    PrintedTable results;
     QStringList modeIds;
     QStringList parameterIds;
     QStringList resultIds;
@@ -78,6 +80,8 @@ QString printable(const QString &text);
 ManualFiles htmlFiles(const ManualView &view);
 /// What the pages of all languages use.
 ManualFiles htmlAssets();
+/// The names of both.
+QStringList htmlFileNames(const ManualView &view);
 ManualFiles markdownFiles(const ManualView &view);
 /// The project for Qt Help, which lists the HTML files as well.
 ManualFiles helpProject(const ManualView &view);

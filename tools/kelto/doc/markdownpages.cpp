@@ -5,13 +5,12 @@
 
 #include "command.h"
 #include "doc/manual.h"
-#include "doc/moduletable.h"
 
 #include <QRegularExpression>
 
 namespace {
 
-const QString markdownEnding = QStringLiteral(".md");
+constexpr QLatin1String markdownEnding(".md");
 
 /// As one line that no reader of Markdown takes for anything but text.
 QString escaped(const QString &text)
@@ -66,31 +65,28 @@ QString groupRow(const QString &title, int columns)
     return tableRow(cells);
 }
 
-QString tableHead(const QString &name, const ItemTable &table)
+QString tableHead(const QString &name, const PrintedTable &table)
 {
-    QStringList columns { name, Command::tr("Symbol"), Command::tr("Unit"), Command::tr("Values") };
-    for (const ItemTableMode &mode : table.modes)
-        columns.append(escaped(mode.title));
-    QStringList rules;
-    while (rules.size() < columns.size())
-        rules.append(QStringLiteral("---"));
+    QStringList columns { name };
+    QStringList rules { QStringLiteral("---") };
+    for (const QString &column : table.columns) {
+        columns.append(escaped(column));
+        rules.append(rules.constFirst());
+    }
     return QLatin1Char('\n') + tableRow(columns) + tableRow(rules);
 }
 
-QString tableText(const QString &name, const ItemTable &table, const QVector<ItemTableRow> &rows)
+QString tableText(const QString &name, const PrintedTable &table)
 {
     QString text = tableHead(name, table);
-    for (int i = 0; i < rows.size(); ++i) {
-        const ItemTableRow &row = rows.at(i);
-        text += groupRow(headingAbove(rows, i), 4 + table.modes.size());
-        const PrintedRow printed = printedRow(table, row);
+    for (const PrintedRow &row : table.rows) {
+        text += groupRow(row.heading, 1 + table.columns.size());
         QStringList label { row.label };
-        if (!printed.help.isEmpty())
-            label.append(printed.help);
-        QStringList cells { escapedLines(label), escaped(row.parameter.symbol()),
-                            escaped(row.parameter.unit().first), escapedLines(printed.facts) };
-        for (const QStringList &mode : printed.modes)
-            cells.append(escapedLines(mode));
+        if (!row.help.isEmpty())
+            label.append(row.help);
+        QStringList cells { escapedLines(label) };
+        for (const QStringList &cell : row.cells)
+            cells.append(escapedLines(cell));
         text += tableRow(cells);
     }
     return text;
@@ -99,9 +95,9 @@ QString tableText(const QString &name, const ItemTable &table, const QVector<Ite
 QString modesText(const ManualModule &module)
 {
     QString text = heading(2, Command::tr("Modes"));
-    if (module.table.modes.isEmpty())
+    if (module.modes.isEmpty())
         text += paragraph(Command::tr("This module has no modes."));
-    for (const ItemTableMode &mode : module.table.modes)
+    for (const ItemTableMode &mode : module.modes)
         text += heading(3, mode.title) + paragraph(mode.description);
     return text;
 }
@@ -110,13 +106,12 @@ QByteArray modulePage(const ManualModule &module)
 {
     QString text = mark() + heading(1, module.title) + paragraph(module.item.description)
         + modesText(module) + heading(2, Command::tr("Parameters"));
-    text += module.table.parameters.isEmpty()
+    text += module.parameters.rows.isEmpty()
         ? paragraph(Command::tr("This module takes no parameters."))
-        : tableText(Command::tr("Parameter"), module.table, module.table.parameters);
+        : tableText(Command::tr("Parameter"), module.parameters);
     text += heading(2, Command::tr("Results"));
-    text += module.table.results.isEmpty()
-        ? paragraph(Command::tr("This module gives no results."))
-        : tableText(Command::tr("Result"), module.table, module.table.results);
+    text += module.results.rows.isEmpty() ? paragraph(Command::tr("This module gives no results."))
+                                          : tableText(Command::tr("Result"), module.results);
     if (!module.item.lib_name.isEmpty())
         text += heading(2, Command::tr("Libraries"))
             + paragraph(module.item.lib_name.join(QStringLiteral(", ")));

@@ -10,9 +10,18 @@
 /// with the mode.
 struct PrintedRow
 {
+    QString heading; ///< Above it, the name of its sub-group if it is the first of that.
+    QString key;
+    QString label;
     QString help;
-    QStringList facts;
-    QVector<QStringList> modes; ///< Lines; the default, or a mark, comes first.
+    QVector<QStringList> cells; ///< Lines, for each column.
+};
+
+struct PrintedTable
+{
+    QStringList columns; ///< Symbol, unit and values, as far as there are any, then the modes.
+    int modes = 0; ///< How many of the columns are modes.
+    QVector<PrintedRow> rows;
 };
 
 /// In the cell of a mode that has the row, but no default for it.
@@ -20,10 +29,7 @@ QString usedMark();
 /// In the cell of a mode that does not have the row.
 QString unusedMark();
 
-/// What stands above a row: the name of its sub-group, if it is the first of that. Rows without one
-/// get a heading, too, unless they come first.
-QString headingAbove(const QVector<ItemTableRow> &rows, int row);
-
-PrintedRow printedRow(const ItemTable &table, const ItemTableRow &row);
+/// @p rows are the parameters or the results of @p table.
+PrintedTable printedTable(const ItemTable &table, const QVector<ItemTableRow> &rows);
 
 #endif

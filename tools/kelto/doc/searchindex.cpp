@@ -3,7 +3,6 @@
 
 #include "command.h"
 #include "doc/manual.h"
-#include "doc/moduletable.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -28,25 +27,24 @@ private:
         append({ module.title, Command::tr("Module"), QString(), file },
                { module.item.name, module.item.description });
         for (int mode = 0; mode < module.modeIds.size(); ++mode) {
-            const ItemTableMode &shown = module.table.modes.at(mode);
+            const ItemTableMode &shown = module.modes.at(mode);
             append({ shown.title, Command::tr("Mode"), module.title,
                      file + QLatin1Char('#') + module.modeIds.at(mode) },
                    { shown.name });
         }
-        addRows(module, module.table.parameters, Command::tr("Parameter"), file,
-                module.parameterIds);
-        addRows(module, module.table.results, Command::tr("Result"), file, module.resultIds);
+        addRows(module, module.parameters, Command::tr("Parameter"), file, module.parameterIds);
+        addRows(module, module.results, Command::tr("Result"), file, module.resultIds);
     }
 
-    void addRows(const ManualModule &module, const QVector<ItemTableRow> &rows, const QString &kind,
+    void addRows(const ManualModule &module, const PrintedTable &table, const QString &kind,
                  const QString &file, const QStringList &ids)
     {
-        for (int i = 0; i < rows.size(); ++i) {
-            const ItemTableRow &row = rows.at(i);
-            const VParameter &parameter = row.parameter;
-            append({ row.label, kind, module.title, file + QLatin1Char('#') + ids.at(i) },
-                   { parameter.name().first, parameter.symbol(), parameter.unit().first,
-                     printedRow(module.table, row).help });
+        for (int i = 0; i < table.rows.size(); ++i) {
+            const PrintedRow &row = table.rows.at(i);
+            QStringList found { row.key, row.help };
+            for (int column = 0; column < table.columns.size() - table.modes; ++column)
+                found += row.cells.at(column);
+            append({ row.label, kind, module.title, file + QLatin1Char('#') + ids.at(i) }, found);
         }
     }
 
