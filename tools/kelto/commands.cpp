@@ -21,6 +21,8 @@ const QVector<Command> &commands()
         lintCommand(),
         docCommand(),
         styleCommand(),
+        lintCommand(), showCommand(), modesCommand(), checkCommand(),
+        codeCommand(), docCommand(),  styleCommand(),
     };
     // clang-format on
     return all;
