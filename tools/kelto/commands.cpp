@@ -18,11 +18,7 @@ const QVector<Command> &commands()
         docCommand(),
         newCommand(),
         fmtCommand(),
-        lintCommand(),
-        docCommand(),
         styleCommand(),
-        lintCommand(), showCommand(), modesCommand(), checkCommand(),
-        codeCommand(), docCommand(),  styleCommand(),
     };
     // clang-format on
     return all;
