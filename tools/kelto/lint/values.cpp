@@ -330,7 +330,10 @@ RuleArea valueRules()
               QT_TRANSLATE_NOOP("Command",
                                 "\"number\" and \"inner_mode_count\" are whole numbers; "
                                 "everything else is read as 0."),
-              "[KeltoItem]\nnumber=first\nname=Beam\n", "[KeltoItem]\nnumber=1\nname=Beam\n" },
+              "[KeltoItem]\n"
+"number=first\nname=Beam\n",
+"[KeltoItem]\n"
+"number=1\nname=Beam\n" },
         },
         check,
         nullptr
