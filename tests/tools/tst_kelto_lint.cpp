@@ -7,6 +7,7 @@
 
 #include "support/directorytest.h"
 #include "support/testfiles.h"
+#include "units/unit.h"
 
 #include <QTest>
 
@@ -22,7 +23,8 @@ private Q_SLOTS:
 namespace {
 
 /// Writes the files of an example, which a line "; --- NAME ---" divides, and reads them again.
-QVector<ItemFile> filesOf(const char *example)
+/// Each has a directory of its own, since QSettings may not notice that a file has changed.
+QVector<ItemFile> filesOf(const char *example, const QString &directory)
 {
     QByteArrayList lines = QByteArray(example).split('\n');
     QByteArray name = "first.ini";
@@ -36,9 +38,10 @@ QVector<ItemFile> filesOf(const char *example)
     }
     QVector<ItemFile> files;
     for (auto each = contents.cbegin(); each != contents.cend(); ++each) {
-        writeFile(QString::fromUtf8(each.key()), each.value());
-        if (each.key().endsWith(".ini"))
-            files.append(ItemFile(QString::fromUtf8(each.key())));
+        const QString path = directory + '/' + QString::fromUtf8(each.key());
+        writeFile(path, each.value());
+        if (path.endsWith(".ini"))
+            files.append(ItemFile(path));
     }
     return files;
 }
@@ -52,7 +55,7 @@ QStringList findingsOf(const QVector<ItemFile> &files)
     QStringList lines;
     for (const Finding &finding : qAsConst(findings)) {
         lines.append(QString("%1 %2:%3:%4")
-                         .arg(finding.rule, finding.path)
+                         .arg(finding.rule, QFileInfo(finding.path).fileName())
                          .arg(finding.position.line)
                          .arg(finding.position.column));
     }
@@ -77,10 +80,13 @@ void TestKeltoLint::showsWhatItMeans_data()
 void TestKeltoLint::showsWhatItMeans()
 {
     QFETCH(QString, finding);
+    const QStringList ofUnits { "unknown-unit", "unit-dimension", "unit-not-converted" };
+    if (!areUnitsKnown() && ofUnits.contains(finding.section(' ', 0, 0)))
+        QSKIP("This program was built without UDUNITS.");
     const Rule *const rule = ruleOf(finding.section(' ', 0, 0));
 
-    QCOMPARE(findingsOf(filesOf(rule->bad)), QStringList(finding));
-    QCOMPARE(findingsOf(filesOf(rule->good)), QStringList());
+    QCOMPARE(findingsOf(filesOf(rule->bad, "bad")), QStringList(finding));
+    QCOMPARE(findingsOf(filesOf(rule->good, "good")), QStringList());
 }
 
 QTEST_GUILESS_MAIN(TestKeltoLint)

@@ -19,11 +19,8 @@ class TestKeltoLintRules : public DirectoryTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void showsInExamplesWhatRulesFind_data();
-    void showsInExamplesWhatRulesFind();
     void finds_data();
     void finds();
-    void findsNothingInTheWorkbench();
 };
 
 namespace {
@@ -77,33 +74,6 @@ QStringList linesOf(const Findings &findings)
 }
 
 } // namespace
-
-void TestKeltoLintRules::showsInExamplesWhatRulesFind_data()
-{
-    QTest::addColumn<QString>("files");
-    QTest::addColumn<QStringList>("rules");
-
-    for (const RuleArea &area : ruleAreas()) {
-        for (const Rule &rule : area.rules) {
-            QTest::addRow("%s, bad", rule.id) << QString(rule.bad) << QStringList(rule.id);
-            QTest::addRow("%s, good", rule.id) << QString(rule.good) << QStringList();
-        }
-    }
-}
-
-void TestKeltoLintRules::showsInExamplesWhatRulesFind()
-{
-    QFETCH(QString, files);
-    QFETCH(QStringList, rules);
-
-    if (!areUnitsKnown() && QByteArray(QTest::currentDataTag()).contains("unit"))
-        QSKIP("This program was built without UDUNITS.");
-    const Findings findings = findingsIn(writeFiles(files));
-    QStringList found;
-    for (const Finding &finding : findings)
-        found += finding.rule;
-    QVERIFY2(found == rules, qPrintable(linesOf(findings).join('\n')));
-}
 
 void TestKeltoLintRules::finds_data()
 {
@@ -333,15 +303,6 @@ void TestKeltoLintRules::finds()
     const QVector<RuleArea> areas { nameRules(), registryRules(), codeRules(), hintRules(),
                                     unitRules() };
     QCOMPARE(linesOf(findingsIn(writeFiles(files), areas)), lines);
-}
-
-void TestKeltoLintRules::findsNothingInTheWorkbench()
-{
-    QStringList paths;
-    for (const QFileInfo &file : QDir(WORKBENCH_MODULES).entryInfoList({ "*.ini" }))
-        paths.append(file.filePath());
-    QCOMPARE(paths.size(), 5);
-    QCOMPARE(linesOf(findingsIn(paths)), QStringList());
 }
 
 QTEST_GUILESS_MAIN(TestKeltoLintRules)

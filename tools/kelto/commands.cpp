@@ -19,6 +19,8 @@ const QVector<Command> &commands()
         newCommand(),
         fmtCommand(),
         styleCommand(),
+        showCommand(), modesCommand(), checkCommand(), codeCommand(),
+        docCommand(),  lintCommand(),  styleCommand(),
     };
     // clang-format on
     return all;

@@ -228,8 +228,8 @@ RuleArea damageRules()
                                 "A value that begins with \"@Variant(\" and the like was written "
                                 "by a program. What is left of it cannot be read. Write a text "
                                 "that begins with \"@\" as \"@@\"."),
-              "[KeltoItem]\nname=Beam\n\n[ExtraKey]\nSize=@Size(12 px)\n",
-              "[KeltoItem]\nname=Beam\n\n[ExtraKey]\nSize=@Size(12 7)\n" },
+              "[KeltoItem]\nname=Beam\nlib_name=@Size(12 px)\n",
+              "[KeltoItem]\nname=Beam\nlib_name=beam\n" },
             { "unsafe-value", Severity::Error,
               QT_TRANSLATE_NOOP("Command", "A value is unsafe to read"),
               QT_TRANSLATE_NOOP("Command",

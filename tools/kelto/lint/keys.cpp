@@ -98,11 +98,17 @@ bool isReadable(const QString &name)
     return !name.startsWith(slash) && !name.endsWith(slash) && !name.contains(QLatin1String("//"));
 }
 
+/// Whether lines that follow are a part of @p key.
+bool isBroken(const ItemFileKey &key)
+{
+    return key.spelt.find_first_of("\r\n") != key.spelt.npos;
+}
+
 void checkSpelling(const ItemFileKey &key, FileFindings *findings)
 {
     const auto isAscii = [](char c) { return static_cast<signed char>(c) >= 0; };
     const auto foreign = std::find_if_not(key.spelt.cbegin(), key.spelt.cend(), isAscii);
-    if (key.spelt.find_first_of("\r\n") != key.spelt.npos) {
+    if (isBroken(key)) {
         findings->add("quote-in-key", key.position,
                       Command::tr("the quote in the key makes the next lines a part of the key; "
                                   "write it as %22"));
@@ -171,7 +177,8 @@ public:
             QStringLiteral("Symbol"), QStringLiteral("Unit"),  QStringLiteral("Multi")
         };
         const QString &name = key.name;
-        if (!describing.contains(key.section) || name.isEmpty() || name.contains(QLatin1Char('/')))
+        if (!describing.contains(key.section) || name.isEmpty() || isBroken(*key.key)
+            || name.contains(QLatin1Char('/')))
             return;
         const bool isForParameters = key.section == describing.constFirst();
         if (isForParameters ? m_parameters.contains(name) : m_known.contains(name))
@@ -350,8 +357,8 @@ RuleArea keyRules()
               QT_TRANSLATE_NOOP("Command",
                                 "All up to the next quote belongs to the key. A quote in a key is "
                                 "written as %22."),
-              "[KeltoItem]\nname=Beam\n\n[ExtraKey]\nPipe 5\"=yes\nPipe 6\"=no\n",
-              "[KeltoItem]\nname=Beam\n\n[ExtraKey]\nPipe 5%22=yes\nPipe 6%22=no\n" },
+              BEAM_ITEM BEAM_PARAMETER "\n[Symbol]\nLength=L\nPipe 5\"=d\nPipe 6\"=D\n",
+              BEAM_ITEM BEAM_PARAMETER "\n[Symbol]\nLength=L\n" },
             { "slash-in-key", Severity::Error, QT_TRANSLATE_NOOP("Command", "A key holds a \"/\""),
               QT_TRANSLATE_NOOP("Command",
                                 "Of such a key only the last part is read, and what describes it "

@@ -5,6 +5,7 @@
 
 #include "command.h"
 #include "core/settingstext_p.h"
+#include "core/typedtext_p.h"
 #include "lint/examples.h"
 #include "lint/filefindings.h"
 #include "lint/lintitem.h"
@@ -130,7 +131,7 @@ private:
     void checkElement(const SpeltElement &element, const QString &text)
     {
         const bool isEmptyList = text == QLatin1String("@Invalid()") && !isOneText();
-        if (isTyped(text) && !isEmptyList) {
+        if (isTyped(text) && !isEmptyList && !isDamaged(text) && !isUnsafe(text)) {
             m_findings->add("typed-value", element.text.data(),
                             Command::tr("the text is read as a value of another type; write "
                                         "\"@@\" for \"@\" where a text is meant"));
