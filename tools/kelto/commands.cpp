@@ -14,6 +14,7 @@ const QVector<Command> &commands()
         showCommand(),
         modesCommand(),
         checkCommand(),
+        diffCommand(),
         codeCommand(),
         docCommand(),
         newCommand(),

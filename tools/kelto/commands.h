@@ -15,6 +15,7 @@ const QVector<CommandOption> &commonOptions();
 // Each stands in a file of its own.
 Command codeCommand();
 Command checkCommand();
+Command diffCommand();
 Command modesCommand();
 Command showCommand();
 Command docCommand();
