@@ -20,8 +20,6 @@ const QVector<Command> &commands()
         newCommand(),
         fmtCommand(),
         styleCommand(),
-        showCommand(), modesCommand(), checkCommand(), codeCommand(),
-        docCommand(),  lintCommand(),  styleCommand(),
     };
     // clang-format on
     return all;
