@@ -6,6 +6,9 @@
 #include "console.h"
 #include "itemfile.h"
 #include "itempaths.h"
+#include "lint/lintconfig.h"
+#include "lint/linter.h"
+#include "lint/lintoutput.h"
 #include "outputfile.h"
 #include "sourcetext.h"
 #include "terminaltext.h"
@@ -15,6 +18,8 @@
 #include <QHash>
 #include <QJsonArray>
 #include <QJsonObject>
+
+#include <algorithm>
 
 namespace {
 
@@ -48,6 +53,15 @@ bool isOwnName(const QString &function)
         || function == QLatin1String("translatedTexts");
 }
 
+/// Whether this command looks for it itself, and knows whether it matters.
+bool isAboutSourceText(const Finding &finding)
+{
+    const QVector<Rule> rules = codeRules().rules;
+    return std::any_of(rules.cbegin(), rules.cend(), [&finding](const Rule &rule) {
+        return QLatin1String(rule.id) == finding.rule;
+    });
+}
+
 class CodeCommand
 {
 public:
@@ -55,6 +69,7 @@ public:
         : m_directory(line.value(QStringLiteral("o")))
         , m_context(line.value(QStringLiteral("context")))
         , m_isEmbedding(line.isSet(QStringLiteral("embed")))
+        , m_isLinting(line.isSet(QStringLiteral("lint")))
         , m_isJson(line.isSet(QStringLiteral("json")))
         , m_console(console)
     {
@@ -66,6 +81,7 @@ public:
     ExitCode run(const QStringList &paths);
 
 private:
+    void lintFiles(const QStringList &paths);
     void read(const QString &path);
     void checkTexts(const ItemFile &file, const AUTH_INF &item);
     void checkFunction(const ItemFile &file, const AUTH_INF &item);
@@ -80,10 +96,12 @@ private:
     QString m_directory;
     QString m_context;
     bool m_isEmbedding;
+    bool m_isLinting;
     bool m_isJson;
     Console &m_console;
     bool m_hasFailed = false;
     QVector<CodeProblem> m_problems;
+    QJsonArray m_findings;
     QStringList m_written;
     QHash<QString, QString> m_functions; ///< The file of each.
     QHash<QString, QString> m_fileNames;
@@ -106,6 +124,25 @@ void CodeCommand::add(const ItemFile &file, const QString &section, const QStrin
 {
     m_problems.append({ file.path(), placeOf(file, section, key), section + QLatin1Char('/') + key,
                         text, reason });
+}
+
+/// Only errors keep anything from being written.
+void CodeCommand::lintFiles(const QStringList &paths)
+{
+    const LintConfig config(paths);
+    for (const QString &complaint : config.complaints())
+        m_console.complain(complaint);
+    Findings findings = lint(paths, config, m_console).findings;
+    findings.erase(std::remove_if(findings.begin(), findings.end(), isAboutSourceText),
+                   findings.end());
+    m_findings = findingsAsJson(findings, {}, config).value(QStringLiteral("findings")).toArray();
+    if (!m_isJson)
+        m_console.print(findingsAsText(findings, config, m_console.isColoured()));
+    const auto isError = [&config](const Finding &finding) {
+        return config.severity(finding.path, finding.rule) == Severity::Error;
+    };
+    m_hasFailed = m_hasFailed || !config.complaints().isEmpty()
+        || std::any_of(findings.cbegin(), findings.cend(), isError);
 }
 
 void CodeCommand::checkTexts(const ItemFile &file, const AUTH_INF &item)
@@ -201,24 +238,29 @@ void CodeCommand::report() const
                                       { QStringLiteral("key"), problem.key },
                                       { QStringLiteral("text"), problem.text },
                                       { QStringLiteral("reason"), problem.reason } });
-        const QString text = Command::tr("%1:%2:%3: %4 \"%5\" %6.");
+        // As compilers and the lint say it, so that editors find the place.
+        const QString text = QStringLiteral("%1:%2:%3: error: %4 \"%5\" %6\n");
         if (!m_isJson)
-            m_console.complain(text.arg(problem.path, QString::number(problem.position.line),
-                                        QString::number(problem.position.column),
-                                        printable(problem.key), printable(problem.text),
-                                        problem.reason));
+            m_console.print(text.arg(problem.path, QString::number(problem.position.line),
+                                     QString::number(problem.position.column),
+                                     printable(problem.key), printable(problem.text),
+                                     problem.reason));
     }
-    if (m_isJson)
-        m_console.print(QJsonObject {
-            { QStringLiteral("files"), QJsonArray::fromStringList(m_written) },
-            { QStringLiteral("problems"), problems },
-        });
+    if (!m_isJson)
+        return;
+    QJsonObject result { { QStringLiteral("files"), QJsonArray::fromStringList(m_written) },
+                         { QStringLiteral("problems"), problems } };
+    if (m_isLinting)
+        result.insert(QStringLiteral("findings"), m_findings);
+    m_console.print(result);
 }
 
 ExitCode CodeCommand::run(const QStringList &paths)
 {
     bool areAllFound = true;
     const QStringList files = itemFilesAt(paths, m_console, &areAllFound);
+    if (m_isLinting)
+        lintFiles(files);
     for (const QString &path : files)
         read(path);
     m_hasFailed = m_hasFailed || !areAllFound;
@@ -258,7 +300,12 @@ Command codeCommand()
             "Files are written only when they change. An item that source text cannot carry is an "
             "error, and nothing is written: a double quote would end a literal, and what stands "
             "behind it would become code of the program."),
-        { { { QStringLiteral("o") },
+        { { { QStringLiteral("lint") },
+            nullptr,
+            QT_TRANSLATE_NOOP("Command",
+                              "List everything that is wrong with the items, as \"kelto lint\" "
+                              "does, and write nothing when there is an error.") },
+          { { QStringLiteral("o") },
             "DIR",
             QT_TRANSLATE_NOOP("Command",
                               "The directory to write into, made where it is missing.") },
