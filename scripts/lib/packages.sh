@@ -22,6 +22,7 @@ walk_packages=(
 )
 test_packages=(
     make pkg-config          # hosts built with qmake and pkg-config
+    meson pre-commit         # hosts with module items in their build
     clazy libclang-rt-14-dev # Clang with the checks of Qt code, and its sanitizers
     libbenchmark-dev clang-format-14 shellcheck codespell
     python3       # plants faults

@@ -41,7 +41,7 @@ files_below() {
     (cd "$1" && find . ! -type d | sort)
 }
 
-# A program that runs takes the library alone; both components are all there is.
+# A program that runs takes the library alone; all components are all there is.
 check_components() {
     local parts=$work_dir/components
     cmake --install "$build_dir" --prefix "$parts" --component Runtime >/dev/null
@@ -49,6 +49,10 @@ check_components() {
         fail "the component Runtime holds the files above, and should hold the libraries alone."
     fi
     cmake --install "$build_dir" --prefix "$parts" --component Development >/dev/null
+    if files_below "$parts" | grep -E '/kelto$|Tools'; then
+        fail "the component Development holds the files above, which belong to the command."
+    fi
+    cmake --install "$build_dir" --prefix "$parts" --component Tools >/dev/null
     diff <(files_below "$work_dir/prefix") <(files_below "$parts") ||
         fail "the components together (right) differ from an installation without components (left)."
 }
