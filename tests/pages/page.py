@@ -120,6 +120,7 @@ def script_of(page):
 
 
 def walk(page, directory):
+    os.environ["KELTO_PAGES"] = str(Path(__file__).resolve().parent)
     subprocess.run(["rm", "-rf", directory], check=True)
     os.makedirs(directory)
     return subprocess.run(["bash", "-c", script_of(page)], cwd=directory, check=False).returncode

@@ -31,7 +31,7 @@ expect() {
     local command wanted
     IFS= read -r command
     wanted=$(cat)
-    diff <(printf '%s\n' "$wanted") <(bash -c "$command" 2>&1) ||
+    diff <(echo "$wanted") <(echo "$(bash -c "$command" 2>&1)") ||
         { printf '%s: "%s" prints what is to the right, and the page says what is to the left.\n' \
             "$at" "$command" >&2; return 1; }
 }
