@@ -94,6 +94,17 @@ bool waitFor(QLockFile *lock, const QString &path)
     return true;
 }
 
+/// The lock of the file that is called @p name; nothing where it cannot be locked.
+std::unique_ptr<QLockFile> lockOf(const QString &name)
+{
+    const QString path = name + QLatin1String(".lock");
+    if (isAppendOnly(QFileInfo(name).path()) || !canBeLock(path))
+        return nullptr;
+    auto lock = std::make_unique<QLockFile>(path);
+    lock->setStaleLockTime(staleLockTime);
+    return waitFor(lock.get(), path) ? std::move(lock) : nullptr;
+}
+
 } // namespace
 
 bool isPath(const QString &path)
@@ -147,17 +158,20 @@ bool replaceFile(const QString &path, const QByteArray &bytes)
     return file.commit();
 }
 
-std::unique_ptr<QLockFile> lockedFile(const QString &path)
+FileLocks lockedFile(const QString &path)
 {
     const QFileInfo info(path);
-    const QString lockPath = info.absoluteFilePath() + QLatin1String(".lock");
-    // A link may lead to a file in another directory.
-    if (isAppendOnly(info.absolutePath())
-        || isAppendOnly(QFileInfo(info.canonicalFilePath()).path()))
-        return nullptr;
-    if (!canBeLock(lockPath))
-        return nullptr;
-    auto lock = std::make_unique<QLockFile>(lockPath);
-    lock->setStaleLockTime(staleLockTime);
-    return waitFor(lock.get(), lockPath) ? std::move(lock) : nullptr;
+    QStringList names { info.absoluteFilePath() };
+    // QSettings locks the name by which it was given a file, so that those who were given the
+    // target of a link are to be kept out, too. Nobody can wait for two of us in a circle, since a
+    // link is never the target that its path leads to in the end.
+    if (info.isSymLink() && info.exists())
+        names.append(info.canonicalFilePath());
+    FileLocks locks;
+    for (const QString &name : qAsConst(names)) {
+        locks.push_back(lockOf(name));
+        if (!locks.back())
+            return {};
+    }
+    return locks;
 }

@@ -9,9 +9,12 @@
 
 #include <memory>
 #include <optional>
+#include <vector>
 
 class QFileDevice;
 class QLockFile;
+
+using FileLocks = std::vector<std::unique_ptr<QLockFile>>;
 
 /// Whether Qt takes @p path as it is: it warns about an empty one, truncates one at a NUL, and
 /// takes a relative one as below "/" where the current directory was removed.
@@ -33,8 +36,8 @@ bool writeWhole(QFileDevice *file, const QByteArray &bytes);
 bool replaceFile(const QString &path, const QByteArray &bytes);
 
 /// Locks the file at @p path as QSettings does, by a file with the additional ending ".lock", and
-/// waits for others who have locked it. Nothing where that is not possible, or where the files of
-/// the directory cannot be removed again.
-std::unique_ptr<QLockFile> lockedFile(const QString &path);
+/// waits for others who have locked it; also that to which a link leads. Empty where that is not
+/// possible, or where the files of a directory cannot be removed again.
+FileLocks lockedFile(const QString &path);
 
 #endif

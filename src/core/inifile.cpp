@@ -18,13 +18,21 @@
 
 namespace {
 
-/// Whether something is lost when QSettings writes a file with these bytes.
-bool isLossy(const QByteArray &bytes)
+int countOf(const QVector<IniProblem> &problems, IniProblem::Kind kind)
 {
-    const QVector<IniProblem> problems = iniProblems(bytes);
-    return std::any_of(problems.cbegin(), problems.cend(), [](const IniProblem &problem) {
-        return problem.kind != IniProblem::EmptySection;
-    });
+    const auto isOfKind = [kind](const IniProblem &problem) { return problem.kind == kind; };
+    return static_cast<int>(std::count_if(problems.cbegin(), problems.cend(), isOfKind));
+}
+
+/// Whether something of @p before is lost in @p after, which QSettings has made of it.
+bool isLossy(const QByteArray &before, const QByteArray &after)
+{
+    const QVector<IniProblem> problems = iniProblems(before);
+    const int unreadable = countOf(problems, IniProblem::UnreadableKey);
+    if (unreadable + countOf(problems, IniProblem::EmptySection) < problems.size())
+        return true;
+    // Most keys that it cannot read QSettings writes again, and they would be copied every time.
+    return unreadable > 0 && countOf(iniProblems(after), IniProblem::UnreadableKey) < unreadable;
 }
 
 /// Saves into a file that this process has locked.
@@ -37,7 +45,7 @@ void save(const QString &path, const KeyValues &entries)
     if (!after)
         return;
     if (after->bytes != before) {
-        if (isLossy(*before) && !keepCopy(path, *before))
+        if (isLossy(*before, after->bytes) && !keepCopy(path, *before))
             return;
         if (!replaceFile(path, after->bytes))
             return;
@@ -77,7 +85,8 @@ void writeIniFile(const QString &path, const KeyValues &entries)
         || !QDir().mkpath(info.absolutePath()))
         return;
     try {
-        if (const auto lock = lockedFile(path))
+        const FileLocks locks = lockedFile(path);
+        if (!locks.empty())
             save(path, entries);
     } catch (const std::bad_alloc &) {
     }

@@ -17,7 +17,7 @@ struct IniProblem
         BrokenHeader, ///< With text behind it, or without "]".
         EmptySection, ///< Not written again, but nothing is lost with it.
         DuplicateKey, ///< Only one of the values counts; otherLine has the first.
-        UnreadableKey, ///< A superfluous "/" keeps it from being read or written.
+        UnreadableKey, ///< A superfluous "/" keeps it from being read or set.
         ByteOrderMark, ///< Becomes part of the first key.
         BadEscape,
         NotUtf8,

@@ -5,7 +5,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
 
 #ifdef Q_OS_UNIX
 #include <cerrno>
@@ -19,6 +18,7 @@
 namespace {
 
 const QLatin1String fileName("settings.ini");
+const QLatin1String start("kelto-save.");
 
 #ifdef Q_OS_UNIX
 
@@ -45,16 +45,16 @@ void removeScratch(const QString &path)
     QDir().rmdir(path);
 }
 
-/// The entries of @p directory that begin with @p start and are as long as @p size. There can be
-/// thousands of others, and QDir makes more of each than of reading a small file.
-QByteArrayList entriesOf(const QByteArray &directory, const QByteArray &start, int size)
+/// The directories of all processes in @p place. There can be thousands of other entries, and QDir
+/// makes more of each than of reading a small file.
+QStringList scratchNames(const QString &place)
 {
-    QByteArrayList names;
-    DIR *const stream = ::opendir(directory.constData());
+    QStringList names;
+    DIR *const stream = ::opendir(QFile::encodeName(place).constData());
     while (const dirent *const entry = stream ? ::readdir(stream) : nullptr) {
-        if (qstrncmp(entry->d_name, start.constData(), uint(start.size())) == 0
-            && qstrlen(entry->d_name) == uint(size))
-            names.append(entry->d_name);
+        if (qstrncmp(entry->d_name, start.data(), uint(start.size())) == 0
+            && qstrlen(entry->d_name) == uint(start.size()) + 6)
+            names.append(QFile::decodeName(entry->d_name));
     }
     if (stream)
         ::closedir(stream);
@@ -66,7 +66,7 @@ QByteArrayList entriesOf(const QByteArray &directory, const QByteArray &start, i
 } // namespace
 
 ScratchDirectory::ScratchDirectory(const QString &place)
-    : m_directory(place + QLatin1String(".XXXXXX"))
+    : m_directory(place + QLatin1Char('/') + start + QLatin1String("XXXXXX"))
 {
 #ifdef Q_OS_UNIX
     if (!m_directory.isValid())
@@ -104,11 +104,9 @@ void ScratchDirectory::remove()
 void ScratchDirectory::removeAbandoned(const QString &place)
 {
 #ifdef Q_OS_UNIX
-    const QFileInfo info(place);
-    const QByteArray start = QFile::encodeName(info.fileName()) + '.';
-    const QByteArrayList names = entriesOf(QFile::encodeName(info.path()), start, start.size() + 6);
-    for (const QByteArray &name : names) {
-        const QString path = info.dir().filePath(QFile::decodeName(name));
+    const QStringList names = scratchNames(place);
+    for (const QString &name : names) {
+        const QString path = place + QLatin1Char('/') + name;
         const int handle = openedDirectory(path);
         if (handle < 0)
             continue;

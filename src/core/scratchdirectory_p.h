@@ -12,7 +12,7 @@
 class ScratchDirectory
 {
 public:
-    /// A directory of which the path is @p place, a point and six letters.
+    /// A directory "kelto-save.XXXXXX" in the directory @p place.
     explicit ScratchDirectory(const QString &place);
     ~ScratchDirectory();
 
@@ -24,7 +24,7 @@ public:
     /// Removes it before the object ends.
     void remove();
 
-    /// Removes what processes of this user that have been killed left at @p place.
+    /// Removes what processes of this user that have been killed left in @p place.
     static void removeAbandoned(const QString &place);
 
 private:

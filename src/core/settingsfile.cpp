@@ -119,7 +119,7 @@ struct LastSection
 };
 
 /// What QSettings makes of @p before when it sets @p entries; nothing where it fails. It works on a
-/// file of its own in a new directory whose name begins with @p place.
+/// file of its own in a new directory in @p place.
 std::optional<SettingsFile> rewritten(const QString &place, const SettingsFile &before,
                                       const KeyValues &entries)
 {
@@ -158,8 +158,7 @@ std::optional<SettingsFile> rewritten(const QString &place, const SettingsFile &
 /// disk.
 QStringList sharedPlaces()
 {
-    const QLatin1String name("/kelto-save");
-    const QStringList places { QLatin1String("/dev/shm") + name, QDir::tempPath() + name };
+    const QStringList places { QStringLiteral("/dev/shm"), QDir::tempPath() };
     // Once for each process, so that saving costs no more.
     static const bool isClean = [&places] {
         for (const QString &place : places)
@@ -182,14 +181,17 @@ std::optional<SettingsFile> changedSettings(const QString &path, const QByteArra
                                             const KeyValues &entries)
 {
     const SettingsFile before { bytes, writtenFiles().entries(path, bytes) };
-    // In the end there is place at least where the file itself is to be written.
-    const QStringList places = sharedPlaces() + QStringList(path);
-    std::optional<SettingsFile> after;
+    const QStringList places = sharedPlaces();
     for (const QString &place : places) {
-        if (!after)
-            after = rewritten(place, before, entries);
+        if (const auto after = rewritten(place, before, entries))
+            return after;
     }
-    return after;
+    // In the end there is place at least where the file itself is to be written.
+    const QString own = QFileInfo(path).absolutePath();
+    ScratchDirectory::removeAbandoned(own);
+    const auto after = rewritten(own, before, entries);
+    // Others who clear up may take a directory for an abandoned one just when it is made.
+    return after ? after : rewritten(own, before, entries);
 }
 
 void rememberSettings(const QString &path, const SettingsFile &file)
