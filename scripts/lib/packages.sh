@@ -32,6 +32,11 @@ test_packages=(
 )
 abi_packages=(abigail-tools) # compares binary interfaces
 package_packages=(debhelper dpkg-dev fakeroot lintian mmdebstrap appstream desktop-file-utils)
+# The trials of saving do without them.
+trial_packages=(
+    strace e2fsprogs                           # kills at each call, full disks
+    pkg-config libkf5config-dev libglib2.0-dev # others that save, to compare with
+)
 fuzz_packages=(clang-14 libclang-rt-14-dev llvm-14)
 
 say() {

@@ -79,9 +79,11 @@ bool waitFor(QLockFile *lock, const QString &path)
 {
     QDateTime made;
     QElapsedTimer unchanged;
-    while (!lock->tryLock()) {
+    while (canBeLock(path)) {
+        if (lock->tryLock())
+            return true;
         const QFileInfo info(path);
-        if (lock->error() != QLockFile::LockFailedError || info.isSymLink() || !canBeLock(path))
+        if (lock->error() != QLockFile::LockFailedError || info.isSymLink())
             return false;
         if (!unchanged.isValid() || made != info.lastModified()) {
             made = info.lastModified();
@@ -91,14 +93,14 @@ bool waitFor(QLockFile *lock, const QString &path)
         }
         QThread::msleep(lockInterval);
     }
-    return true;
+    return false;
 }
 
 /// The lock of the file that is called @p name; nothing where it cannot be locked.
 std::unique_ptr<QLockFile> lockOf(const QString &name)
 {
     const QString path = name + QLatin1String(".lock");
-    if (isAppendOnly(QFileInfo(name).path()) || !canBeLock(path))
+    if (isAppendOnly(QFileInfo(name).path()))
         return nullptr;
     auto lock = std::make_unique<QLockFile>(path);
     lock->setStaleLockTime(staleLockTime);
