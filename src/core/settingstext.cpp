@@ -159,9 +159,20 @@ private:
         const char *const wide = std::find_if(start, m_at, isWide);
         if (wide != m_at)
             report(Misspelling::DroppedCharacter, wide);
-        const std::size_t mark = textBetween(start, m_at).find("\xef\xbb\xbf");
-        if (mark != std::string_view::npos)
-            report(Misspelling::DroppedCharacter, start + mark);
+        checkMarks(start);
+    }
+
+    /// QSettings begins a new piece behind each character that it escapes when it writes.
+    void checkMarks(const char *piece)
+    {
+        constexpr std::string_view mark = "\xef\xbb\xbf";
+        const auto isDropped
+            = [piece](const char *at) { return at == piece || uchar(at[-1]) < ' '; };
+        const char *at = std::search(piece, m_at, mark.cbegin(), mark.cend());
+        while (at != m_at && !isDropped(at))
+            at = std::search(at + 1, m_at, mark.cbegin(), mark.cend());
+        if (at != m_at)
+            report(Misspelling::DroppedCharacter, at);
     }
 
     void takeEscape()

@@ -642,6 +642,32 @@ private Q_SLOTS:
         QVERIFY2(inPlace >= 6, qPrintable(QString::number(inPlace)));
     }
 
+    void endsCopying_data()
+    {
+        losesNothingOfHostileBytes_data();
+    }
+
+    /// At the latest when QSettings has written what it has read of its own writing: it can write
+    /// byte order marks, but not read them.
+    void endsCopying()
+    {
+        QFETCH(BytesMaker, makeBytes);
+        QFETCH(int, seed);
+        Dice dice { unsigned(seed) };
+        for (int i = 0; i < 40; ++i) {
+            const QByteArray bytes = makeBytes(&dice);
+            const QString name = labelled("f", i);
+            QVERIFY(writeFile(name, bytes));
+            VIniSettings(Entries { { "zz/new", 1 } }).saveLocal(name);
+            VIniSettings(Entries { { "zz/new", 2 } }).saveLocal(name);
+            const QByteArray saved = fileContent(name);
+            const QStringList files = filesIn(".");
+            VIniSettings(Entries { { "zz/new", 3 } }).saveLocal(name);
+            QVERIFY2(fileContent(name) != saved, bytes.toPercentEncoding().constData());
+            QVERIFY2(filesIn(".") == files, bytes.toPercentEncoding().constData());
+        }
+    }
+
     void touchesOnlyWhatItMay_data()
     {
         QTest::addColumn<int>("file");
