@@ -84,6 +84,7 @@ void TestKeltoLintRules::finds_data()
     const QString mode = "exclusive_group=true\ninner_mode_count=1\ninner_mode_nameList=Bending\n";
     const QString item = head + mode;
     const QString length = "[Attribute]\nLength=\n[Belong]\nLength=Bending\n";
+    const QString letters = "[Result]\nA=\nB=\nC=\nD=\nE=\nF=\nG=\nH=\nI=\nJ=\nK=\n";
     const auto row = [](const char *name, const QString &files, const QStringList &lines) {
         QTest::newRow(name) << files << lines;
     };
@@ -120,14 +121,14 @@ void TestKeltoLintRules::finds_data()
         item + "output_results=x\n" + length + "[Result]\nlength=\n", {});
     row("modes that differ in white space only",
         head + "inner_mode_count=2\ninner_mode_nameList=One end, \"One  end\"\n",
-        { "first.ini:6:21 like-modes the inner modes \"One end\" and \"One  end\" differ only in "
+        { "first.ini:6:30 like-modes the inner modes \"One end\" and \"One  end\" differ only in "
           "case or white space" });
     row("colons in all names",
         "[KeltoItem]\nname=A:1\ntype=calculation\ngroup=B:2\ninner_mode_count=2\n"
         "inner_mode_nameList=C, D:3\n",
         { "first.ini:2:6 colon-in-name the name \"A:1\" of the module holds a \":\"",
           "first.ini:4:7 colon-in-name the name \"B:2\" of the group holds a \":\"",
-          "first.ini:6:21 colon-in-name the name \"D:3\" of the inner mode holds a \":\"" });
+          "first.ini:6:24 colon-in-name the name \"D:3\" of the inner mode holds a \":\"" });
     row("a colon in a module and the mode of its name",
         "[KeltoItem]\nname=A:1\ntype=calculation\ngroup=B\ninner_mode_nameList=A:1\n",
         { "first.ini:2:6 colon-in-name the name \"A:1\" of the module holds a \":\"" });
@@ -156,7 +157,7 @@ void TestKeltoLintRules::finds_data()
         head + "inner_mode_nameList=Bending\n" + plate("Plate", "Statics", "Bending"), {});
     row("a mode that stands in a list three times",
         head + "inner_mode_count=3\ninner_mode_nameList=A, A, A\n",
-        { "first.ini:6:21 mode-twice two inner modes are named \"A\"" });
+        { "first.ini:6:24 mode-twice two inner modes are named \"A\"" });
     const QString groups = item + "Tr_ObjectName=T\n" + plate("Plate", "Plates", "Plate")
         + "exclusive_group=true\nTr_ObjectName=T\n";
     const auto translations = [](const QString &context, const QString &statics,
@@ -189,6 +190,9 @@ void TestKeltoLintRules::finds_data()
           "first.ini:11:1 text-in-code \"a\"b\" holds a double quote",
           "first.ini:15:7 text-in-code \"\"\" holds a double quote",
           "first.ini:17:9 text-in-code \"a\"\" holds a double quote" });
+    row("a text in a list that cannot be carried", head + "lib_name=a, \"b\\\\\", c\n",
+        { "first.ini:5:13 text-in-code \"b\\\" holds a backslash" });
+    row("an escape that wants quotes is another finding", item + "description=a\\nb\n", {});
     row("a long text is shortened", item + "icon=\"\\\\" + QString(100, 'i') + "\"\n",
         { "first.ini:8:6 text-in-code \"\\iiiiiiiiiiiiiiiiiiiiiiiiiiiiiiiiiiiiiii…\" holds a "
           "backslash" });
@@ -250,46 +254,50 @@ void TestKeltoLintRules::finds_data()
             + "[Attribute]\nLength=\nWidth=\n[Belong]\nLength=Bnding\nWidth=Bending\n[ExtraKey]\n"
               "Default.Length=1\nHelp.Length@Bending=a\nWhen.Width=Length=2\nOrder=Width|Length\n",
         {});
+    row("hints for parameters below a misspelt header",
+        item + "[Attriibute]\nWidth=\n[Belong]\nWidth=Bending\n[ExtraKey]\nDefault.Width=1\n", {});
     row("hints for results that are not read",
         item + "[Result]\nw=\n[ExtraKey]\nHelp.w=a\nBelong.w=Bending\n", {});
     row("a hint that is a list for want of quotes",
         item + length + "[ExtraKey]\nHelp.Length=a, b\n", {});
     row("object names",
-        item + length
+        item + letters
             + "[ObjectName]\nA=\nB=Double\nC=QVector<duoble>\nD=number\nE=choice\nF=double, int\n",
-        { "first.ini:14:3 unknown-object-name nothing knows the object name \"Double\". Did you "
+        { "first.ini:22:3 unknown-object-name nothing knows the object name \"Double\". Did you "
           "mean \"double\"?",
-          "first.ini:15:3 unknown-object-name nothing knows the object name \"QVector<duoble>\". "
+          "first.ini:23:3 unknown-object-name nothing knows the object name \"QVector<duoble>\". "
           "Did you mean \"QVector<double>\"?",
-          "first.ini:16:3 unknown-object-name nothing knows the object name \"number\"" });
+          "first.ini:24:3 unknown-object-name nothing knows the object name \"number\"" });
 
     // Units.
     if (areUnitsKnown()) {
         row("units that are wrong",
-            item + length
+            item + letters
                 + "[Unit]\nA=mm,  Mpa\nB=Mpa,Mpa\nC=mm, s\nD=m²·K/W, W/(m²·K)\nE=mm\nF=m, m, "
                   "s\nG=%, \n",
-            { "first.ini:13:3 unknown-unit \"Mpa\" is no known unit",
-              "first.ini:14:3 unknown-unit \"Mpa\" is no known unit",
-              "first.ini:15:3 unit-dimension \"mm\" and \"s\" are units of different quantities",
-              "first.ini:16:3 unit-dimension \"m²·K/W\" and \"W/(m²·K)\" are units of different "
+            { "first.ini:21:8 unknown-unit \"Mpa\" is no known unit",
+              "first.ini:22:3 unknown-unit \"Mpa\" is no known unit",
+              "first.ini:23:3 unit-dimension \"mm\" and \"s\" are units of different quantities",
+              "first.ini:24:3 unit-dimension \"m²·K/W\" and \"W/(m²·K)\" are units of different "
               "quantities" });
         row("units that are right",
-            item + length
+            item + letters
                 + "[Unit]\nA=\nB=-, -\nC=°C, K\nD=°, rad\nE=%, %\nF=N·m, N·m\nG=°C, °C\nH=r/min, "
                   "1/s\n"
                   "I=mm, m\nJ=dB(A), dB(A)\nK=HRC, HRC\n",
             {});
         row("units that are not converted",
-            item + length + "[Unit]\nA=mm, m\nB=MPa, MPa\nC=N, N\nD=°, °\nE=min, min\nF=kN\n",
-            { "first.ini:14:3 unit-not-converted \"MPa\" is not converted, while other units of "
+            item + letters + "[Unit]\nA=mm, m\nB=MPa, MPa\nC=N, N\nD=°, °\nE=min, min\nF=kN\n",
+            { "first.ini:22:3 unit-not-converted \"MPa\" is not converted, while other units of "
               "the module are",
-              "first.ini:17:3 unit-not-converted \"min\" is not converted, while other units of "
+              "first.ini:25:3 unit-not-converted \"min\" is not converted, while other units of "
               "the module are" });
-        row("units that no one converts", item + length + "[Unit]\nA=mm, mm\nB=MPa, MPa\nC=N, N\n",
+        row("units of a key that is nowhere declared",
+            item + length + "[Unit]\nA=Mpa, Mpa\n[ObjectName]\nA=number\n", {});
+        row("units that no one converts", item + letters + "[Unit]\nA=mm, mm\nB=MPa, MPa\nC=N, N\n",
             {});
         row("units that another file converts",
-            item + length + "[Unit]\nA=mm, mm\n" + plate("Plate", "Plates", "A")
+            item + letters + "[Unit]\nA=mm, mm\n" + plate("Plate", "Plates", "A") + letters
                 + "[Unit]\nA=mm, m\n",
             {});
     }

@@ -5,10 +5,11 @@
 
 #include "command.h"
 #include "lint/rules_places.h"
-#include "nearestname.h"
 #include "sourcetext.h"
 
 #include <QHash>
+
+#include <algorithm>
 
 namespace {
 
@@ -42,47 +43,46 @@ const char *ruleFor(Problem::Reason reason)
     }
 }
 
-/// Without the type in the file, it may be misspelt, or its section.
-bool mayTypeBeMisspelt(const ItemFile &file)
+/// Whether the type stands in the file under a name that only resembles the right one.
+bool isTypeMisspelt(const ItemFile &file)
 {
-    bool hasSection = false;
-    QStringList names;
-    for (const ItemFileKey &key : file.keys()) {
-        if (key.section == QLatin1String("KeltoItem")) {
-            hasSection = true;
-            names.append(key.name);
-        }
-    }
-    const QString type = QStringLiteral("type");
-    return !names.contains(type) && (!hasSection || !nearestName(type, names).isEmpty());
+    return !file.find(QStringLiteral("KeltoItem"), QStringLiteral("type"))
+        && LintItem(file).field("type");
 }
 
-/// Whether the problem comes of how the value is spelt, which is a finding of its own: a list where
-/// a text should be, or an escape without quotes.
+bool isAscii(std::string_view text)
+{
+    return std::all_of(text.begin(), text.end(), [](char c) { return (c & 0x80) == 0; });
+}
+
+/// Whether the problem comes of how a key or a value is spelt, which is a finding of its own: a key
+/// with letters that are none of ASCII, a list where a text should be, an escape without quotes.
 bool isConsequence(const Problem &problem, const ItemFile &file)
 {
     if (problem.reason == Problem::NoCalculation)
-        return mayTypeBeMisspelt(file);
+        return isTypeMisspelt(file);
     const ItemFileKey *key = keyReadAs(file, problem.section, problem.key);
     if (!key)
         return false;
+    if (problem.text == problem.key && !isAscii(key->spelt))
+        return true;
     if (problem.reason == Problem::NoText)
         return key->value.size() > 1;
     const bool isEscape
         = problem.reason == Problem::LineBreak || problem.reason == Problem::ControlCharacter;
-    return isEscape && key->speltValue.find('"') == std::string_view::npos;
+    return isEscape && !speltValueOf(rawValueOf(file, *key)).escapes.isEmpty();
 }
 
 IniPosition placeOf(const Problem &problem, const ItemFile &file)
 {
-    if (!keyReadAs(file, problem.section, problem.key))
+    const ItemFileKey *key = keyReadAs(file, problem.section, problem.key);
+    if (!key)
         return sectionPosition(file, problem.section);
     const bool isKey = problem.text == problem.key
         && (problem.section == QLatin1String("Attribute")
             || problem.section == QLatin1String("Result")
             || problem.section == QLatin1String("ExtraKey"));
-    return isKey ? keyPosition(file, problem.section, problem.key)
-                 : valuePosition(file, problem.section, problem.key);
+    return isKey ? key->position : elementPosition(file, key, key->value.indexOf(problem.text));
 }
 
 void check(const ItemFile &file, Findings *findings)
@@ -91,9 +91,10 @@ void check(const ItemFile &file, Findings *findings)
     for (const Problem &problem : problems) {
         const char *rule = ruleFor(problem.reason);
         if (rule && !isConsequence(problem, file)) {
-            addFinding(findings, rule, file, placeOf(problem, file),
-                       QStringLiteral("\"%1\" %2")
-                           .arg(shortened(problem.text), reasonText(problem.reason)));
+            FileFindings(file, findings)
+                .add(rule, placeOf(problem, file),
+                     QStringLiteral("\"%1\" %2")
+                         .arg(shortened(problem.text), reasonText(problem.reason)));
         }
     }
 }
@@ -108,9 +109,10 @@ void checkAll(const QVector<ItemFile> &files, Findings *findings)
         if (!first) {
             first = &file;
         } else if (!item.codeFunctionName.isEmpty() && first->item().name != item.name) {
-            addFinding(findings, "function-twice", file, fieldPosition(file, "codeFunctionName"),
-                       Command::tr("the function of another module is named \"%1\" as well: %2")
-                           .arg(item.codeFunctionName, first->path()));
+            FileFindings(file, findings)
+                .add("function-twice", fieldPosition(file, "codeFunctionName"),
+                     Command::tr("the function of another module is named \"%1\" as well: %2")
+                         .arg(item.codeFunctionName, first->path()));
         }
     }
 }

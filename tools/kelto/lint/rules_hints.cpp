@@ -23,15 +23,10 @@ using Problem = KeltoItemHints::Problem;
 class DeclaredKeys
 {
 public:
-    explicit DeclaredKeys(const ItemFile &file)
+    explicit DeclaredKeys(const LintItem &item)
+        : m_parameters(lastParts(item.namesIn(QStringLiteral("Attribute"))))
+        , m_results(lastParts(item.namesIn(QStringLiteral("Result"))))
     {
-        for (const ItemFileKey &key : file.keys()) {
-            const QString name = key.name.mid(key.name.lastIndexOf(QLatin1Char('/')) + 1);
-            if (key.section == QLatin1String("Attribute"))
-                m_parameters.append(name);
-            else if (key.section == QLatin1String("Result"))
-                m_results.append(name);
-        }
     }
 
     /// Whether the unknown @p part of a hint is one of them, with or without "@" and a mode behind.
@@ -56,6 +51,12 @@ public:
     }
 
 private:
+    static QStringList lastParts(QStringList names)
+    {
+        for (QString &name : names)
+            name = name.mid(name.lastIndexOf(QLatin1Char('/')) + 1);
+        return names;
+    }
     static bool isOfResult(const Problem &problem)
     {
         return problem.extraKey.startsWith(QLatin1String("Belong."));
@@ -106,7 +107,7 @@ void findProblems(const ItemFile &file, Findings *findings)
     const QVector<Problem> problems = KeltoItemHints(file.item()).problems();
     if (problems.isEmpty())
         return;
-    const DeclaredKeys keys(file);
+    const DeclaredKeys keys { LintItem(file) };
     for (const Problem &problem : problems) {
         if (isConsequence(problem, file, keys))
             continue;
@@ -114,9 +115,9 @@ void findProblems(const ItemFile &file, Findings *findings)
         const QString suggestion = suggestionFor(problem, file, keys);
         if (suggestion.isEmpty())
             text.chop(1);
-        addFinding(findings, "bad-hint", file,
-                   keyPosition(file, QStringLiteral("ExtraKey"), problem.extraKey),
-                   text + suggestion);
+        FileFindings(file, findings)
+            .add("bad-hint", keyPosition(file, QStringLiteral("ExtraKey"), problem.extraKey),
+                 text + suggestion);
     }
 }
 
@@ -150,7 +151,8 @@ const QStringList &knownObjectNames()
 void findObjectNames(const ItemFile &file, Findings *findings)
 {
     for (const ItemFileKey &key : file.keys()) {
-        if (key.section != QLatin1String("ObjectName") || key.value.size() != 1)
+        if (key.section != QLatin1String("ObjectName") || key.value.size() != 1
+            || !isDeclared(file, key.name))
             continue;
         const QString word = key.value.constFirst();
         if (word.isEmpty() || knownObjectNames().contains(word))
@@ -159,7 +161,7 @@ void findObjectNames(const ItemFile &file, Findings *findings)
         const QString suggestion = didYouMean(word, knownObjectNames());
         if (!suggestion.isEmpty())
             text += QLatin1Char('.') + suggestion;
-        addFinding(findings, "unknown-object-name", file, key.valuePosition, text);
+        FileFindings(file, findings).add("unknown-object-name", key.valuePosition, text);
     }
 }
 

@@ -53,9 +53,10 @@ private:
         if (m_reported.contains({ section, key }))
             return;
         m_reported.insert({ section, key });
-        addFinding(
-            m_findings, "like-names", m_file, keyPosition(m_file, section, key),
-            Command::tr("\"%1\" is the same name as \"%2\" to a search by name").arg(key, first));
+        FileFindings(m_file, m_findings)
+            .add("like-names", keyPosition(m_file, section, key),
+                 Command::tr("\"%1\" is the same name as \"%2\" to a search by name")
+                     .arg(key, first));
     }
 
     const ItemFile &m_file;
@@ -89,32 +90,38 @@ void findLikeNames(const ItemFile &file, Findings *findings)
 void findLikeModes(const ItemFile &file, Findings *findings)
 {
     QHash<QString, QString> firsts;
-    for (const QString &mode : file.item().inner_mode_nameList) {
+    const QStringList modes = file.item().inner_mode_nameList;
+    for (int i = 0; i < modes.size(); ++i) {
+        const QString &mode = modes.at(i);
         const QString name = comparableName(mode);
         const QString first = firsts.value(name, mode);
         firsts.insert(name, first);
         if (first != mode) {
-            addFinding(findings, "like-modes", file, fieldPosition(file, "inner_mode_nameList"),
-                       Command::tr("the inner modes \"%1\" and \"%2\" differ only in case or white "
-                                   "space")
-                           .arg(first, mode));
+            FileFindings(file, findings)
+                .add("like-modes", modePosition(file, i),
+                     Command::tr("the inner modes \"%1\" and \"%2\" differ only in case or white "
+                                 "space")
+                         .arg(first, mode));
         }
     }
 }
 
 void findColons(const ItemFile &file, Findings *findings)
 {
-    const auto look = [&](const QString &name, const char *field, const QString &text) {
+    const auto look = [&](const QString &name, IniPosition position, const QString &text) {
         if (name.contains(QLatin1Char(':')))
-            addFinding(findings, "colon-in-name", file, fieldPosition(file, field), text.arg(name));
+            FileFindings(file, findings).add("colon-in-name", position, text.arg(name));
     };
     const AUTH_INF &item = file.item();
-    look(item.name, "name", Command::tr("the name \"%1\" of the module holds a \":\""));
-    look(item.group, "group", Command::tr("the name \"%1\" of the group holds a \":\""));
-    for (const QString &mode : item.inner_mode_nameList) {
+    look(item.name, fieldPosition(file, "name"),
+         Command::tr("the name \"%1\" of the module holds a \":\""));
+    look(item.group, fieldPosition(file, "group"),
+         Command::tr("the name \"%1\" of the group holds a \":\""));
+    for (int i = 0; i < item.inner_mode_nameList.size(); ++i) {
         // A mode that is called like its module is the same mistake.
+        const QString &mode = item.inner_mode_nameList.at(i);
         if (mode != item.name)
-            look(mode, "inner_mode_nameList",
+            look(mode, modePosition(file, i),
                  Command::tr("the name \"%1\" of the inner mode holds a \":\""));
     }
 }
@@ -130,9 +137,10 @@ void findUpdate(const ItemFile &file, Findings *findings)
     if (item.exclusive_group || hasEntries(item.output_results)
         || item.inner_mode_nameList.size() > 1
         || std::any_of(modes.cbegin(), modes.cend(), hasEntries)) {
-        addFinding(findings, "update-module", file, fieldPosition(file, "name"),
-                   Command::tr("a module named \"Update\" makes the program write its name and "
-                               "version to Config/update.ini, and this one is a calculation"));
+        FileFindings(file, findings)
+            .add("update-module", fieldPosition(file, "name"),
+                 Command::tr("a module named \"Update\" makes the program write its name and "
+                             "version to Config/update.ini, and this one is a calculation"));
     }
 }
 

@@ -4,8 +4,9 @@
 #ifndef RULES_PLACES_H
 #define RULES_PLACES_H
 
-#include "itemfile.h"
-#include "lint/rules.h"
+#include "lint/filefindings.h"
+#include "lint/lintitem.h"
+#include "lint/speltvalue.h"
 
 // What the examples of rules have in common.
 #define EXAMPLE_MODE                                                                               \
@@ -71,10 +72,29 @@ inline IniPosition sectionPosition(const ItemFile &file, const QString &name)
     return position;
 }
 
-inline void addFinding(Findings *findings, const char *rule, const ItemFile &file,
-                       IniPosition position, const QString &text)
+/// Where the element at @p index of the list of a key begins; where the list does without one.
+inline IniPosition elementPosition(const ItemFile &file, const ItemFileKey *key, int index)
 {
-    findings->append({ QLatin1String(rule), file.path(), position, text, {} });
+    if (!key)
+        return {};
+    const SpeltValue spelt = speltValueOf(rawValueOf(file, *key));
+    return index >= 0 && index < spelt.elements.size()
+        ? file.positionAt(spelt.elements.at(index).text.data())
+        : key->valuePosition;
+}
+
+/// Whether there is a parameter or a result @p name. The rest about it is stale otherwise.
+inline bool isDeclared(const ItemFile &file, const QString &name)
+{
+    return file.find(QStringLiteral("Attribute"), name)
+        || file.find(QStringLiteral("Result"), name);
+}
+
+/// Where the name of the mode at @p index begins.
+inline IniPosition modePosition(const ItemFile &file, int index)
+{
+    return elementPosition(
+        file, file.find(QStringLiteral("KeltoItem"), QStringLiteral("inner_mode_nameList")), index);
 }
 
 #endif

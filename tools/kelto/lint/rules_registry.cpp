@@ -17,10 +17,13 @@ namespace {
 void findModesTwice(const ItemFile &file, Findings *findings)
 {
     QHash<QString, int> counts;
-    for (const QString &mode : file.item().inner_mode_nameList) {
+    const QStringList modes = file.item().inner_mode_nameList;
+    for (int i = 0; i < modes.size(); ++i) {
+        const QString &mode = modes.at(i);
         if (++counts[mode] == 2 && !mode.isEmpty()) {
-            addFinding(findings, "mode-twice", file, fieldPosition(file, "inner_mode_nameList"),
-                       Command::tr("two inner modes are named \"%1\"").arg(mode));
+            FileFindings(file, findings)
+                .add("mode-twice", modePosition(file, i),
+                     Command::tr("two inner modes are named \"%1\"").arg(mode));
         }
     }
 }
@@ -31,9 +34,10 @@ void findModulesTwice(const QVector<ItemFile> &files, Findings *findings)
     for (const ItemFile &file : files) {
         const QString name = file.item().name;
         if (paths.contains(name) && !name.isEmpty()) {
-            addFinding(findings, "module-twice", file, fieldPosition(file, "name"),
-                       Command::tr("another module is named \"%1\" as well: %2")
-                           .arg(name, paths.value(name)));
+            FileFindings(file, findings)
+                .add("module-twice", fieldPosition(file, "name"),
+                     Command::tr("another module is named \"%1\" as well: %2")
+                         .arg(name, paths.value(name)));
         } else {
             paths.insert(name, file.path());
         }
@@ -59,14 +63,16 @@ void findModesOfSeveralModules(const QVector<ItemFile> &files, Findings *finding
         const AUTH_INF &item = file.item();
         if (!groups.contains(item.group))
             continue;
-        for (const QString &mode : item.inner_mode_nameList) {
+        for (int i = 0; i < item.inner_mode_nameList.size(); ++i) {
+            const QString &mode = item.inner_mode_nameList.at(i);
             const ItemFile *&first = firsts[{ item.group, mode }];
             if (!first) {
                 first = &file;
             } else if (first->item().name != item.name && !mode.isEmpty()) {
-                addFinding(findings, "mode-twice", file, fieldPosition(file, "inner_mode_nameList"),
-                           Command::tr("the group \"%1\" has an inner mode \"%2\" already: %3")
-                               .arg(item.group, mode, first->path()));
+                FileFindings(file, findings)
+                    .add("mode-twice", modePosition(file, i),
+                         Command::tr("the group \"%1\" has an inner mode \"%2\" already: %3")
+                             .arg(item.group, mode, first->path()));
             }
         }
     }
@@ -99,10 +105,11 @@ void findGroupsTranslatedAlike(const QVector<const ItemFile *> &files,
         const QString other = groups.value(translated, group);
         groups.insert(translated, other);
         if (other != group) {
-            addFinding(findings, "group-translation", *file, fieldPosition(*file, "group"),
-                       Command::tr("the translation \"%1\" of the group \"%2\" is also a name of "
-                                   "the group \"%3\": %4")
-                           .arg(translated, group, other, translations.path()));
+            FileFindings(*file, findings)
+                .add("group-translation", fieldPosition(*file, "group"),
+                     Command::tr("the translation \"%1\" of the group \"%2\" is also a name of "
+                                 "the group \"%3\": %4")
+                         .arg(translated, group, other, translations.path()));
         }
     }
 }

@@ -29,14 +29,16 @@ std::optional<UnitPair> pairOf(const ItemFile &file, const ItemFileKey &key, Fin
     const QString second = key.value.constLast();
     const std::optional<Unit> units[] { unitOf(first), unitOf(second) };
     if (!units[0] || !units[1]) {
-        addFinding(findings, "unknown-unit", file, key.valuePosition,
-                   Command::tr("\"%1\" is no known unit").arg(units[0] ? second : first));
+        FileFindings(file, findings)
+            .add("unknown-unit", elementPosition(file, &key, units[0] ? key.value.size() - 1 : 0),
+                 Command::tr("\"%1\" is no known unit").arg(units[0] ? second : first));
         return std::nullopt;
     }
     if (units[0]->dimension != units[1]->dimension) {
-        addFinding(
-            findings, "unit-dimension", file, key.valuePosition,
-            Command::tr("\"%1\" and \"%2\" are units of different quantities").arg(first, second));
+        FileFindings(file, findings)
+            .add("unit-dimension", key.valuePosition,
+                 Command::tr("\"%1\" and \"%2\" are units of different quantities")
+                     .arg(first, second));
         return std::nullopt;
     }
     return UnitPair { &key, first, *units[0], first == second };
@@ -52,9 +54,10 @@ void findUnconverted(const ItemFile &file, const QVector<UnitPair> &pairs, Findi
     for (const UnitPair &pair : pairs) {
         if (converts && pair.areTextsEqual && !pair.first.isCoherent()
             && !pair.first.dimension.isEmpty()) {
-            addFinding(findings, "unit-not-converted", file, pair.key->valuePosition,
-                       Command::tr("\"%1\" is not converted, while other units of the module are")
-                           .arg(pair.text));
+            FileFindings(file, findings)
+                .add("unit-not-converted", pair.key->valuePosition,
+                     Command::tr("\"%1\" is not converted, while other units of the module are")
+                         .arg(pair.text));
         }
     }
 }
@@ -65,7 +68,7 @@ void check(const ItemFile &file, Findings *findings)
         return;
     QVector<UnitPair> pairs;
     for (const ItemFileKey &key : file.keys()) {
-        if (key.section != QLatin1String("Unit"))
+        if (key.section != QLatin1String("Unit") || !isDeclared(file, key.name))
             continue;
         const std::optional<UnitPair> pair = pairOf(file, key, findings);
         if (pair && key.value.size() == 2)

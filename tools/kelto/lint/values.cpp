@@ -332,9 +332,9 @@ RuleArea valueRules()
                                 "\"number\" and \"inner_mode_count\" are whole numbers; "
                                 "everything else is read as 0."),
               "[KeltoItem]\n"
-"number=first\nname=Beam\n",
-"[KeltoItem]\n"
-"number=1\nname=Beam\n" },
+              "number=first\nname=Beam\n",
+              "[KeltoItem]\n"
+              "number=1\nname=Beam\n" },
         },
         check,
         nullptr
