@@ -95,8 +95,10 @@ def console_steps(text):
 
 def script_of(page):
     script = (Path(__file__).parent / "walk.sh").read_text(encoding="utf-8")
-    count = 0
-    for block in blocks_of(page):
+    blocks = blocks_of(page)
+    if not blocks:
+        sys.exit(f"{page}: there is nothing to do on this page.")
+    for block in blocks:
         if block.is_skipped:
             continue
         script += f"at={page}:{block.line}\n"
@@ -111,11 +113,6 @@ def script_of(page):
             script += f"compile {heredoc(block.text)}"
         elif block.language == "c++":
             script += f"compile {heredoc(fragment_of(block.text))}"
-        else:
-            continue
-        count += 1
-    if count == 0:
-        sys.exit(f"{page}: there is nothing to do on this page.")
     return script
 
 
