@@ -19,6 +19,7 @@ const QVector<Command> &commands()
         docCommand(),
         newCommand(),
         fmtCommand(),
+        convertCommand(),
         styleCommand(),
     };
     // clang-format on

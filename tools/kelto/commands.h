@@ -20,6 +20,7 @@ Command modesCommand();
 Command showCommand();
 Command docCommand();
 Command lintCommand();
+Command convertCommand();
 Command fmtCommand();
 Command newCommand();
 Command styleCommand();

@@ -133,7 +133,10 @@ QByteArray spelledValue(const QStringList &elements, int column)
         const QByteArray quote = isQuoted ? "\"" : "";
         spelt.append(quote + escaped(element) + quote);
     }
-    const QByteArray line = spelt.join(", ");
+    QByteArray line = spelt.join(", ");
+    // An empty element at the end.
+    if (line.endsWith(' '))
+        line.chop(1);
     const bool isLong = column + QString::fromUtf8(line).size() > longestLine;
     return isLong && isAnyQuoted ? spelt.join(",\\\n") : line;
 }
