@@ -10,6 +10,7 @@
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTemporaryFile>
 #include <QVBoxLayout>
 
 #include <cmath>
@@ -17,7 +18,6 @@
 int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);
-
     // The module stands in a file. Kelto would take a missing one for an empty one.
     const QString moduleFile = QCoreApplication::applicationDirPath() + "/cantilever.ini";
     if (!QFileInfo::exists(moduleFile)) {
@@ -36,12 +36,11 @@ int main(int argc, char *argv[])
     dialog.show(); // waits until it is closed
     if (dialog.operateIndex != 0)
         return 0; // cancelled
-    const QString group = registry.current_group;
-    const int mode = registry.exclusive_group_select(group);
+    const int mode = registry.exclusive_group_select(registry.current_group);
 
     // The form knows names, units, defaults and limits from the file.
     QWidget window;
-    KeltoParameterForm form(&registry, group, mode);
+    KeltoParameterForm form(&registry, registry.current_group, mode);
     QPushButton calculate("&Calculate");
     KeltoResultView results;
     QVBoxLayout layout(&window);
@@ -49,7 +48,9 @@ int main(int argc, char *argv[])
     layout.addWidget(&calculate);
     layout.addWidget(&results);
 
-    // The values of the last time.
+    // The values of the last time. Kelto says nothing when it cannot store new ones.
+    if (!QTemporaryFile("minimal-XXXXXX").open())
+        QMessageBox::warning(nullptr, "Minimal", "Values cannot be stored in this directory.");
     const QString valueFile = "minimal-values.ini";
     QVector<QPair<QString, QVariant>> values;
     if (QFileInfo::exists(valueFile) && registry.load(valueFile, &values))
@@ -64,15 +65,14 @@ int main(int argc, char *argv[])
         values = form.values();
         registry.save(valueFile, &values);
         registry.getCalculationLData(values);
-        const auto number = [&](const char *key) {
+        const auto value = [&](const char *key) {
             return registry.value_cal(QString("Attribute/") + key).toDouble();
         };
-        const double inertia = number("Width") * std::pow(number("Height"), 3) / 12; // mm⁴
-        const double stiffness = number("Elastic modulus") * inertia; // N·mm²
-        const double place = mode == 0 ? 3 : 8; // at the end, or spread over the length
-        const double bent = number("Force") * std::pow(number("Length"), 3) / place / stiffness;
-        const KeltoItemHints hints(&registry, group, mode);
-        results.setResults(hints.results(), { { "Deflection", bent } }, hints);
+        const double inertia = value("Width") * std::pow(value("Height"), 3) / 12; // mm⁴
+        const double force = value("Force") / (mode == 0 ? 3 : 8); // at the end, or spread out
+        const double w = force * std::pow(value("Length"), 3) / value("Elastic modulus") / inertia;
+        const KeltoItemHints hints(&registry, registry.current_group, mode);
+        results.setResults(hints.results(), { { "Deflection", w } }, hints);
     });
 
     window.show();

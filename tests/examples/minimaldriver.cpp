@@ -3,7 +3,8 @@
 
 // Built with the minimal host, which stays as it is: accepts its dialog, enters what is missing,
 // calculates, and ends it with 0 if all was as expected. Run again, it expects the values of the
-// first time. An argument that ends in ".png" gets a picture of the window.
+// first time. In a directory that cannot be written it expects a warning beforehand. An argument
+// that ends in ".png" gets a picture of the window.
 
 #include <Kelto/Forms/KeltoParameterForm>
 #include <Kelto/Forms/KeltoResultView>
@@ -11,10 +12,13 @@
 #include <QApplication>
 #include <QFile>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
 
 namespace {
+
+bool isWarned = false;
 
 bool isAgain()
 {
@@ -44,6 +48,8 @@ void enter(const KeltoParameterForm *form, const char *key, const char *text)
 void calculate(const QWidget *window, const KeltoParameterForm *form)
 {
     auto *button = window->findChild<QPushButton *>();
+    if (isWarned != QCoreApplication::arguments().contains("unwritable"))
+        return end("the directory and the warning do not go together");
     if (!isAgain()) {
         if (form->isComplete() || button->isEnabled())
             return end("nothing is missing at the start");
@@ -69,6 +75,11 @@ void look()
     auto *accept = dialog ? dialog->findChild<QPushButton *>("pushButton_accept") : nullptr;
     if (accept)
         return accept->click();
+    const auto *warning = qobject_cast<const QMessageBox *>(dialog);
+    if (warning) {
+        isWarned = warning->text() == "Values cannot be stored in this directory.";
+        return warning->button(QMessageBox::Ok)->click();
+    }
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (const QWidget *window : windows) {
         const auto *form = window->findChild<KeltoParameterForm *>();
