@@ -256,9 +256,9 @@ private Q_SLOTS:
         QTest::newRow("outside its limits") << "Point load"
                                             << "-5"
                                             << "-5 is outside";
-        QTest::newRow("refused by the calculation") << "Length"
-                                                    << "-5"
-                                                    << "greater than zero";
+        QTest::newRow("no length") << "Length"
+                                   << "-5"
+                                   << "-5 is outside";
         QTest::newRow("too large to calculate with") << "Length"
                                                      << "1e200"
                                                      << "too large";
