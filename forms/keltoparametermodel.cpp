@@ -55,7 +55,11 @@ KeltoParameterModel::KeltoParameterModel(QVector<VParameter> parameters, KeltoIt
 {
 }
 
-KeltoParameterModel::~KeltoParameterModel() = default;
+KeltoParameterModel::~KeltoParameterModel()
+{
+    // The stack clears itself at its end, and would tell of that as of an edit.
+    d->undoStack.disconnect();
+}
 
 int KeltoParameterModel::rowCount(const QModelIndex &parent) const
 {

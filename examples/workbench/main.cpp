@@ -1,7 +1,10 @@
 // SPDX-FileCopyrightText: The Kelto developers
 // SPDX-License-Identifier: MIT
 
+#include "mainwindow.h"
 #include "workbench.h"
+
+#include <Kelto/AUTH_SET>
 
 #include <QApplication>
 
@@ -13,7 +16,9 @@ int main(int argc, char *argv[])
         return readOptions(QCoreApplication::arguments());
     }();
     QApplication application(argc, argv);
-    Workbench workbench(options);
-    workbench.open(options);
+    AUTH_SET registry(QCoreApplication::applicationName(), QCoreApplication::applicationVersion(),
+                      options.modules);
+    MainWindow window(&registry, options.modules, options.language);
+    window.begin(options.task, options.project);
     return QApplication::exec();
 }

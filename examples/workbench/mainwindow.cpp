@@ -21,8 +21,9 @@
 #include <QInputDialog>
 #include <QLocale>
 #include <QMessageBox>
-#include <QPrintDialog>
-#include <QPrinter>
+#include <QRegularExpression>
+#include <QStyle>
+#include <QTime>
 #include <QUndoStack>
 
 namespace {
@@ -36,39 +37,21 @@ const char *const languageKey = "Window/Language";
 
 const int recentCount = 8;
 
-/// @p values, with those of @p others in place of their own where both have a key.
-Values overlaid(Values values, const Values &others)
-{
-    for (auto &value : values) {
-        const QVariant other = valueOf(others, value.first);
-        if (other.isValid())
-            value.second = other;
-    }
-    return values;
-}
-
-/// @p values, with defaults for what does not count beside them: it may count later.
-Values withDefaultsOfHidden(Values values, const Task &task)
-{
-    const Values given = values;
-    for (const VParameter &parameter : task.parameters) {
-        const QString name = parameter.name().first;
-        const QString key = "Attribute/" + name;
-        if (!valueOf(given, key).isValid() && !task.hints.counts(name, &given))
-            values.append({ key, task.hints.defaultValue(name) });
-    }
-    return values;
-}
-
 } // namespace
 
-MainWindow::MainWindow(AUTH_SET *registry, const QVector<AUTH_INF> &modules)
+MainWindow::MainWindow(AUTH_SET *registry, const QVector<AUTH_INF> &modules,
+                       const QString &language)
     : m_registry(registry)
     , m_modules(modules)
     , ui(std::make_unique<Ui::MainWindow>())
 {
     ui->setupUi(this);
     // What Qt Designer cannot say.
+    ui->newProject->setIcon(style()->standardIcon(QStyle::SP_FileIcon));
+    ui->open->setIcon(style()->standardIcon(QStyle::SP_DialogOpenButton));
+    ui->save->setIcon(style()->standardIcon(QStyle::SP_DialogSaveButton));
+    ui->calculate->setIcon(style()->standardIcon(QStyle::SP_MediaPlay));
+    ui->study->setIcon(style()->standardIcon(QStyle::SP_FileDialogDetailedView));
     ui->message->setBackgroundRole(QPalette::ToolTipBase);
     ui->message->setForegroundRole(QPalette::ToolTipText);
     ui->sheet->setSizes({ 4500, 5500 });
@@ -79,14 +62,34 @@ MainWindow::MainWindow(AUTH_SET *registry, const QVector<AUTH_INF> &modules)
     connect(ui->undo, &QAction::triggered, this, [this] { m_model->undoStack()->undo(); });
     connect(ui->redo, &QAction::triggered, this, [this] { m_model->undoStack()->redo(); });
     connect(ui->defaults, &QAction::triggered, this, [this] { m_model->resetToDefaults(); });
-    connect(ui->languages, &QActionGroup::triggered, this,
-            [this](const QAction *action) { setLanguage(action->objectName()); });
+    connect(ui->languages, &QActionGroup::triggered, this, [this](const QAction *action) {
+        m_registry->setValueInSet(languageKey, action->objectName());
+        setLanguage(action->objectName());
+    });
     restoreGeometry(m_registry->value_set(geometryKey).toByteArray());
     restoreState(m_registry->value_set(layoutKey).toByteArray());
-    showTask({}, {});
+    showTask({}, false);
+    setLanguage(language);
+    for (const AUTH_INF &module : modules) {
+        const auto problems = KeltoItemHints(module).problems();
+        for (const auto &problem : problems)
+            log(module.name + ": " + problem.text());
+    }
 }
 
 MainWindow::~MainWindow() = default;
+
+void MainWindow::begin(const QString &task, const QString &project)
+{
+    log(tr("Started, version %1").arg(QCoreApplication::applicationVersion()));
+    show();
+    if (!task.isEmpty())
+        startProject(tasksNamed(*m_registry, task).value(0));
+    else if (project.isEmpty())
+        newProject();
+    if (!project.isEmpty())
+        openProject(project);
+}
 
 // --- Projects --------------------------------------------------------------------
 
@@ -103,7 +106,7 @@ void MainWindow::newProject()
 void MainWindow::startProject(const Task &task)
 {
     m_project = {};
-    showTask(task, {});
+    showTask(task, false);
 }
 
 void MainWindow::openProject(const QString &path)
@@ -119,16 +122,20 @@ void MainWindow::openProject(const QString &path)
     if (task.isNull())
         return;
     m_project = project;
-    showTask(task, m_project.values());
+    showTask(task, true);
+    log(tr("Opened %1").arg(m_project.path()));
     QStringList sentences = m_project.differences(*m_registry, task);
     if (tasks.isEmpty())
         sentences.prepend(
             tr("The project is for the task \"%1\", which is not on offer.").arg(m_project.task()));
     if (!m_project.lockProblem().isEmpty())
         sentences.prepend(tr("The project can only be read. %1").arg(m_project.lockProblem()));
+    for (const QString &sentence : qAsConst(sentences))
+        log(sentence);
+    // The message goes with the next step. The log stays until the user closes it.
+    ui->log->setVisible(ui->log->isVisible() || !sentences.isEmpty());
     tell(sentences.join('\n'));
     remember();
-    log("Opened " + m_project.path());
 }
 
 void MainWindow::chooseProject()
@@ -157,7 +164,7 @@ bool MainWindow::saveAs()
 
 bool MainWindow::saveTo(const QString &path)
 {
-    m_project.setTask(m_task, ui->form->values());
+    m_project.setTask(m_task, ui->form->values(), m_registry->value_group(m_task.id()));
     const QString problem = m_project.save(*m_registry, path);
     if (!problem.isEmpty()) {
         tell(problem);
@@ -167,11 +174,11 @@ bool MainWindow::saveTo(const QString &path)
             && saveAs();
     }
     remember();
-    setWindowModified(false);
+    m_model->undoStack()->setClean();
     updateTitle();
     tell({});
     ui->statusBar->showMessage(tr("Saved."), 5000);
-    log("Saved " + m_project.path());
+    log(tr("Saved %1").arg(m_project.path()));
     return true;
 }
 
@@ -202,8 +209,10 @@ void MainWindow::offerRecent()
     ui->recent->clear();
     const QStringList recent = m_registry->value_set(recentProjects).toStringList();
     for (const QString &path : recent)
-        ui->recent->addAction(QDir::toNativeSeparators(path).replace('&', "&&"), this,
-                              [this, path] { openProject(path); });
+        ui->recent
+            ->addAction(QDir::toNativeSeparators(path).replace('&', "&&"), this,
+                        [this, path] { openProject(path); })
+            ->setEnabled(QFile::exists(path));
 }
 
 // --- Tasks -----------------------------------------------------------------------
@@ -242,33 +251,36 @@ void MainWindow::chooseTask()
     const Task task = confirmedTask(m_task);
     if (task.isNull() || task.id() == m_task.id())
         return;
-    // What was entered is kept for other tasks with the same parameters. Defaults are not, unless
-    // they were entered in place of another value.
-    Values entered;
-    const Values values = ui->form->values();
-    for (const auto &value : values) {
-        if (value.second != m_registry->value_group_at(m_task.id(), value.first)
-            || valueOf(m_project.values(), value.first).isValid())
-            entered.append(value);
-    }
-    m_project.setTask(m_task, entered);
-    showTask(task, {});
-    setWindowModified(true);
+    // What was entered is kept for other tasks with the same parameters.
+    m_project.setTask(m_task, ui->form->values(), m_registry->value_group(m_task.id()));
+    showTask(task, false);
+    m_model->undoStack()->resetClean();
 }
 
-/// Shows @p task with @p values; without any with its defaults, in place of which the project may
-/// have values.
-void MainWindow::showTask(const Task &task, const Values &values)
+/// Shows @p task with the values of the project: as they were saved for it, or in place of its
+/// defaults.
+void MainWindow::showTask(const Task &task, bool isSaved)
 {
-    m_task = task.inUnitsOf(values);
+    m_task = task;
     selectTask(*m_registry, task);
-    auto *model = new KeltoParameterModel(m_registry, task.group.first, task.position, this);
-    m_registry->setDefaultSettings(task.id(), model->values());
-    model->setValues(values.isEmpty() ? overlaid(model->values(), m_project.values())
-                                      : withDefaultsOfHidden(values, m_task));
-    ui->form->setModel(model);
-    delete m_model;
-    m_model = model;
+    Values defaults;
+    for (const VParameter &parameter : task.parameters) {
+        const QString key = parameter.name().first;
+        defaults.append({ attributeGroup + key, task.hints.defaultValue(key) });
+    }
+    m_registry->setDefaultSettings(task.id(), defaults);
+    Values values = isSaved ? m_project.values(task) : m_project.startValues(task, defaults);
+    for (const auto &value : qAsConst(defaults)) {
+        // What does not count may count later. Of a key that comes again the first counts.
+        if (!task.hints.counts(value.first.section('/', 1), &values))
+            values.append(value);
+    }
+    auto model = std::make_unique<KeltoParameterModel>(m_registry, task.group.first, task.position);
+    model->setValues(values);
+    connect(model->undoStack(), &QUndoStack::cleanChanged, this,
+            [this](bool isClean) { setWindowModified(!isClean); });
+    ui->form->setModel(model.get());
+    m_model = std::move(model);
     ui->sheet->setVisible(!task.isNull());
     ui->needTask->setEnabled(!task.isNull());
     m_computation = {};
@@ -277,12 +289,11 @@ void MainWindow::showTask(const Task &task, const Values &values)
     if (task.isNull())
         return;
     m_registry->setValueInSet(lastTask, task.id());
-    log("Task: " + m_registry->stdModeNameForm(task.group.first, task.mode.first));
+    log(tr("Task: %1").arg(task.title()));
 }
 
 void MainWindow::takeEdit()
 {
-    setWindowModified(true);
     m_computation = {};
     showResults();
     tell({});
@@ -310,7 +321,7 @@ bool MainWindow::calculate()
     m_computation = outcome.result;
     showResults();
     tell(outcome.problem);
-    log("Calculated: " + (outcome.isValid() ? "done" : outcome.problem));
+    log(outcome.isValid() ? tr("Calculated") : tr("Not calculated. %1").arg(outcome.problem));
     return outcome.isValid();
 }
 
@@ -327,8 +338,9 @@ void MainWindow::studyParameter()
 {
     if (!calculate())
         return;
-    StudyDialog(m_registry, m_task, ui->form->values(), this).exec();
-    showLog();
+    StudyDialog dialog(m_registry, m_task, ui->form->values(), this);
+    connect(&dialog, &StudyDialog::ended, this, &MainWindow::log);
+    dialog.exec();
 }
 
 void MainWindow::exportReport()
@@ -339,38 +351,21 @@ void MainWindow::exportReport()
                                                       tr("Documents (*.pdf)"));
     if (path.isEmpty())
         return;
-    QPrinter printer(QPrinter::HighResolution);
-    printer.setOutputFormat(QPrinter::PdfFormat);
-    printer.setOutputFileName(path);
-    printer.setPageSize(QPageSize(QPageSize::A4));
-    printer.setPageMargins({ 18, 15, 18, 15 }, QPageLayout::Millimeter);
-    makeReport(&printer, path);
-}
-
-void MainWindow::printReport()
-{
-    QPrinter printer(QPrinter::HighResolution);
-    if (calculate() && QPrintDialog(&printer, this).exec() == QDialog::Accepted)
-        makeReport(&printer, printer.printerName());
-}
-
-void MainWindow::makeReport(QPrinter *printer, const QString &place)
-{
-    printer->setDocName(m_task.title());
     const Report report { m_project.path(), m_task, ui->form->values(), m_computation };
-    if (!report.print(printer))
-        return tell(tr("\"%1\" cannot be written.").arg(QDir::toNativeSeparators(place)));
+    if (!report.save(path))
+        return tell(tr("\"%1\" cannot be written.").arg(QDir::toNativeSeparators(path)));
     ui->statusBar->showMessage(tr("Exported."), 5000);
-    log("Exported " + place);
+    log(tr("Exported %1").arg(path));
 }
 
 // --- Window ----------------------------------------------------------------------
 
+/// Texts are in Chinese or in English, numbers and dates in any language.
 void MainWindow::setLanguage(const QString &name)
 {
-    m_registry->setValueInSet(languageKey, name);
     useLanguage(QLocale(name), m_registry, m_modules);
-    log("Language: " + name);
+    ui->zh_CN->setChecked(QLocale(name).name() == ui->zh_CN->objectName());
+    ui->en->setChecked(!ui->zh_CN->isChecked());
 }
 
 void MainWindow::changeEvent(QEvent *event)
@@ -378,8 +373,7 @@ void MainWindow::changeEvent(QEvent *event)
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::LanguageChange) {
         ui->retranslateUi(this);
-        m_task = taskAt(*m_registry, m_task.group.first, m_task.position)
-                     .inUnitsOf(ui->form->values());
+        m_task = taskAt(*m_registry, m_task.group.first, m_task.position);
         retranslate();
     }
 }
@@ -411,7 +405,7 @@ void MainWindow::closeEvent(QCloseEvent *event)
         return event->ignore();
     m_registry->setValueInSet(geometryKey, saveGeometry());
     m_registry->setValueInSet(layoutKey, saveState());
-    log("Ended");
+    log(tr("Ended"));
     QMainWindow::closeEvent(event);
 }
 
@@ -422,18 +416,13 @@ void MainWindow::tell(const QString &message)
     ui->message->setVisible(!message.isEmpty());
 }
 
-void MainWindow::log(const QString &line)
+void MainWindow::log(QString line)
 {
+    // What files hold shall not begin another line.
+    static const QRegularExpression controls("\\p{Cc}+");
+    line.replace(controls, " ");
     m_registry->log(line);
-    showLog();
-}
-
-void MainWindow::showLog()
-{
-    QFile file(m_registry->filepath_log());
-    if (file.open(QIODevice::ReadOnly))
-        ui->logText->setPlainText(QString::fromUtf8(file.readAll()));
-    ui->logText->moveCursor(QTextCursor::End);
+    ui->logText->appendPlainText(QTime::currentTime().toString(Qt::ISODate) + ' ' + line);
 }
 
 void MainWindow::about()

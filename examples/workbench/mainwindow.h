@@ -12,7 +12,6 @@
 
 class AUTH_SET;
 class KeltoParameterModel;
-class QPrinter;
 
 namespace Ui {
 class MainWindow;
@@ -27,9 +26,12 @@ class MainWindow : public QMainWindow
 public:
     /// @param registry has to outlive the window.
     /// @param modules those of the registry, as their files have them
-    MainWindow(AUTH_SET *registry, const QVector<AUTH_INF> &modules);
+    MainWindow(AUTH_SET *registry, const QVector<AUTH_INF> &modules, const QString &language);
     ~MainWindow() override;
 
+    /// Shows the window with the task of this name, or asks for one where neither a task nor a
+    /// project is named, and opens the project.
+    void begin(const QString &task, const QString &project);
     /// Begins a new project without asking for its task.
     void startProject(const Task &task);
     /// Opens the project at @p path and lets the user confirm its task. What cannot be opened is
@@ -54,7 +56,6 @@ private Q_SLOTS:
     bool calculate();
     void studyParameter();
     void exportReport();
-    void printReport();
     void about();
 
 private:
@@ -62,22 +63,20 @@ private:
     void remember();
     bool mayGoOn();
     Task confirmedTask(const Task &preselected);
-    void showTask(const Task &task, const Values &values);
+    void showTask(const Task &task, bool isSaved);
     void showResults();
-    void makeReport(QPrinter *printer, const QString &place);
     void setLanguage(const QString &name);
     void retranslate();
     void updateTitle();
     void tell(const QString &message);
-    void log(const QString &line);
-    void showLog();
+    void log(QString line);
 
     AUTH_SET *m_registry;
     QVector<AUTH_INF> m_modules;
     Project m_project;
     Task m_task;
     Computation m_computation;
-    KeltoParameterModel *m_model = nullptr;
+    std::unique_ptr<KeltoParameterModel> m_model;
     std::unique_ptr<Ui::MainWindow> ui;
 };
 

@@ -6,9 +6,7 @@
 #include "modules.h"
 
 #include <QApplication>
-#include <QEvent>
 #include <QPainter>
-#include <QTimer>
 
 #include <qwt_legend.h>
 #include <qwt_painter.h>
@@ -25,22 +23,15 @@
 
 namespace {
 
-/// Colours that can be told apart with any kind of colour vision. The first of each pair stands out
-/// from white, the second from black.
-const QRgb colours[][2] = { { 0xff0072b2, 0xff56b4e9 },
-                            { 0xffd55e00, 0xffe69f00 },
-                            { 0xff007a5a, 0xff2fd6a6 },
-                            { 0xff9c4f80, 0xffe29ac6 },
-                            { 0xff000000, 0xffffffff } };
+/// Colours that can be told apart with any kind of colour vision, on white and on black.
+const QRgb colours[] = { 0xff0072b2, 0xffd55e00, 0xff00845f, 0xffb0628f };
 const Qt::PenStyle lines[]
     = { Qt::SolidLine, Qt::DashLine, Qt::DotLine, Qt::DashDotLine, Qt::DashDotDotLine };
 
-QPen penOf(int curve, const QPalette &palette)
+QPen penOf(int curve)
 {
-    const int count = int(std::size(colours));
-    const bool isDark = palette.color(QPalette::Base).lightness() < 128;
-    // After the last colour they begin anew, with other lines.
-    return { QColor(colours[curve % count][isDark]), 2, lines[(curve + curve / count) % count] };
+    return { QColor(colours[curve % int(std::size(colours))]), 2,
+             lines[curve % int(std::size(lines))] };
 }
 
 QString translated(const QString &name)
@@ -60,7 +51,7 @@ void addCurve(const Curve &curve, QwtPlot *plot)
     const int position = plot->itemList(QwtPlotItem::Rtti_PlotCurve).size();
     auto *item = new QwtPlotCurve(translated(curve.name));
     item->setSamples(curve.points);
-    item->setPen(penOf(position, plot->palette()));
+    item->setPen(penOf(position));
     item->setRenderHint(QwtPlotItem::RenderAntialiased);
     item->setLegendAttribute(QwtPlotCurve::LegendShowLine);
     item->setLegendIconSize(QSize(3, 1) * plot->fontMetrics().height() * 2 / 3);
@@ -86,7 +77,6 @@ void PlotView::setCurves(const QVector<Curve> &curves)
     const int before = count();
     while (count() > 0)
         delete widget(0);
-    m_curves = curves;
     for (const Curve &curve : curves)
         addCurve(curve, plotFor(curve));
     const auto zoomers = findChildren<QwtPlotZoomer *>();
@@ -115,15 +105,13 @@ QwtPlot *PlotView::plotFor(const Curve &curve)
     added->axisWidget(QwtPlot::yLeft)
         ->setMinBorderDist(fontMetrics().height(), fontMetrics().height());
     added->setMinimumHeight(10 * fontMetrics().height()); // Qwt asks for more
-    added->setCanvasBackground(palette().color(QPalette::Base));
-    QColor faint = palette().color(QPalette::Text);
-    faint.setAlphaF(0.3);
+    added->canvas()->setBackgroundRole(QPalette::Base);
     auto *grid = new QwtPlotGrid;
-    grid->setPen(faint, 0, Qt::DotLine);
+    grid->setPen(Qt::gray, 0, Qt::DotLine);
     grid->attach(added);
     auto *zoomer = new QwtPlotZoomer(added->canvas()); // which owns it
-    zoomer->setRubberBandPen(palette().color(QPalette::Text));
-    zoomer->setTrackerPen(palette().color(QPalette::Text));
+    zoomer->setRubberBandPen(QColor(Qt::gray));
+    zoomer->setTrackerPen(QColor(Qt::gray));
     return added;
 }
 
@@ -145,14 +133,6 @@ void PlotView::render(QPainter *painter, const QRectF &area) const
         renderer.setDiscardFlag(QwtPlotRenderer::DiscardBackground);
         renderer.render(plot(i), painter, QRectF(area.topLeft() + place, size));
     }
-}
-
-void PlotView::changeEvent(QEvent *event)
-{
-    QTabWidget::changeEvent(event);
-    // Afterwards: whoever sends the event has a list of all widgets, also of those in the plots.
-    if (event->type() == QEvent::PaletteChange)
-        QTimer::singleShot(0, this, [this] { setCurves(m_curves); });
 }
 
 QwtPlot *PlotView::plot(int index) const

@@ -28,14 +28,9 @@ public:
 public Q_SLOTS:
     void resetZoom();
 
-protected:
-    void changeEvent(QEvent *event) override;
-
 private:
     QwtPlot *plotFor(const Curve &curve);
     QwtPlot *plot(int index) const;
-
-    QVector<Curve> m_curves;
 };
 
 #endif

@@ -3,10 +3,13 @@
 
 #include "project.h"
 
+#include "calculations/units.h"
+
 #include <Kelto/AUTH_SET>
 #include <Kelto/KeltoItemFinding>
 #include <Kelto/KeltoItemParameterVerify>
 
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -16,26 +19,24 @@ namespace {
 
 const char *const taskKey = "Project/Task";
 const char *const versionKey = "Project/Version";
-const char *const attribute = "Attribute/";
-const char *const unitGroup = "Unit/";
+const char *const savedKey = "Project/Saved";
+const char *const enteredKey = "Project/Entered";
 
-void setValue(Values *values, const QString &key, const QVariant &value)
+/// Whether a project has the value of @p parameter in another unit than the task.
+bool isInOtherUnit(const Values &values, const VParameter &parameter)
 {
-    for (auto &entry : *values) {
-        if (entry.first == key) {
-            entry.second = value;
-            return;
-        }
-    }
-    values->append({ key, value });
+    const QString unit = valueOf(values, unitGroup + parameter.name().first).toString();
+    return !unit.isEmpty() && unit != parameter.unit().first;
 }
 
-/// One text for a value, the same before it was written and after it was read: a list of one text
-/// is read as a text.
-QString textOf(const QVariant &value)
+/// @p text in the unit of @p parameter. The second unit of an entry is the SI unit.
+QString converted(const QString &text, const QString &unit, const VParameter &parameter)
 {
-    const QStringList texts = value.toStringList();
-    return texts.isEmpty() ? value.toString() : texts.join("; ");
+    bool isNumber = false;
+    const double number = text.toDouble(&isNumber) / siFactor(parameter.unit().first);
+    // Fifteen digits, which rounding does not reach.
+    return isNumber && unit == parameter.unit().second ? QString::number(number, 'g', 15)
+                                                       : text + ' ' + unit;
 }
 
 } // namespace
@@ -67,16 +68,16 @@ QString Project::save(const AUTH_SET &registry, const QString &path)
     const QString problem = target == m_path && m_lock ? QString() : lock(target);
     if (!problem.isEmpty())
         return problem;
-    setValue(&m_values, versionKey, QCoreApplication::applicationVersion());
+    const QString now = QDateTime::currentDateTime().toString(Qt::ISODateWithMs);
+    setValue(versionKey, QCoreApplication::applicationVersion());
+    setValue(savedKey, now);
     registry.save(target, &m_values);
-    // Kelto does not say whether a file could be written.
+    // Kelto does not say whether a file could be written. It writes all of it or nothing.
     Values written;
     registry.load(target, &written);
-    for (const auto &value : qAsConst(m_values)) {
-        if (textOf(valueOf(written, value.first)) != textOf(value.second)) {
-            m_lock = ownLock;
-            return tr("\"%1\" cannot be written.").arg(QDir::toNativeSeparators(target));
-        }
+    if (valueOf(written, savedKey) != now) {
+        m_lock = ownLock;
+        return tr("\"%1\" cannot be written.").arg(QDir::toNativeSeparators(target));
     }
     m_path = target;
     m_lockProblem.clear();
@@ -88,20 +89,57 @@ QString Project::task() const
     return valueOf(m_values, taskKey).toString();
 }
 
-void Project::setTask(const Task &task, const Values &values)
+Values Project::values(const Task &task) const
 {
+    Values values;
+    for (const VParameter &parameter : task.parameters) {
+        const QString key = parameter.name().first;
+        QStringList texts = valueOf(m_values, attributeGroup + key).toStringList();
+        if (texts.isEmpty() || !isInOtherUnit(m_values, parameter))
+            continue;
+        for (QString &text : texts)
+            text = converted(text, valueOf(m_values, unitGroup + key).toString(), parameter);
+        values.append(
+            { attributeGroup + key, parameter.isMulti() ? QVariant(texts) : texts.first() });
+        values.append({ unitGroup + key, parameter.unit().first });
+    }
+    return values + m_values; // of a key that comes again the first counts
+}
+
+Values Project::startValues(const Task &task, Values defaults) const
+{
+    const Values all = values(task);
+    const QStringList entered = valueOf(m_values, enteredKey).toStringList();
+    for (auto &value : defaults) {
+        if (entered.contains(value.first))
+            value.second = valueOf(all, value.first);
+    }
+    return defaults;
+}
+
+void Project::setTask(const Task &task, const Values &values, const Values &defaults)
+{
+    QStringList entered = valueOf(m_values, enteredKey).toStringList();
     for (const auto &value : values) {
         // What does not count is empty now, but it may count again.
-        const QString key = value.first.section('/', 1);
-        if (!textOf(value.second).isEmpty() || task.hints.counts(key, &values))
-            setValue(&m_values, value.first, value.second);
+        if (value.second == QString() && !task.hints.counts(value.first.section('/', 1), &values))
+            continue;
+        setValue(value.first, value.second);
+        if (value.first.startsWith(attributeGroup) && !entered.contains(value.first)
+            && value.second != valueOf(defaults, value.first))
+            entered.append(value.first);
     }
-    setValue(&m_values, taskKey, task.id());
+    setValue(enteredKey, entered);
+    setValue(taskKey, task.id());
 }
 
 QStringList Project::differences(const AUTH_SET &registry, const Task &task) const
 {
     QStringList sentences;
+    const QString version = valueOf(m_values, versionKey).toString();
+    if (!version.isEmpty() && version != QCoreApplication::applicationVersion())
+        sentences.append(tr("The project was saved by version %1. This is version %2.")
+                             .arg(version, QCoreApplication::applicationVersion()));
     const auto findings
         = KeltoItemParameterVerify::explain(&task.module, &m_values, task.mode.first);
     for (const KeltoItemFinding &finding : findings) {
@@ -113,19 +151,20 @@ QStringList Project::differences(const AUTH_SET &registry, const Task &task) con
     QStringList known;
     const auto parameters = registry.defaultParameterList();
     for (const VParameter &parameter : parameters)
-        known.append(attribute + parameter.name().first);
+        known.append(attributeGroup + parameter.name().first);
     for (const auto &value : m_values) {
-        if (value.first.startsWith(attribute) && !known.contains(value.first))
+        if (value.first.startsWith(attributeGroup) && !known.contains(value.first))
             sentences.append(
                 tr("The value \"%1\" = %2 is not used by any task. It is kept in the project.")
-                    .arg(value.first.section('/', 1), textOf(value.second)));
+                    .arg(value.first.section('/', 1), value.second.toStringList().join("; ")));
     }
     for (const VParameter &parameter : task.parameters) {
-        const QVariant unit = valueOf(m_values, unitGroup + parameter.name().first);
-        if (unit.isValid() && unit.toString() != parameter.unit().first)
-            sentences.append(
-                tr("%1 was saved in %2. The task now expects %3.")
-                    .arg(parameter.name().second, unit.toString(), parameter.unit().first));
+        const QString unit = valueOf(m_values, unitGroup + parameter.name().first).toString();
+        if (isInOtherUnit(m_values, parameter))
+            sentences.append((unit == parameter.unit().second
+                                  ? tr("%1 was saved in %2. It is now given in %3.")
+                                  : tr("%1 was saved in %2. Enter it in %3."))
+                                 .arg(parameter.name().second, unit, parameter.unit().first));
     }
     return sentences;
 }
@@ -147,4 +186,15 @@ QString Project::lock(const QString &path)
         return tr("\"%1\" is open in another window (process %2 on %3).")
             .arg(QDir::toNativeSeparators(path), QString::number(process), host);
     return tr("\"%1\" cannot be written.").arg(QDir::toNativeSeparators(path));
+}
+
+void Project::setValue(const QString &key, const QVariant &value)
+{
+    for (auto &entry : m_values) {
+        if (entry.first == key) {
+            entry.second = value;
+            return;
+        }
+    }
+    m_values.append({ key, value });
 }

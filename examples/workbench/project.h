@@ -24,7 +24,7 @@ public:
     static QString open(const AUTH_SET &registry, const QString &path, Project *current);
 
     /// Writes the file and belongs to it from then on. Returns what went wrong; empty when the file
-    /// was read back as it was meant.
+    /// was written.
     QString save(const AUTH_SET &registry, const QString &path);
 
     /// Empty for a project that was never saved.
@@ -34,21 +34,28 @@ public:
 
     /// Task::id() of the task.
     QString task() const;
-    /// Everything in the file.
-    Values values() const { return m_values; }
+    /// Everything in the file, with the parameters of @p task in the units of that task. A value in
+    /// a unit that is not one of the parameter's becomes a text with that unit behind it, which is
+    /// no number, so that the user has to decide.
+    Values values(const Task &task) const;
+    /// The values with which @p task starts: @p defaults, and in their place what the user entered
+    /// for this or another task.
+    Values startValues(const Task &task, Values defaults) const;
 
     /// Takes over @p task and replaces the values of the keys that are in @p values, though not by
-    /// the empty texts of parameters that do not count.
-    void setTask(const Task &task, const Values &values);
+    /// the empty texts of parameters that do not count. Those that differ from @p defaults count as
+    /// entered by the user from then on.
+    void setTask(const Task &task, const Values &values, const Values &defaults = {});
 
-    /// What differs between the project and @p task, as it may when the project was saved with
-    /// another version of the module: parameters without a value and what they may have been called
+    /// What differs between the project as it was opened and @p task, as it may when the project
+    /// was saved by another version: parameters without a value and what they may have been called
     /// before, values that no task knows, values in another unit. One sentence each.
     QStringList differences(const AUTH_SET &registry, const Task &task) const;
 
 private:
     /// Returns why the file is not to be written.
     QString lock(const QString &path);
+    void setValue(const QString &key, const QVariant &value);
 
     QString m_path;
     QString m_lockProblem;

@@ -10,9 +10,9 @@
 #include <QAbstractTextDocumentLayout>
 #include <QCoreApplication>
 #include <QDate>
-#include <QLocale>
-#include <QPagedPaintDevice>
 #include <QPainter>
+#include <QPdfWriter>
+#include <QSaveFile>
 #include <QTextDocument>
 
 namespace {
@@ -46,12 +46,23 @@ QString Report::html() const
                    "<table width=100% cellpadding=6><tr><th align=left>%6</th><th "
                    "align=left>%7</th></tr>"
                    "<tr style='white-space:pre-wrap'><td width=50%>%8</td><td>%9</td></tr></table>")
-        .arg(task.title().toHtmlEscaped(),
-             QLocale().toString(QDate::currentDate(), QLocale::ShortFormat),
+        .arg(task.title().toHtmlEscaped(), QDate::currentDate().toString(Qt::ISODate),
              project.toHtmlEscaped(), task.module.description.toHtmlEscaped(),
              task.description.toHtmlEscaped(), Texts::tr("Input"), Texts::tr("Results"),
              textOf(entered, values, task.hints, 15),
              textOf(task.results, computation.results, task.hints, 6));
+}
+
+bool Report::save(const QString &path) const
+{
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        return false;
+    QPdfWriter writer(&file);
+    writer.setTitle(task.title());
+    writer.setPageSize(QPageSize(QPageSize::A4));
+    writer.setPageMargins({ 18, 15, 18, 15 }, QPageLayout::Millimeter);
+    return print(&writer) && file.commit();
 }
 
 bool Report::print(QPagedPaintDevice *device) const

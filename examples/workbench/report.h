@@ -16,13 +16,14 @@ struct Report
     Values values;
     Computation computation;
 
-    /// Draws one page: the task, its assumptions, the input, the results, and below these the
-    /// plots. Text that needs more than its share of the page is made smaller.
-    /// @return whether the device took it
-    bool print(QPagedPaintDevice *device) const;
+    /// Writes a PDF of one page: the task, its assumptions, the input, the results, and below these
+    /// the plots. Text that needs more than its share of the page is made smaller.
+    /// @return whether it was written; a file that cannot be stays as it was
+    bool save(const QString &path) const;
 
 private:
     QString html() const;
+    bool print(QPagedPaintDevice *device) const;
 };
 
 #endif

@@ -14,8 +14,6 @@
 
 namespace {
 
-const char *const attribute = "Attribute/";
-
 /// A number with as many digits as it has, however the language writes them.
 QString exact(double number)
 {
@@ -29,12 +27,13 @@ Outcome<Computation> computation(const Task &task, const Values &values)
                               : Outcome<Computation> { {}, findings.first().text() };
 }
 
-VParameter parameterOf(const Task &task, const QString &key)
+/// What has a unit of its own, without a key from which to take one.
+Quantity quantityOf(const VParameter &parameter)
 {
-    const auto found
-        = std::find_if(task.parameters.cbegin(), task.parameters.cend(),
-                       [&](const VParameter &parameter) { return parameter.name().first == key; });
-    return found == task.parameters.cend() ? VParameter() : *found;
+    Quantity quantity;
+    quantity.name = parameter.name().first;
+    quantity.unit = parameter.unit().first;
+    return quantity;
 }
 
 QString quoted(QString text)
@@ -55,7 +54,7 @@ QVector<StudyPoint> study(const Task &task, const Values &values, const StudyRan
     QVector<StudyPoint> points;
     Values changed = values;
     const auto entry = std::find_if(changed.begin(), changed.end(), [&](const auto &value) {
-        return value.first == attribute + range.key;
+        return value.first == attributeGroup + range.parameter.name().first;
     });
     if (entry == changed.end())
         return points;
@@ -74,44 +73,36 @@ QVector<StudyPoint> study(const Task &task, const Values &values, const StudyRan
 QVector<Curve> resultCurves(const Task &task, const StudyRange &range,
                             const QVector<StudyPoint> &points)
 {
-    const VParameter parameter = parameterOf(task, range.key);
     QVector<Curve> curves;
     for (const VParameter &result : task.results) {
         if (result.isMulti())
             continue;
         const QString name = result.name().first;
-        Curve curve { name, {}, {}, {} };
-        curve.x.name = range.key;
-        curve.x.unit = parameter.unit().first;
-        curve.y.name = name;
-        curve.y.unit = result.unit().first;
+        Curve curve { name, quantityOf(range.parameter), quantityOf(result), {} };
         for (const StudyPoint &point : points) {
             if (point.outcome.isValid())
                 curve.points.append(
                     { point.value,
-                      valueOf(point.outcome.result.results, attribute + name).toDouble() });
+                      valueOf(point.outcome.result.results, attributeGroup + name).toDouble() });
         }
         curves.append(curve);
     }
     return curves;
 }
 
-QVector<Curve> familyOfCurves(const Task &task, const StudyRange &range,
-                              const QVector<StudyPoint> &points, int count)
+QVector<Curve> familyOfCurves(const StudyRange &range, const QVector<StudyPoint> &points, int count)
 {
-    const VParameter parameter = parameterOf(task, range.key);
     QVector<Curve> curves;
     const int members = std::min(count, points.size());
     for (int i = 0; i < members; ++i) {
         // Evenly spread, with both ends.
-        const StudyPoint &point
-            = points.at(members < 2 ? 0 : i * (points.size() - 1) / (members - 1));
+        const StudyPoint &point = points.at(i * (points.size() - 1) / std::max(members - 1, 1));
         for (const Curve &member : point.outcome.result.curves) {
             Curve curve = member;
             const QString value = QString("%1 = %L2 %3")
-                                      .arg(parameter.symbol())
+                                      .arg(range.parameter.symbol())
                                       .arg(point.value)
-                                      .arg(parameter.unit().first);
+                                      .arg(range.parameter.unit().first);
             curve.name = curve.name == curve.y.name
                 ? value
                 : ModuleTexts::tr(curve.name.toUtf8().constData()) + ", " + value;
@@ -123,7 +114,7 @@ QVector<Curve> familyOfCurves(const Task &task, const StudyRange &range,
 
 QString studyAsCsv(const Task &task, const StudyRange &range, const QVector<StudyPoint> &points)
 {
-    QStringList row { heading(parameterOf(task, range.key)) };
+    QStringList row { heading(range.parameter) };
     for (const VParameter &result : task.results)
         row.append(heading(result));
     QString text = row.join(',') + ",\n";
@@ -131,7 +122,7 @@ QString studyAsCsv(const Task &task, const StudyRange &range, const QVector<Stud
         row = QStringList { exact(point.value) };
         for (const VParameter &result : task.results) {
             const QVariant value
-                = valueOf(point.outcome.result.results, attribute + result.name().first);
+                = valueOf(point.outcome.result.results, attributeGroup + result.name().first);
             row.append(value.type() == QVariant::Double ? exact(value.toDouble())
                                                         : quoted(value.toStringList().join("; ")));
         }

@@ -11,7 +11,7 @@
 /// One parameter that goes through a range in equal steps.
 struct StudyRange
 {
-    QString key;
+    VParameter parameter;
     double from = 0;
     double to = 0;
     int steps = 1;
@@ -34,8 +34,8 @@ QVector<Curve> resultCurves(const Task &task, const StudyRange &range,
                             const QVector<StudyPoint> &points);
 
 /// The curves of up to @p count of the points, named after their value of the parameter.
-QVector<Curve> familyOfCurves(const Task &task, const StudyRange &range,
-                              const QVector<StudyPoint> &points, int count);
+QVector<Curve> familyOfCurves(const StudyRange &range, const QVector<StudyPoint> &points,
+                              int count);
 
 /// A table of comma-separated values: one row for each point, one column for the parameter, for
 /// each result, and for what is wrong.

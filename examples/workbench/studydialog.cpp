@@ -10,6 +10,7 @@
 #include <QCoreApplication>
 #include <QFileDialog>
 #include <QSaveFile>
+#include <QtNumeric>
 
 StudyDialog::StudyDialog(AUTH_SET *registry, const Task &task, const Values &values,
                          QWidget *parent)
@@ -25,33 +26,38 @@ StudyDialog::StudyDialog(AUTH_SET *registry, const Task &task, const Values &val
 
 StudyDialog::~StudyDialog() = default;
 
-/// Those with one number that count beside the other values.
+/// Those that are one number and count beside the other values.
 void StudyDialog::offerParameters()
 {
-    for (const VParameter &parameter : qAsConst(m_task.parameters)) {
-        const QString key = parameter.name().first;
-        bool isNumber = false;
-        valueOf(m_values, "Attribute/" + key).toString().toDouble(&isNumber);
-        if (isNumber && !parameter.isMulti() && m_task.hints.choices(key).isEmpty()
-            && m_task.hints.counts(key, &m_values))
+    for (int i = 0; i < m_task.parameters.size(); ++i) {
+        const VParameter &parameter = m_task.parameters.at(i);
+        if (parameter.parameterObjectName() == "double" && !parameter.isMulti()
+            && m_task.hints.counts(parameter.name().first, &m_values))
             ui->studyParameter->addItem(withUnit(parameter.name().second, parameter.unit().first),
-                                        key);
+                                        i);
     }
     ui->studyRun->setEnabled(ui->studyParameter->count() > 0);
     recallRange();
+}
+
+VParameter StudyDialog::parameter() const
+{
+    return m_task.parameters.value(ui->studyParameter->currentData().toInt());
 }
 
 /// Where the temporary values hold what was entered for the parameter, for as long as the program
 /// runs.
 QString StudyDialog::place() const
 {
-    return "Study/" + ui->studyParameter->currentData().toString();
+    return "Study/" + parameter().name().first;
 }
 
 void StudyDialog::recallRange()
 {
-    const QString key = ui->studyParameter->currentData().toString();
-    const double value = valueOf(m_values, "Attribute/" + key).toDouble();
+    const QString key = parameter().name().first;
+    double value = valueOf(m_values, attributeGroup + key).toDouble();
+    if (value == 0) // or empty
+        value = m_task.hints.defaultValue(key).toDouble();
     const QStringList last = m_registry->value_temp(place()).toStringList();
     ui->studyFrom->setText(last.value(0, locale().toString(value / 2)));
     ui->studyTo->setText(last.value(1, locale().toString(value * 2)));
@@ -60,12 +66,14 @@ void StudyDialog::recallRange()
 
 bool StudyDialog::readRange()
 {
-    bool isFrom = false;
-    bool isTo = false;
-    m_range = { ui->studyParameter->currentData().toString(),
-                locale().toDouble(ui->studyFrom->text(), &isFrom),
-                locale().toDouble(ui->studyTo->text(), &isTo), ui->studySteps->value() };
-    if (isFrom && isTo && m_range.from != m_range.to) {
+    const auto numberIn = [this](const QLineEdit *edit) {
+        bool isNumber = false;
+        const double number = locale().toDouble(edit->text(), &isNumber);
+        return isNumber ? number : qQNaN(); // "inf" and "nan" are numbers for Qt
+    };
+    m_range
+        = { parameter(), numberIn(ui->studyFrom), numberIn(ui->studyTo), ui->studySteps->value() };
+    if (qIsFinite(m_range.from) && qIsFinite(m_range.to) && m_range.from != m_range.to) {
         m_registry->set_temp(place(),
                              QStringList { ui->studyFrom->text(), ui->studyTo->text(),
                                            QString::number(m_range.steps) });
@@ -73,18 +81,26 @@ bool StudyDialog::readRange()
     }
     ui->studyMessage->setText(
         tr("Enter two different numbers between which the parameter is to go."));
-    (isFrom ? ui->studyTo : ui->studyFrom)->setFocus();
+    (qIsFinite(m_range.from) ? ui->studyTo : ui->studyFrom)->setFocus();
     return false;
+}
+
+void StudyDialog::setRunning(bool isRunning)
+{
+    m_isRunning = isRunning;
+    for (QWidget *widget :
+         QWidgetList { ui->studyParameter, ui->studyFrom, ui->studyTo, ui->studySteps,
+                       ui->studyView, ui->studyRun, ui->studySave })
+        widget->setEnabled(!isRunning);
+    ui->studyCancel->setText(isRunning ? tr("Cancel") : tr("Close"));
 }
 
 void StudyDialog::run()
 {
     if (!readRange())
         return;
-    m_isRunning = true;
     m_isCanceled = false;
-    ui->studyRun->setEnabled(false);
-    ui->studyCancel->setText(tr("Cancel"));
+    setRunning(true);
     ui->studyProgress->setRange(0, m_range.steps + 1);
     m_points = study(m_task, m_values, m_range, [this](int done) {
         ui->studyProgress->setValue(done);
@@ -92,21 +108,18 @@ void StudyDialog::run()
         QCoreApplication::processEvents();
         return !m_isCanceled;
     });
-    m_isRunning = false;
-    ui->studyRun->setEnabled(true);
-    ui->studyCancel->setText(tr("Close"));
-    ui->studySave->setEnabled(true);
-    m_registry->log(QString("Study of %1: %2 of %3 points")
-                        .arg(m_range.key)
-                        .arg(m_points.size())
-                        .arg(m_range.steps + 1));
+    setRunning(false);
     showCurves();
+    Q_EMIT ended(tr("Study of %1: %2 of %3 points")
+                     .arg(m_range.parameter.name().second)
+                     .arg(m_points.size())
+                     .arg(m_range.steps + 1));
 }
 
 void StudyDialog::showCurves()
 {
     const bool isFamily = ui->studyView->currentIndex() == 1;
-    ui->plots->setCurves(isFamily ? familyOfCurves(m_task, m_range, m_points, 6)
+    ui->plots->setCurves(isFamily ? familyOfCurves(m_range, m_points, 6)
                                   : resultCurves(m_task, m_range, m_points));
     QStringList lines;
     if (m_isCanceled)

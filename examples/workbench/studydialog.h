@@ -30,6 +30,10 @@ public Q_SLOTS:
     /// While a study runs, ends that and keeps the window.
     void reject() override;
 
+Q_SIGNALS:
+    /// A study has ended, or was canceled; @p summary says which.
+    void ended(const QString &summary);
+
 private Q_SLOTS:
     void recallRange();
     void run();
@@ -39,6 +43,8 @@ private Q_SLOTS:
 private:
     void offerParameters();
     bool readRange();
+    void setRunning(bool isRunning);
+    VParameter parameter() const;
     QString place() const;
 
     AUTH_SET *m_registry;

@@ -4,7 +4,6 @@
 #include "task.h"
 
 #include <Kelto/AUTH_SET>
-#include <Kelto/KeltoParameterEntry>
 
 QVariant valueOf(const Values &values, const QString &key)
 {
@@ -23,18 +22,6 @@ QString Task::title() const
 QString Task::id() const
 {
     return group.first + '/' + module.name + '/' + mode.first;
-}
-
-Task Task::inUnitsOf(const Values &values) const
-{
-    Task task = *this;
-    for (VParameter &parameter : task.parameters) {
-        QStringList sets = parameter.toSetsForm();
-        const QVariant unit = valueOf(values, "Unit/" + parameter.name().first);
-        sets[KeltoParameterEntry::Unit] = unit.isValid() ? unit.toString() : parameter.unit().first;
-        parameter.set(sets);
-    }
-    return task;
 }
 
 Task taskAt(const AUTH_SET &registry, const QString &group, int position)

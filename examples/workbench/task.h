@@ -17,6 +17,10 @@
 
 class AUTH_SET;
 
+// The groups of keys in a list of values.
+inline const char *const attributeGroup = "Attribute/";
+inline const char *const unitGroup = "Unit/";
+
 /// The value of @p key in @p values; invalid when there is none.
 QVariant valueOf(const Values &values, const QString &key);
 
@@ -39,8 +43,6 @@ struct Task
 
     /// Group, module and mode as a heading for the user.
     QString title() const;
-    /// The same task with the units in which @p values are given, where these differ.
-    Task inUnitsOf(const Values &values) const;
     /// Group, module and mode by their plain names, joined by "/": the name in a project.
     QString id() const;
 };

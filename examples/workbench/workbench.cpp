@@ -4,6 +4,11 @@
 #include "workbench.h"
 
 #include "modules.h"
+#include "task.h"
+
+#include <Kelto/AUTH_SET>
+#include <Kelto/KeltoItemFinding>
+#include <Kelto/KeltoItemParameterVerify>
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -18,14 +23,16 @@ namespace {
 /// only after these were read here.
 QList<QCommandLineOption> optionsOfQt()
 {
-    QCommandLineOption reverse("reverse");
-    QCommandLineOption withValue({ "platform", "platformpluginpath", "platformtheme", "plugin",
-                                   "display", "style", "stylesheet", "session", "qwindowgeometry",
-                                   "qwindowicon", "qwindowtitle" },
-                                 QString(), "value");
-    reverse.setFlags(QCommandLineOption::HiddenFromHelp);
-    withValue.setFlags(QCommandLineOption::HiddenFromHelp);
-    return { reverse, withValue };
+    const QStringList withValue {
+        "platform",    "platformpluginpath", "platformtheme", "plugin",          "display",
+        "style",       "stylesheet",         "session",       "qwindowgeometry", "qwindowicon",
+        "qwindowtitle"
+    };
+    QList<QCommandLineOption> options { QCommandLineOption("reverse"),
+                                        { withValue, QString(), "value" } };
+    for (QCommandLineOption &option : options)
+        option.setFlags(QCommandLineOption::HiddenFromHelp);
+    return options;
 }
 
 /// What is wrong with the values of the options; empty when nothing is.
@@ -36,10 +43,6 @@ QString complaintAbout(const QCommandLineParser &parser)
         return "Unexpected argument: " + parser.positionalArguments().at(1);
     if (parser.isSet("language") && language != "en" && language != "zh_CN")
         return "Unknown language: " + language;
-    if (parser.isSet("task") && parser.value("task").isEmpty())
-        return "--task needs a standard mode name.";
-    if (parser.value("modules").isEmpty())
-        return "--modules needs a directory.";
     if (parser.isSet("modules") && parser.isSet("compiled"))
         return "--modules and --compiled exclude each other.";
     return {};
@@ -57,6 +60,27 @@ QVector<AUTH_INF> modulesFor(const QCommandLineParser &parser)
                  + "\nName a directory with module files (--modules), or start with the modules "
                    "that were compiled in (--compiled).");
     return modules.result;
+}
+
+/// Ends the program, and offers the tasks that there are instead of @p name.
+[[noreturn]] void quitForUnknownTask(const AUTH_SET &registry, const QString &name)
+{
+    QStringList lines { "Unknown task: " + name };
+    const Values none;
+    const auto modules = registry.AUTH_INF_DATA();
+    for (const AUTH_INF &module : modules) {
+        const auto findings
+            = KeltoItemParameterVerify::explain(&module, &none, name.section(':', -1));
+        if (findings.value(0).kind != KeltoItemFinding::UnknownMode)
+            continue;
+        for (const QString &mode : findings.first().expected)
+            lines.append("Did you mean " + registry.stdModeNameForm(module.group, mode) + '?');
+    }
+    lines.append("Known tasks:");
+    const auto modes = registry.currentModeList();
+    for (const auto &mode : modes)
+        lines.append("  " + mode.first);
+    quit(Failed, lines.join('\n'));
 }
 
 } // namespace
@@ -89,43 +113,23 @@ Options readOptions(const QStringList &arguments)
     const QString complaint = complaintAbout(parser);
     if (!complaint.isEmpty())
         quit(WrongUsage, complaint);
-    return { parser.value("language"), parser.value("task"), modulesFor(parser),
-             parser.positionalArguments().value(0) };
+
+    Options options { parser.value("language"), parser.value("task"), modulesFor(parser),
+                      parser.positionalArguments().value(0) };
+    AUTH_SET registry(QCoreApplication::applicationName(), QCoreApplication::applicationVersion(),
+                      options.modules);
+    if (options.language.isEmpty())
+        options.language = registry.value_set("Window/Language").toString();
+    if (options.language.isEmpty())
+        options.language = QLocale().name();
+    useLanguage(QLocale(options.language), &registry, options.modules);
+    if (parser.isSet("task") && tasksNamed(registry, options.task).isEmpty())
+        quitForUnknownTask(registry, options.task);
+    return options;
 }
 
 void quit(ExitCode code, const QString &complaint)
 {
     QTextStream(stderr) << complaint << '\n';
     std::exit(code);
-}
-
-Workbench::Workbench(const Options &options)
-    : m_modules(options.modules)
-    , m_registry(QCoreApplication::applicationName(), QCoreApplication::applicationVersion(),
-                 m_modules)
-    , m_window(&m_registry, m_modules)
-{
-    const QString last = m_registry.value_set("Window/Language").toString();
-    const QString language = options.language.isEmpty() ? last : options.language;
-    useLanguage(language.isEmpty() ? QLocale() : QLocale(language), &m_registry, m_modules);
-}
-
-void Workbench::open(const Options &options)
-{
-    m_registry.log("Started, version " + QCoreApplication::applicationVersion());
-    const QVector<Task> tasks = tasksNamed(m_registry, options.task);
-    if (!options.task.isEmpty() && tasks.isEmpty()) {
-        QStringList lines { "Unknown task: " + options.task, "Known tasks:" };
-        const auto modes = m_registry.currentModeList();
-        for (const auto &mode : modes)
-            lines.append("  " + mode.first);
-        quit(Failed, lines.join('\n'));
-    }
-    m_window.show();
-    if (!options.task.isEmpty())
-        m_window.startProject(tasks.first());
-    else if (options.project.isEmpty())
-        m_window.newProject();
-    if (!options.project.isEmpty())
-        m_window.openProject(options.project);
 }

@@ -4,16 +4,18 @@
 #ifndef WORKBENCH_H
 #define WORKBENCH_H
 
-#include "mainwindow.h"
+#include <Kelto/AUTH_INF>
 
-#include <Kelto/AUTH_SET>
+#include <QStringList>
+#include <QVector>
 
 enum ExitCode { Done = 0, Failed = 1, WrongUsage = 2 };
 
 struct Options
 {
-    /// Empty for the language of the last run.
+    /// That of the last run, or of the system, where none is named.
     QString language;
+    /// A task that there is, or empty.
     QString task;
     /// As their files have them, in no language in particular.
     QVector<AUTH_INF> modules;
@@ -21,32 +23,12 @@ struct Options
     QString project;
 };
 
-/// Names the application, and ends it after "--help", "--version", wrong usage and where modules
-/// cannot be read. Needs a QCoreApplication and no display, so that a QApplication can be made
-/// afterwards.
+/// Names the application, and ends it after "--help", "--version", wrong usage, for an unknown task
+/// and where modules cannot be read. Needs a QCoreApplication and no display, so that a
+/// QApplication can be made afterwards.
 Options readOptions(const QStringList &arguments);
 
 /// Ends the program with a message on the error channel.
 [[noreturn]] void quit(ExitCode code, const QString &complaint);
-
-/// The program from its start on: the modules, the one registry, the language, the window.
-class Workbench
-{
-public:
-    explicit Workbench(const Options &options);
-
-    const AUTH_SET &registry() const { return m_registry; }
-
-    /// Opens the window with the project or the task of @p options, and ends the program with a
-    /// message when there is no such task. Without a task the user is asked, and that of the
-    /// project or of the earlier run is on offer.
-    void open(const Options &options);
-
-private:
-    QVector<AUTH_INF> m_modules;
-    // It has to outlive everything that asks it.
-    AUTH_SET m_registry;
-    MainWindow m_window;
-};
 
 #endif

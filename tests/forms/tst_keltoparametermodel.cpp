@@ -97,6 +97,7 @@ private Q_SLOTS:
     void tellsWhenComplete();
     void gathersFindingsOnceForManyEdits();
     void undoesAndRedoes();
+    void tellsNothingAtItsEnd();
     void makesNoStepOfNothing();
     void mayBeFilledAnewWhileTellingOfAnEdit();
     void losesNoValue_data();
@@ -508,6 +509,18 @@ void tst_KeltoParameterModel::undoesAndRedoes()
     QCOMPARE(edited.count(), 7);
     model.setValues({ { "Attribute/Length", "8" } });
     QVERIFY(!model.undoStack()->canUndo());
+}
+
+void tst_KeltoParameterModel::tellsNothingAtItsEnd()
+{
+    const AUTH_SET registry = registryOf(caseBeam());
+    auto model = std::make_unique<Model>(&registry, "Statics", "Bend");
+    QVERIFY(type(model.get(), "Length", "3"));
+    const QSignalSpy edited(model.get(), &Model::edited);
+    const QSignalSpy clean(model->undoStack(), &QUndoStack::cleanChanged);
+    model.reset();
+    QCOMPARE(edited.count(), 0);
+    QCOMPARE(clean.count(), 0);
 }
 
 void tst_KeltoParameterModel::makesNoStepOfNothing()

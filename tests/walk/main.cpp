@@ -8,9 +8,12 @@
 // screen of twice the size.
 // Exit codes: 0 when all went well, 1 otherwise, 2 for wrong usage.
 
+#include "mainwindow.h"
 #include "road.h"
 #include "screenshots.h"
 #include "workbench.h"
+
+#include <Kelto/AUTH_SET>
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -92,12 +95,14 @@ int main(int argc, char *argv[])
     QProcess manager;
     startWindowManager(&manager, walker.input());
     // From here on as in the workbench itself, with somebody at the mouse.
-    Workbench workbench(options);
-    const QString log = workbench.registry().filepath_log();
+    AUTH_SET registry(QCoreApplication::applicationName(), QCoreApplication::applicationVersion(),
+                      options.modules);
+    const QString log = registry.filepath_log();
     QFile::remove(log);
-    const Road road(&walker, &workbench.registry(), options.language);
+    MainWindow window(&registry, options.modules, options.language);
+    const Road road(&walker, &registry, options.language);
     walker.start();
-    workbench.open(options);
+    window.begin(options.task, options.project);
     const int exitCode = QApplication::exec();
     walker.expectEnd();
     road.lookBack(log);

@@ -3,13 +3,16 @@
 
 #include "road.h"
 
+#include "mainwindow.h"
 #include "onlooker.h"
+#include "studydialog.h"
 #include "task.h"
 
 #include <Kelto/AUTH_SET>
 
 #include <QApplication>
 #include <QFile>
+#include <QFileInfo>
 #include <QMessageBox>
 
 namespace {
@@ -242,11 +245,21 @@ void Road::lookBack(const QString &logFile) const
     QString lines;
     if (log.open(QIODevice::ReadOnly))
         lines = QString::fromUtf8(log.readAll());
-    for (const char *line : { "Started", "Task: Workbench:Statics:Cantilever", "Calculated: done",
-                              "Study of Length: 11 of 11 points", "Saved", "Exported",
-                              "Language: zh_CN", "Opened", "Ended" }) {
+    const Task task = tasksNamed(*m_registry, cantilever).value(0);
+    const QStringList expected {
+        MainWindow::tr("Started, version %1").arg(QCoreApplication::applicationVersion()),
+        MainWindow::tr("Task: %1").arg(task.title()),
+        MainWindow::tr("Calculated"),
+        StudyDialog::tr("Study of %1: %2 of %3 points")
+            .arg(task.parameters.value(0).name().second, "11", "11"),
+        MainWindow::tr("Saved %1").arg(QFileInfo("beam.ini").absoluteFilePath()),
+        MainWindow::tr("Exported %1").arg(QFileInfo("report.pdf").absoluteFilePath()),
+        MainWindow::tr("Opened %1").arg(QFileInfo("old.ini").absoluteFilePath()),
+        MainWindow::tr("Ended"),
+    };
+    for (const QString &line : expected) {
         if (!lines.contains(line))
-            m_walker.fail(QString("in the log ") + line, lines);
+            m_walker.fail("in the log " + line, lines);
     }
 }
 

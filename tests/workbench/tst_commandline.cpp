@@ -68,8 +68,6 @@ private Q_SLOTS:
         using Arguments = QStringList;
         QTest::newRow("unknown option")
             << Arguments("--colour") << 2 << "Unknown option 'colour'.\n";
-        QTest::newRow("empty task")
-            << Arguments("--task=") << 2 << "--task needs a standard mode name.\n";
         QTest::newRow("unknown language")
             << Arguments { "--language", "fr" } << 2 << "Unknown language: fr\n";
         QTest::newRow("empty language") << Arguments("--language=") << 2 << "Unknown language: \n";
@@ -78,22 +76,28 @@ private Q_SLOTS:
         QTest::newRow("option of Qt without value")
             << Arguments("-style") << 2 << "Missing value after '-style'.\n";
         QTest::newRow("empty directory name")
-            << Arguments("--modules=") << 2 << "--modules needs a directory.\n";
+            << Arguments("--modules=") << 1 << "There is no directory \"\"." + advice();
         QTest::newRow("both kinds of modules") << Arguments { "--compiled", "--modules", "." } << 2
                                                << "--modules and --compiled exclude each other.\n";
         QTest::newRow("missing directory") << Arguments { "--modules", "missing" } << 1
                                            << "There is no directory \"missing\"." + advice();
-        const QString known = "Unknown task: none\n"
-                              "Known tasks:\n"
+        const QString known = "Unknown task: %2\n"
+                              "%3Known tasks:\n"
                               "%1  Workbench:Heat:Steady\n  Workbench:Heat:With convection\n";
         const QString others
             = "  Workbench:Statics:Cantilever\n  Workbench:Statics:Simply supported\n"
               "  Workbench:Statics:Fixed at both ends\n  Workbench:Statics:Compression\n"
               "  Workbench:Statics:Extension\n  Workbench:Statics:Torsion\n"
               "  Workbench:Vessels:Thin wall\n  Workbench:Vessels:Thick wall\n";
-        QTest::newRow("unknown task") << Arguments { "--task", "none" } << 1 << known.arg(others);
+        QTest::newRow("unknown task")
+            << Arguments { "--task", "none" } << 1 << known.arg(others, "none", "");
+        QTest::newRow("empty task") << Arguments("--task=") << 1 << known.arg(others, "", "");
+        QTest::newRow("task with a slip")
+            << Arguments { "--task", "Workbench:Heat:Stady" } << 1
+            << known.arg(others, "Workbench:Heat:Stady", "Did you mean Workbench:Heat:Steady?\n");
         QTest::newRow("modules of another directory")
-            << Arguments { "--modules", "mine", "--task", "none" } << 1 << known.arg("");
+            << Arguments { "--modules", "mine", "--task", "none" } << 1
+            << known.arg("", "none", "");
     }
     void complaints()
     {
@@ -120,6 +124,7 @@ private Q_SLOTS:
         QTest::newRow("version") << Arguments("--version") << 0;
         QTest::newRow("wrong option") << Arguments("--colour") << 2;
         QTest::newRow("wrong language") << Arguments("--language=fr") << 2;
+        QTest::newRow("no such task") << Arguments("--task=none") << 1;
         QTest::newRow("no such modules") << Arguments("--modules=nowhere") << 1;
         QTest::newRow("help beside an option of Qt") << Arguments { "-style", "fusion", "-h" } << 0;
     }
@@ -181,22 +186,25 @@ private Q_SLOTS:
     void namedTaskOpensTheWindowAtOnce_data()
     {
         QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QString>("line");
         using Arguments = QStringList;
-        QTest::newRow("plain name") << Arguments { "--task", "Workbench:Heat:Steady" };
-        QTest::newRow("translated name")
-            << Arguments { "--language", "zh_CN", "--task", "Workbench:传热:稳态" };
+        QTest::newRow("plain name") << Arguments { "--task", "Workbench:Heat:Steady" }
+                                    << " Task: Heat › Plane wall › Steady\n";
+        const Arguments chinese { "--language", "zh_CN", "--task", "Workbench:传热:稳态" };
+        QTest::newRow("translated name") << chinese << " 任务：传热 › 平壁 › 稳态\n";
         QTest::newRow("compiled modules, translated name")
-            << Arguments { "--compiled", "--language", "zh_CN", "--task", "Workbench:传热:稳态" };
+            << chinese + Arguments("--compiled") << " 任务：传热 › 平壁 › 稳态\n";
     }
     void namedTaskOpensTheWindowAtOnce()
     {
         QFETCH(QStringList, arguments);
+        QFETCH(QString, line);
         m_process.start(WORKBENCH_EXECUTABLE, arguments);
         QVERIFY(m_process.waitForStarted());
         // The window writes this line, so nothing asks for a task any more.
-        const auto isLogged = [] {
+        const auto isLogged = [&] {
             const QStringList files = filesIn("log");
-            return fileContent("log/" + files.value(0)).contains(" Task: Workbench:Heat:Steady\n");
+            return QString::fromUtf8(fileContent("log/" + files.value(0))).contains(line);
         };
         QTRY_VERIFY_WITH_TIMEOUT(m_process.state() == QProcess::NotRunning || isLogged(), 30000);
         QVERIFY2(isLogged(), m_process.readAllStandardError().constData());

@@ -24,6 +24,7 @@
 #include <QPushButton>
 #include <QSettings>
 #include <QSpinBox>
+#include <QToolBar>
 #include <QTranslator>
 #include <QTreeView>
 #include <QtTest>
@@ -148,8 +149,8 @@ private Q_SLOTS:
     {
         QCOMPARE(m_window->windowTitle(), QString("New project[*] - Workbench"));
         QCOMPARE(text("message"), QString("Begin a new project, or open one."));
-        for (const char *name : { "save", "saveAs", "exportReport", "print", "calculate", "study",
-                                  "undo", "redo", "defaults", "chooseTask" })
+        for (const char *name : { "save", "saveAs", "exportReport", "calculate", "study", "undo",
+                                  "redo", "defaults", "chooseTask" })
             QVERIFY2(!action(name)->isEnabled(), name);
         m_answers->add("UTaskSelectDialog", [](QWidget *d) { click(d, "pushButton_cancel"); });
         trigger("newProject");
@@ -220,9 +221,9 @@ private Q_SLOTS:
         trigger("calculate");
         QCOMPARE(rowOf("Deflection"), deflection);
 
-        const QString log = fileContent(m_registry->filepath_log());
-        for (const char *line : { " Task: Workbench:Statics:Cantilever\n", " Calculated: done\n",
-                                  "beam.ini\n", " Ended\n" })
+        const QString log = QString::fromUtf8(fileContent(m_registry->filepath_log()));
+        for (const char *line :
+             { " Task: Statics › Beam › Cantilever\n", " Calculated\n", "beam.ini\n", " Ended\n" })
             QVERIFY2(log.contains(line), qPrintable(log));
     }
 
@@ -338,10 +339,51 @@ private Q_SLOTS:
         trigger("calculate");
         QCOMPARE(rowOf("Slope"), slope);
         m_answers->add("StudyDialog", [](QWidget *dialog) {
-            QVERIFY(dialog->findChild<QComboBox *>("studyParameter")->findText("Length [m]") >= 0);
+            QVERIFY(dialog->findChild<QComboBox *>("studyParameter")->findText("Length [mm]") >= 0);
             dialog->close();
         });
         trigger("study");
+    }
+
+    /// It is no number in the unit of the task, until the user has typed one.
+    void projectInAnUnknownUnit()
+    {
+        QVERIFY(writeFile("old.ini",
+                          "[Project]\nTask=Statics/Beam/Cantilever\n"
+                          "[Attribute]\nLength=5\n[Unit]\nLength=furlong\n"));
+        m_answers->add("UTaskSelectDialog", task());
+        m_window->openProject("old.ini");
+        QVERIFY(text("message").contains("Length was saved in furlong. Enter it in mm."));
+        QCOMPARE(value("Length"), QVariant("5 furlong"));
+        QVERIFY(form()->findings().first().text().contains("\"5 furlong\" is not a number"));
+        enter("Length", "1000");
+        trigger("save");
+        const QByteArray saved = fileContent("old.ini");
+        for (const char *line : { "\nLength=1000\n", "\nLength=mm\n" })
+            QVERIFY2(saved.contains(line), saved.constData());
+    }
+
+    /// What did not fit can be read when the message has gone, until the user closes the log.
+    void differencesStayInTheLog()
+    {
+        QVERIFY(writeFile("old.ini",
+                          "[Project]\nTask=Statics/Beam/Cantilever\nVersion=0.9\n"
+                          "[Attribute]\nTorsion\x1b=3\n"));
+        m_answers->add("UTaskSelectDialog", task());
+        m_window->openProject("old.ini");
+        enter("Length", "5");
+        trigger("calculate");
+        trigger("zh_CN");
+        const auto *view = m_window->findChild<QPlainTextEdit *>("logText");
+        QVERIFY(view->isVisible());
+        const QString log = QString::fromUtf8(fileContent(m_registry->filepath_log()));
+        for (const char *part :
+             { "saved by version 0.9. This is version 1.0.\n", "Elastic modulus (E, MPa)" }) {
+            QVERIFY2(view->toPlainText().contains(part), qPrintable(view->toPlainText()));
+            QVERIFY2(log.contains(part), qPrintable(log));
+        }
+        // No byte of a file reaches a terminal.
+        QVERIFY(log.contains("Torsion") && !log.contains('\x1b'));
     }
 
     void taskThatIsNotOnOffer()
@@ -384,7 +426,7 @@ private Q_SLOTS:
         begin(cantilever);
         m_answers->add("QFileDialog", file("beam.ini"));
         trigger("save");
-        MainWindow second(m_registry.get(), m_modules);
+        MainWindow second(m_registry.get(), m_modules, "en");
         m_answers->add("UTaskSelectDialog", task());
         second.openProject("beam.ini");
         const QString message = second.findChild<QLabel *>("message")->text();
@@ -438,6 +480,88 @@ private Q_SLOTS:
         m_answers->add("UTaskSelectDialog", task("Cantilever"));
         trigger("chooseTask");
         QCOMPARE(value("Length"), QVariant("1000"));
+    }
+
+    /// Nor does a project hold its defaults as if somebody had entered them.
+    void savedDefaultsAreNotEntered()
+    {
+        begin("Vessels/Pressure vessel/Thin wall");
+        enter("Inner diameter", "300");
+        m_answers->add("QFileDialog", file("vessel.ini"));
+        trigger("save");
+        m_answers->add("UTaskSelectDialog", task("Thin wall"));
+        m_window->openProject("vessel.ini");
+        m_answers->add("UTaskSelectDialog", task("Thick wall"));
+        trigger("chooseTask");
+        QCOMPARE(value("Inner diameter"), QVariant("300"));
+        QCOMPARE(value("Internal pressure"), QVariant("40")); // 6 in the other task
+        QCOMPARE(value("Wall thickness"), QVariant("60"));
+    }
+
+    void undoingEverythingLeavesNoChange()
+    {
+        begin(cantilever);
+        QVERIFY(!m_window->isWindowModified());
+        enter("Length", "5");
+        enter("Point load", "7");
+        trigger("undo");
+        QVERIFY(m_window->isWindowModified());
+        trigger("undo");
+        QVERIFY(!m_window->isWindowModified());
+        trigger("redo");
+        QVERIFY(m_window->isWindowModified());
+        m_answers->add("QFileDialog", file("beam.ini"));
+        trigger("save");
+        QVERIFY(!m_window->isWindowModified());
+        trigger("undo");
+        QVERIFY(m_window->isWindowModified());
+        trigger("redo");
+        QVERIFY(!m_window->isWindowModified());
+        // Another task is a change that no step takes back.
+        m_answers->add("UTaskSelectDialog", task("Simply supported"));
+        trigger("chooseTask");
+        enter("Length", "8");
+        trigger("undo");
+        QVERIFY(m_window->isWindowModified());
+    }
+
+    void recentProjectThatHasGone()
+    {
+        begin(cantilever);
+        for (const char *name : { "gone.ini", "there.ini" }) {
+            m_answers->add("QFileDialog", file(name));
+            trigger("saveAs");
+        }
+        QVERIFY(QFile::remove("gone.ini"));
+        auto *recent = m_window->findChild<QMenu *>("recent");
+        Q_EMIT recent->aboutToShow();
+        QCOMPARE(recent->actions().size(), 2);
+        QVERIFY(recent->actions().at(0)->isEnabled());
+        QVERIFY(!recent->actions().at(1)->isEnabled());
+    }
+
+    void hintsThatMakeNoSenseAreLogged()
+    {
+        m_modules.first().extraKey.append(VDataItem { "Min.Lenth", "1" });
+        start();
+        const QString log = m_window->findChild<QPlainTextEdit *>("logText")->toPlainText();
+        QVERIFY2(log.contains("Beam: ") && log.contains("Lenth"), qPrintable(log));
+    }
+
+    void toolBarReadsAsText()
+    {
+        for (const char *language : { "en", "zh_CN" }) {
+            trigger(language);
+            const auto actions = m_window->findChild<QToolBar *>("tools")->actions();
+            QCOMPARE(actions.size(), 5);
+            for (const QAction *shown : actions) {
+                QVERIFY(!shown->icon().isNull());
+                QVERIFY2(!shown->iconText().contains('(') && !shown->iconText().contains('.'),
+                         qPrintable(shown->iconText()));
+            }
+            QVERIFY(action(language)->isChecked());
+        }
+        QVERIFY(!action("en")->isChecked());
     }
 
     void sameTaskAgainChangesNothing()
@@ -515,8 +639,11 @@ private Q_SLOTS:
                                                   "mm",
                                                   "Results",
                                                   "Bending moment",
-                                                  "shear deformation" };
-        QTest::newRow("Chinese") << "zh_CN" << QStringList { "静力学 › 梁 › 悬臂", "长度", "挠度" };
+                                                  "shear deformation",
+                                                  QDate::currentDate().toString(Qt::ISODate) };
+        QTest::newRow("Chinese") << "zh_CN"
+                                 << QStringList { "静力学 › 梁 › 悬臂", "长度", "挠度",
+                                                  QDate::currentDate().toString(Qt::ISODate) };
     }
     void report()
     {
@@ -543,12 +670,16 @@ private Q_SLOTS:
         m_answers->add("StudyDialog", [](QWidget *dialog) {
             auto *parameters = dialog->findChild<QComboBox *>("studyParameter");
             // A choice is no range, and what does not count has none.
-            QCOMPARE(parameters->findData("Section"), -1);
-            QCOMPARE(parameters->findData("Section diameter"), -1);
-            parameters->setCurrentIndex(parameters->findData("Point load"));
-            dialog->findChild<QLineEdit *>("studyFrom")->setText("x");
-            click(dialog, "studyRun");
-            QVERIFY(dialog->findChild<QLabel *>("studyMessage")->text().contains("numbers"));
+            QCOMPARE(parameters->findText("Section"), -1);
+            QCOMPARE(parameters->findText("Section diameter [mm]"), -1);
+            parameters->setCurrentIndex(parameters->findText("Point load [N]"));
+            QVERIFY(!dialog->findChild<QPushButton *>("studySave")->isEnabled());
+            for (const char *from : { "x", "", "inf", "-inf", "nan" }) {
+                dialog->findChild<QLineEdit *>("studyFrom")->setText(from);
+                dialog->findChild<QLabel *>("studyMessage")->clear();
+                click(dialog, "studyRun");
+                QVERIFY(dialog->findChild<QLabel *>("studyMessage")->text().contains("numbers"));
+            }
             dialog->findChild<QLineEdit *>("studyFrom")->setText("100");
             dialog->findChild<QLineEdit *>("studyTo")->setText("300");
             dialog->findChild<QSpinBox *>("studySteps")->setValue(4);
@@ -560,7 +691,7 @@ private Q_SLOTS:
         // The next dialog has the range of the last one.
         m_answers->add("StudyDialog", [](QWidget *dialog) {
             auto *parameters = dialog->findChild<QComboBox *>("studyParameter");
-            parameters->setCurrentIndex(parameters->findData("Point load"));
+            parameters->setCurrentIndex(parameters->findText("Point load [N]"));
             QCOMPARE(dialog->findChild<QLineEdit *>("studyTo")->text(), QString("300"));
             QCOMPARE(dialog->findChild<QSpinBox *>("studySteps")->value(), 4);
             dialog->close();
@@ -570,14 +701,37 @@ private Q_SLOTS:
                  QVariant(QStringList { "100", "300", "4" }));
     }
 
+    void emptyLoadCanBeStudied()
+    {
+        begin(cantilever);
+        enter("Point load", "");
+        m_answers->add("StudyDialog", [](QWidget *dialog) {
+            auto *parameters = dialog->findChild<QComboBox *>("studyParameter");
+            QVERIFY(parameters->findText("Point load [N]") >= 0);
+            parameters->setCurrentIndex(parameters->findText("Point load [N]"));
+            QCOMPARE(dialog->findChild<QLineEdit *>("studyTo")->text(), QString("1,000"));
+            click(dialog, "studyRun");
+            QCOMPARE(dialog->findChild<QLabel *>("studyMessage")->text(), QString());
+            dialog->close();
+        });
+        trigger("study");
+        QVERIFY(m_window->findChild<QPlainTextEdit *>("logText")->toPlainText().contains(
+            "Study of Point load: 11 of 11 points"));
+    }
+
     void canceledStudy()
     {
         begin(cantilever);
         m_answers->add("StudyDialog", [](QWidget *dialog) {
             dialog->findChild<QSpinBox *>("studySteps")->setValue(10000);
-            QTimer::singleShot(0, dialog, [dialog] { click(dialog, "studyCancel"); });
+            QTimer::singleShot(0, dialog, [dialog] {
+                for (const char *name : { "studySave", "studyRun", "studyView", "studyFrom" })
+                    QVERIFY2(!dialog->findChild<QWidget *>(name)->isEnabled(), name);
+                click(dialog, "studyCancel");
+            });
             click(dialog, "studyRun");
             QVERIFY(dialog->isVisible());
+            QVERIFY(dialog->findChild<QWidget *>("studySave")->isEnabled());
             const QString message = dialog->findChild<QLabel *>("studyMessage")->text();
             QVERIFY2(message.startsWith("Canceled after"), qPrintable(message));
             dialog->close();
@@ -611,7 +765,7 @@ private Q_SLOTS:
         QVERIFY(log->isVisible());
         begin(cantilever);
         trigger("calculate");
-        QTRY_VERIFY(log->toPlainText().contains("Calculated: done"));
+        QTRY_VERIFY(log->toPlainText().contains("Calculated"));
     }
 
 private:
@@ -621,9 +775,9 @@ private:
         m_window.reset();
         m_registry = std::make_unique<AUTH_SET>("Workbench", "1.0", m_modules);
         m_answers = std::make_unique<Answers>();
-        m_window = std::make_unique<MainWindow>(m_registry.get(), m_modules);
         const QString language = m_registry->value_set("Window/Language").toString();
-        useLanguage(QLocale(language.isEmpty() ? "en" : language), m_registry.get(), m_modules);
+        m_window = std::make_unique<MainWindow>(m_registry.get(), m_modules,
+                                                language.isEmpty() ? "en" : language);
         m_window->show();
         QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
         QCoreApplication::processEvents();

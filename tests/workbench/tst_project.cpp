@@ -43,6 +43,9 @@ class tst_Project : public DirectoryTest
 {
     Q_OBJECT
 
+public:
+    static void initMain() { QCoreApplication::setApplicationVersion("1.0"); }
+
 private Q_SLOTS:
     void everyTaskIsFoundAgainAsItWas_data()
     {
@@ -70,7 +73,7 @@ private Q_SLOTS:
         QCOMPARE(again.lockProblem(), QString());
         QCOMPARE(again.differences(registry, task), QStringList());
         for (const auto &value : values)
-            QCOMPARE(valueOf(again.values(), value.first), value.second);
+            QCOMPARE(valueOf(again.values(task), value.first), value.second);
     }
 
     void unreadableProjects_data()
@@ -128,7 +131,7 @@ private Q_SLOTS:
                "project.",
                "The value \"Load cycles\" = 1; 2 is not used by any task. It is kept in the "
                "project.",
-               "Wall thickness was saved in m. The task now expects mm." })
+               "Wall thickness was saved in m. It is now given in mm." })
             QVERIFY2(sentences.contains(part), qPrintable(sentences));
         // A value for another task is nothing to speak of.
         QVERIFY2(!sentences.contains("Length"), qPrintable(sentences));
@@ -137,12 +140,85 @@ private Q_SLOTS:
         QCOMPARE(project.save(registry, "old.ini"), QString());
         Project again = project;
         QCOMPARE(Project::open(registry, "old.ini", &again), QString());
-        QCOMPARE(valueOf(again.values(), "Attribute/Inner diameter"), QVariant("500"));
-        QCOMPARE(valueOf(again.values(), "Attribute/Inner diametre"), QVariant("500"));
-        QCOMPARE(valueOf(again.values(), "Attribute/Load cycles"),
+        QCOMPARE(valueOf(again.values(task), "Attribute/Inner diameter"), QVariant("500"));
+        QCOMPARE(valueOf(again.values(task), "Attribute/Inner diametre"), QVariant("500"));
+        QCOMPARE(valueOf(again.values(task), "Attribute/Load cycles"),
                  QVariant(QStringList { "1", "2" }));
-        QCOMPARE(valueOf(again.values(), "Project/Author"), QVariant("me"));
-        QCOMPARE(valueOf(again.values(), "Unit/Wall thickness"), QVariant("m"));
+        QCOMPARE(valueOf(again.values(task), "Project/Author"), QVariant("me"));
+        QCOMPARE(valueOf(again.values(task), "Attribute/Wall thickness"), QVariant("8000"));
+        QCOMPARE(valueOf(again.values(task), "Unit/Wall thickness"), QVariant("mm"));
+    }
+
+    void otherUnits_data()
+    {
+        QTest::addColumn<QString>("unit");
+        QTest::addColumn<QString>("saved");
+        QTest::addColumn<QVariant>("value");
+        QTest::newRow("that of the task") << "mm"
+                                          << "0.30" << QVariant("0.30");
+        QTest::newRow("none") << ""
+                              << "0.3" << QVariant("0.3");
+        QTest::newRow("SI unit") << "m"
+                                 << "0.3" << QVariant("300");
+        QTest::newRow("SI unit, no number") << "m"
+                                            << "thin" << QVariant("thin m");
+        QTest::newRow("unknown unit") << "furlong"
+                                      << "0.3" << QVariant("0.3 furlong");
+        QTest::newRow("unit of another quantity") << "Pa"
+                                                  << "0.3" << QVariant("0.3 Pa");
+        QTest::newRow("several values") << "m"
+                                        << "0.3, 0.01" << QVariant(QStringList { "300", "10" });
+        QTest::newRow("several values in an unknown unit")
+            << "inch"
+            << "3, 1" << QVariant(QStringList { "3 inch", "1 inch" });
+    }
+    /// Nothing is taken for what it is not: what cannot be converted is no number any more.
+    void otherUnits()
+    {
+        QFETCH(QString, unit);
+        QFETCH(QString, saved);
+        const AUTH_SET registry = newRegistry();
+        const bool isList = saved.contains(',');
+        const QString key = isList ? "Layer thickness" : "Wall thickness";
+        const Task task
+            = taskOf(registry,
+                     isList ? "Heat/Plane wall/Steady" : "Vessels/Pressure vessel/Thin wall");
+        QVERIFY(writeFile("old.ini",
+                          QString("[Project]\nTask=%1\n[Attribute]\n%2=%3\n[Unit]\n%2=%4\n")
+                              .arg(task.id(), key, saved, unit)
+                              .toUtf8()));
+        Project project;
+        QCOMPARE(Project::open(registry, "old.ini", &project), QString());
+        QTEST(valueOf(project.values(task), "Attribute/" + key), "value");
+        const QString sentences = project.differences(registry, task).join('\n');
+        QCOMPARE(sentences.contains("was saved in"), !unit.isEmpty() && unit != "mm");
+        QCOMPARE(sentences.contains("now given in mm"), unit == "m");
+    }
+
+    void versionThatSavedTheProject_data()
+    {
+        QTest::addColumn<QString>("version");
+        QTest::addColumn<QString>("sentence");
+        QTest::newRow("this one") << "1.0"
+                                  << "";
+        QTest::newRow("none") << ""
+                              << "";
+        QTest::newRow("another one")
+            << "0.9"
+            << "The project was saved by version 0.9. This is version 1.0.";
+    }
+    void versionThatSavedTheProject()
+    {
+        QFETCH(QString, version);
+        QFETCH(QString, sentence);
+        const AUTH_SET registry = newRegistry();
+        const Task task = taskOf(registry, "Heat/Plane wall/Steady");
+        Project project;
+        project.setTask(task, completeValues(task) + Values { { "Project/Version", version } });
+        QCOMPARE(project.differences(registry, task).join('\n'), sentence);
+        // Saved, it is a project of this version.
+        QCOMPARE(project.save(registry, "p.ini"), QString());
+        QCOMPARE(project.differences(registry, task), QStringList());
     }
 
     void secondInstanceIsTold()

@@ -51,10 +51,11 @@ private Q_SLOTS:
         use(task);
 
         QVector<int> progress;
-        const auto points = study(m_task, m_values, { key, from, to, steps }, [&](int done) {
-            progress.append(done);
-            return true;
-        });
+        const auto points
+            = study(m_task, m_values, { parameter(key), from, to, steps }, [&](int done) {
+                  progress.append(done);
+                  return true;
+              });
 
         QCOMPARE(points.size(), steps + 1);
         QCOMPARE(points.first().value, from);
@@ -69,7 +70,7 @@ private Q_SLOTS:
 
     void refusedValuesLeaveAGap()
     {
-        const StudyRange range { "Internal pressure", -2, 2, 4 };
+        const StudyRange range { parameter("Internal pressure"), -2, 2, 4 };
         const auto points = study(m_task, m_values, range, [](int) { return true; });
         QStringList problems;
         for (const StudyPoint &point : points) {
@@ -86,19 +87,20 @@ private Q_SLOTS:
 
     void canceledStudyKeepsWhatIsDone()
     {
-        const auto points = study(m_task, m_values, { "Internal pressure", 1, 2, 100 },
+        const auto points = study(m_task, m_values, { parameter("Internal pressure"), 1, 2, 100 },
                                   [](int done) { return done < 7; });
         QCOMPARE(points.size(), 7);
     }
 
     void unknownParameterHasNoPoints()
     {
-        QVERIFY(study(m_task, m_values, { "Colour", 1, 2, 3 }, [](int) { return true; }).isEmpty());
+        QVERIFY(
+            study(m_task, m_values, { VParameter(), 1, 2, 3 }, [](int) { return true; }).isEmpty());
     }
 
     void resultsOverTheParameter()
     {
-        const StudyRange range { "Internal pressure", 1, 3, 2 };
+        const StudyRange range { parameter("Internal pressure"), 1, 3, 2 };
         const auto points = study(m_task, m_values, range, [](int) { return true; });
         const auto curves = resultCurves(m_task, range, points);
         QCOMPARE(curves.size(), m_task.results.size()); // each has one value
@@ -119,12 +121,12 @@ private Q_SLOTS:
     void familyHasBothEnds()
     {
         use("Statics/Beam/Cantilever");
-        const StudyRange range { "Length", 1000, 2000, 10 };
+        const StudyRange range { parameter("Length"), 1000, 2000, 10 };
         const auto points = study(m_task, m_values, range, [](int) { return true; });
         const auto curvesOfOne = points.first().outcome.result.curves;
         QVERIFY(curvesOfOne.size() > 1);
 
-        const auto family = familyOfCurves(m_task, range, points, 3);
+        const auto family = familyOfCurves(range, points, 3);
 
         QCOMPARE(family.size(), 3 * curvesOfOne.size());
         QCOMPARE(family.first().name, QString("L = 1,000 mm"));
@@ -132,15 +134,15 @@ private Q_SLOTS:
         QCOMPARE(family.last().name, QString("L = 2,000 mm"));
         QCOMPARE(family.first().points, curvesOfOne.first().points);
         // No more members than points, and none without any.
-        QCOMPARE(familyOfCurves(m_task, range, points.mid(0, 2), 6).size(), 2 * curvesOfOne.size());
-        QCOMPARE(familyOfCurves(m_task, range, points.mid(0, 1), 6).size(), curvesOfOne.size());
-        QCOMPARE(familyOfCurves(m_task, range, {}, 6).size(), 0);
+        QCOMPARE(familyOfCurves(range, points.mid(0, 2), 6).size(), 2 * curvesOfOne.size());
+        QCOMPARE(familyOfCurves(range, points.mid(0, 1), 6).size(), curvesOfOne.size());
+        QCOMPARE(familyOfCurves(range, {}, 6).size(), 0);
     }
 
     void table()
     {
         use("Heat/Plane wall/Steady");
-        const StudyRange range { "Inner surface temperature", -300, 20, 1 };
+        const StudyRange range { parameter("Inner surface temperature"), -300, 20, 1 };
         const auto points = study(m_task, m_values, range, [](int) { return true; });
         const QStringList lines = studyAsCsv(m_task, range, points).split('\n');
         QCOMPARE(lines.size(), 4);
@@ -171,6 +173,12 @@ private:
             m_values.append({ "Attribute/" + key, value.isValid() ? value : QVariant(QString()) });
             m_values.append({ "Unit/" + key, parameter.unit().first });
         }
+    }
+
+    VParameter parameter(const QString &key) const
+    {
+        return *std::find_if(m_task.parameters.cbegin(), m_task.parameters.cend(),
+                             [&](const VParameter &p) { return p.name().first == key; });
     }
 
     Values computed(const QString &key, double value) const

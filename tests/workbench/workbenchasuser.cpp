@@ -21,7 +21,7 @@ int main(int argc, char *argv[])
     QApplication application(argc, argv);
     QStringList arguments = QCoreApplication::arguments();
     arguments.removeAt(1);
-    const Workbench workbench(readOptions(arguments));
+    readOptions(arguments);
     // A leak checker, which looks at what is left at a usual end, may have lost the right to read
     // what it is to overlook.
     std::quick_exit(Done);

@@ -119,10 +119,6 @@
         <translation>导出报告(&amp;E)...</translation>
     </message>
     <message>
-        <source>&amp;Print report...</source>
-        <translation>打印报告(&amp;P)...</translation>
-    </message>
-    <message>
         <source>&amp;Undo</source>
         <translation>撤销(&amp;U)</translation>
     </message>
@@ -225,6 +221,58 @@ The assumptions of each formula stand with its task.</source>
         <translation>%1 %2 可计算梁、弹簧、容器和墙壁。
 
 每个公式的假设见其任务说明。</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>新建</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>打开</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Calculate</source>
+        <translation>计算</translation>
+    </message>
+    <message>
+        <source>Parameter study</source>
+        <translation>参数研究</translation>
+    </message>
+    <message>
+        <source>Started, version %1</source>
+        <translation>已启动，版本 %1</translation>
+    </message>
+    <message>
+        <source>Opened %1</source>
+        <translation>已打开 %1</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>已保存 %1</translation>
+    </message>
+    <message>
+        <source>Task: %1</source>
+        <translation>任务：%1</translation>
+    </message>
+    <message>
+        <source>Calculated</source>
+        <translation>已计算</translation>
+    </message>
+    <message>
+        <source>Not calculated. %1</source>
+        <translation>未计算。%1</translation>
+    </message>
+    <message>
+        <source>Exported %1</source>
+        <translation>已导出 %1</translation>
+    </message>
+    <message>
+        <source>Ended</source>
+        <translation>已结束</translation>
     </message>
 </context>
 <context>
@@ -562,18 +610,6 @@ The assumptions of each formula stand with its task.</source>
         <translation>按欧拉-伯努利梁理论计算等截面直梁的弯曲。梁为细长梁（长度至少为高度的十倍），材料处于弹性范围，变形微小；不计剪切变形和自重。</translation>
     </message>
     <message>
-        <source>A beam clamped rigidly at its left end and free at the other. The point load acts at the free end, the line load over the whole length. The results are the largest values along the beam; a slender beam is assumed, without shear deformation and own weight.</source>
-        <translation>左端刚性固定、另一端自由的梁。集中载荷作用于自由端，均布载荷作用于全长。结果为沿梁的最大值；假定为细长梁，不计剪切变形和自重。</translation>
-    </message>
-    <message>
-        <source>A beam on a support at each end, which lets it turn. The point load acts at midspan, the line load over the whole length. The results are the largest values along the beam; a slender beam is assumed, without shear deformation and own weight.</source>
-        <translation>两端铰支、端部可自由转动的梁。集中载荷作用于跨中，均布载荷作用于全长。结果为沿梁的最大值；假定为细长梁，不计剪切变形和自重。</translation>
-    </message>
-    <message>
-        <source>A beam clamped rigidly at both ends, one of which can move lengthwise. The point load acts at midspan, the line load over the whole length. The results are the largest values along the beam; a slender beam is assumed, without shear deformation and own weight.</source>
-        <translation>两端刚性固定、其中一端可沿轴向移动的梁。集中载荷作用于跨中，均布载荷作用于全长。结果为沿梁的最大值；假定为细长梁，不计剪切变形和自重。</translation>
-    </message>
-    <message>
         <source>Section</source>
         <translation>截面</translation>
     </message>
@@ -594,22 +630,6 @@ The assumptions of each formula stand with its task.</source>
         <translation>剪力</translation>
     </message>
     <message>
-        <source>Cylindrical helical spring of round wire, with the stress at the inner side of the coil after Wahl. The mean coil diameter counts, and only active coils deform; hooks and legs are left out.</source>
-        <translation>圆截面钢丝圆柱螺旋弹簧，簧圈内侧应力按 Wahl 公式计算。以弹簧中径为准，仅有效圈参与变形；不计钩环和扭臂。</translation>
-    </message>
-    <message>
-        <source>A spring pressed along its axis. Diameters are measured from wire centre to wire centre, only active coils deform, and the stress at the inner side of the coil holds Wahl&apos;s factor. Buckling is not checked.</source>
-        <translation>沿轴线受压的弹簧。直径按钢丝中心线计量，仅有效圈参与变形，簧圈内侧应力已计入 Wahl 曲度系数。不校核失稳。</translation>
-    </message>
-    <message>
-        <source>A spring pulled along its axis, which opens when the force exceeds the initial tension. Diameters are measured from wire centre to wire centre, only active coils deform, and the stress at the inner side of the coil holds Wahl&apos;s factor. The hooks are left out, in travel as in stress.</source>
-        <translation>沿轴线受拉的弹簧，力超过初拉力时开始伸长。直径按钢丝中心线计量，仅有效圈参与变形，簧圈内侧应力已计入 Wahl 曲度系数。变形和应力均不计钩环。</translation>
-    </message>
-    <message>
-        <source>A spring twisted about its axis, in the direction that closes the coils. Diameters are measured from wire centre to wire centre, only active coils deform, and the stress at the inner side of the coil holds Wahl&apos;s factor for bending. The legs and friction on a mandrel are left out.</source>
-        <translation>绕轴线沿簧圈收紧方向受扭的弹簧。直径按钢丝中心线计量，仅有效圈参与变形，簧圈内侧应力已计入 Wahl 弯曲曲度系数。不计扭臂变形和芯轴摩擦。</translation>
-    </message>
-    <message>
         <source>Spring ends</source>
         <translation>端部形式</translation>
     </message>
@@ -622,14 +642,6 @@ The assumptions of each formula stand with its task.</source>
         <translation>两端封闭的圆筒形容器壁内的应力，计算位置远离封头和开孔。直径为内径，材料处于弹性范围。</translation>
     </message>
     <message>
-        <source>Membrane stresses after Barlow on the inner diameter, for a wall of at most a tenth of the inner radius, with closed ends and away from them. The pressure is that above the surroundings.</source>
-        <translation>按 Barlow 公式以内径计算的薄膜应力，适用于壁厚不超过内半径十分之一、两端封闭且远离封头处。压力为高于外界的表压。</translation>
-    </message>
-    <message>
-        <source>Stresses after Lamé at the inner surface, in the middle and at the outer surface of a wall of any thickness, with closed ends and away from them. Both pressures are counted from the same zero.</source>
-        <translation>按拉梅公式计算任意壁厚容器内壁、壁中和外壁处的应力，适用于两端封闭且远离封头处。内压与外压从同一零点算起。</translation>
-    </message>
-    <message>
         <source>Poisson ratio</source>
         <translation>泊松比</translation>
     </message>
@@ -640,14 +652,6 @@ The assumptions of each formula stand with its task.</source>
     <message>
         <source>Steady heat conduction through a plane wall of several layers in perfect contact, straight from the inner to the outer side. The conductivity of a layer does not depend on its temperature; heat that flows outwards is positive.</source>
         <translation>多层平壁从内侧到外侧的一维稳态导热，各层接触良好，无接触热阻。各层导热系数不随温度变化；向外的热流为正。</translation>
-    </message>
-    <message>
-        <source>Steady heat flow between two known surface temperatures. The layers are entered from the inner to the outer side and touch perfectly; the heat flux is positive from the inner to the outer side.</source>
-        <translation>已知两侧表面温度时的稳态导热。各层从内到外输入，层间接触良好，无接触热阻；热流密度由内向外为正。</translation>
-    </message>
-    <message>
-        <source>Steady heat flow between the air on both sides. The layers are entered from the inner to the outer side and touch perfectly; radiation is part of the film coefficients; the heat flux is positive from the inner to the outer side.</source>
-        <translation>两侧空气之间的稳态传热。各层从内到外输入，层间接触良好，无接触热阻；辐射已计入表面传热系数；热流密度由内向外为正。</translation>
     </message>
     <message>
         <source>Rectangle</source>
@@ -913,6 +917,50 @@ The assumptions of each formula stand with its task.</source>
         <source>Of all layers and both air films together.</source>
         <translation>各层与两侧表面热阻之和。</translation>
     </message>
+    <message>
+        <source>A beam clamped rigidly at its left end and free at the other. The point load acts at the free end, the line load over the whole length. The results are the largest values along the beam.</source>
+        <translation>左端刚性固定、另一端自由的梁。集中载荷作用于自由端，均布载荷作用于全长。结果为沿梁的最大值。</translation>
+    </message>
+    <message>
+        <source>A beam on a support at each end, which lets it turn. The point load acts at midspan, the line load over the whole length. The results are the largest values along the beam.</source>
+        <translation>两端铰支、端部可自由转动的梁。集中载荷作用于跨中，均布载荷作用于全长。结果为沿梁的最大值。</translation>
+    </message>
+    <message>
+        <source>A beam clamped rigidly at both ends, one of which can move lengthwise. The point load acts at midspan, the line load over the whole length. The results are the largest values along the beam.</source>
+        <translation>两端刚性固定、其中一端可沿轴向移动的梁。集中载荷作用于跨中，均布载荷作用于全长。结果为沿梁的最大值。</translation>
+    </message>
+    <message>
+        <source>Cylindrical helical spring of round wire, with the stress at the inner side of the coil after Wahl. Diameters of coils are measured from wire centre to wire centre, and only active coils deform.</source>
+        <translation>圆截面钢丝圆柱螺旋弹簧，簧圈内侧应力按 Wahl 公式计算。簧圈直径按钢丝中心线计量，仅有效圈参与变形。</translation>
+    </message>
+    <message>
+        <source>A spring pressed along its axis. Buckling is not checked.</source>
+        <translation>沿轴线受压的弹簧。不校核失稳。</translation>
+    </message>
+    <message>
+        <source>A spring pulled along its axis, which opens when the force exceeds the initial tension. The hooks are left out, in travel as in stress.</source>
+        <translation>沿轴线受拉的弹簧，力超过初拉力时开始伸长。变形和应力均不计钩环。</translation>
+    </message>
+    <message>
+        <source>A spring twisted about its axis, in the direction that closes the coils. The legs and friction on a mandrel are left out.</source>
+        <translation>绕轴线沿簧圈收紧方向受扭的弹簧。不计扭臂变形和芯轴摩擦。</translation>
+    </message>
+    <message>
+        <source>Membrane stresses after Barlow on the inner diameter, for a wall of at most a tenth of the inner radius. The pressure is that above the surroundings.</source>
+        <translation>按 Barlow 公式以内径计算的薄膜应力，适用于壁厚不超过内半径十分之一的容器。压力为高于外界的表压。</translation>
+    </message>
+    <message>
+        <source>Stresses after Lamé at the inner surface, in the middle and at the outer surface of a wall of any thickness. Both pressures are counted from the same zero.</source>
+        <translation>按拉梅公式计算任意壁厚容器内壁、壁中和外壁处的应力。内压与外压从同一零点算起。</translation>
+    </message>
+    <message>
+        <source>Steady heat flow between two known surface temperatures. The layers are entered from the inner to the outer side.</source>
+        <translation>已知两侧表面温度时的稳态导热。各层从内到外输入。</translation>
+    </message>
+    <message>
+        <source>Steady heat flow between the air on both sides. The layers are entered from the inner to the outer side; radiation is part of the film coefficients.</source>
+        <translation>两侧空气之间的稳态传热。各层从内到外输入；辐射已计入表面传热系数。</translation>
+    </message>
 </context>
 <context>
     <name>Project</name>
@@ -933,12 +981,20 @@ The assumptions of each formula stand with its task.</source>
         <translation>没有任务使用值“%1”= %2。该值保留在项目中。</translation>
     </message>
     <message>
-        <source>%1 was saved in %2. The task now expects %3.</source>
-        <translation>%1 以 %2 为单位保存。该任务现在使用 %3。</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; is open in another window (process %2 on %3).</source>
         <translation>“%1”已在另一个窗口中打开（%3 上的进程 %2）。</translation>
+    </message>
+    <message>
+        <source>The project was saved by version %1. This is version %2.</source>
+        <translation>该项目由版本 %1 保存，当前版本为 %2。</translation>
+    </message>
+    <message>
+        <source>%1 was saved in %2. It is now given in %3.</source>
+        <translation>%1 保存时的单位为 %2，现已换算为 %3。</translation>
+    </message>
+    <message>
+        <source>%1 was saved in %2. Enter it in %3.</source>
+        <translation>%1 保存时的单位为 %2。请以 %3 为单位重新输入。</translation>
     </message>
 </context>
 <context>
@@ -1048,6 +1104,10 @@ The assumptions of each formula stand with its task.</source>
     <message>
         <source>&quot;%1&quot; cannot be written: %2.</source>
         <translation>无法写入“%1”：%2。</translation>
+    </message>
+    <message>
+        <source>Study of %1: %2 of %3 points</source>
+        <translation>参数研究 %1：%2/%3 个点</translation>
     </message>
 </context>
 <context>
