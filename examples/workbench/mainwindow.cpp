@@ -114,7 +114,7 @@ void MainWindow::openProject(const QString &path)
     if (!mayGoOn())
         return;
     Project project = m_project;
-    const QString problem = Project::open(*m_registry, path, &project);
+    const QString problem = Project::open(path, &project);
     if (!problem.isEmpty())
         return tell(problem);
     const auto tasks = tasksNamed(*m_registry, project.task());
@@ -128,8 +128,6 @@ void MainWindow::openProject(const QString &path)
     if (tasks.isEmpty())
         sentences.prepend(
             tr("The project is for the task \"%1\", which is not on offer.").arg(m_project.task()));
-    if (!m_project.lockProblem().isEmpty())
-        sentences.prepend(tr("The project can only be read. %1").arg(m_project.lockProblem()));
     for (const QString &sentence : qAsConst(sentences))
         log(sentence);
     // The message goes with the next step. The log stays until the user closes it.
@@ -148,9 +146,7 @@ void MainWindow::chooseProject()
 
 bool MainWindow::save()
 {
-    return m_project.path().isEmpty() || !m_project.lockProblem().isEmpty()
-        ? saveAs()
-        : saveTo(m_project.path());
+    return m_project.path().isEmpty() ? saveAs() : saveTo(m_project.path());
 }
 
 bool MainWindow::saveAs()
@@ -165,7 +161,7 @@ bool MainWindow::saveAs()
 bool MainWindow::saveTo(const QString &path)
 {
     m_project.setTask(m_task, ui->form->values(), m_registry->value_group(m_task.id()));
-    const QString problem = m_project.save(*m_registry, path);
+    const QString problem = m_project.save(path);
     if (!problem.isEmpty()) {
         tell(problem);
         return QMessageBox::question(this, tr("Save project"),
@@ -175,9 +171,7 @@ bool MainWindow::saveTo(const QString &path)
     }
     remember();
     m_model->undoStack()->setClean();
-    updateTitle();
-    tell({});
-    ui->statusBar->showMessage(tr("Saved."), 5000);
+    retranslate();
     log(tr("Saved %1").arg(m_project.path()));
     return true;
 }
@@ -354,7 +348,6 @@ void MainWindow::exportReport()
     const Report report { m_project.path(), m_task, ui->form->values(), m_computation };
     if (!report.save(path))
         return tell(tr("\"%1\" cannot be written.").arg(QDir::toNativeSeparators(path)));
-    ui->statusBar->showMessage(tr("Exported."), 5000);
     log(tr("Exported %1").arg(path));
 }
 
@@ -384,19 +377,11 @@ void MainWindow::retranslate()
     ui->description->setText(m_task.module.description + '\n' + m_task.description);
     ui->description->setVisible(!m_task.isNull());
     tell(m_task.isNull() ? tr("Begin a new project, or open one.") : QString());
-    updateTitle();
     showResults();
-}
-
-void MainWindow::updateTitle()
-{
     const QString name
         = m_project.path().isEmpty() ? tr("New project") : QFileInfo(m_project.path()).fileName();
     setWindowTitle(QString("%1[*] - %2").arg(name, QCoreApplication::applicationName()));
-    QString place = QDir::toNativeSeparators(m_project.path());
-    if (!m_project.lockProblem().isEmpty())
-        place = tr("%1 (read only)").arg(place);
-    ui->place->setText(place);
+    ui->place->setText(QDir::toNativeSeparators(m_project.path()));
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)
@@ -422,14 +407,6 @@ void MainWindow::log(QString line)
     static const QRegularExpression controls("\\p{Cc}+");
     line.replace(controls, " ");
     m_registry->log(line);
+    ui->statusBar->showMessage(line, 5000);
     ui->logText->appendPlainText(QTime::currentTime().toString(Qt::ISODate) + ' ' + line);
-}
-
-void MainWindow::about()
-{
-    QMessageBox::about(this, tr("About %1").arg(QCoreApplication::applicationName()),
-                       tr("%1 %2 computes beams, springs, vessels and walls.\n\n"
-                          "The assumptions of each formula stand with its task.")
-                           .arg(QCoreApplication::applicationName(),
-                                QCoreApplication::applicationVersion()));
 }

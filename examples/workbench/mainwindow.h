@@ -56,7 +56,6 @@ private Q_SLOTS:
     bool calculate();
     void studyParameter();
     void exportReport();
-    void about();
 
 private:
     bool saveTo(const QString &path);
@@ -67,7 +66,6 @@ private:
     void showResults();
     void setLanguage(const QString &name);
     void retranslate();
-    void updateTitle();
     void tell(const QString &message);
     void log(QString line);
 

@@ -104,10 +104,11 @@ QwtPlot *PlotView::plotFor(const Curve &curve)
     // Or the lowest and the highest number would be clipped.
     added->axisWidget(QwtPlot::yLeft)
         ->setMinBorderDist(fontMetrics().height(), fontMetrics().height());
-    added->setMinimumHeight(10 * fontMetrics().height()); // Qwt asks for more
+    // Qwt asks for more, but needs no more than the title beside the axis.
+    added->setMinimumHeight(fontMetrics().horizontalAdvance(y.text()) + 5 * fontMetrics().height());
     added->canvas()->setBackgroundRole(QPalette::Base);
     auto *grid = new QwtPlotGrid;
-    grid->setPen(Qt::gray, 0, Qt::DotLine);
+    grid->setPen(QColor(128, 128, 128, 90), 0);
     grid->attach(added);
     auto *zoomer = new QwtPlotZoomer(added->canvas()); // which owns it
     zoomer->setRubberBandPen(QColor(Qt::gray));

@@ -23,9 +23,9 @@ const char *const savedKey = "Project/Saved";
 const char *const enteredKey = "Project/Entered";
 
 /// Whether a project has the value of @p parameter in another unit than the task.
-bool isInOtherUnit(const Values &values, const VParameter &parameter)
+bool isInOtherUnit(const VIniSettings &settings, const VParameter &parameter)
 {
-    const QString unit = valueOf(values, unitGroup + parameter.name().first).toString();
+    const QString unit = settings.value(unitGroup + parameter.name().first).toString();
     return !unit.isEmpty() && unit != parameter.unit().first;
 }
 
@@ -41,7 +41,7 @@ QString converted(const QString &text, const QString &unit, const VParameter &pa
 
 } // namespace
 
-QString Project::open(const AUTH_SET &registry, const QString &path, Project *current)
+QString Project::open(const QString &path, Project *current)
 {
     Project project;
     project.m_path = QFileInfo(path).absoluteFilePath();
@@ -49,44 +49,41 @@ QString Project::open(const AUTH_SET &registry, const QString &path, Project *cu
     if (!file.open(QIODevice::ReadOnly))
         return tr("\"%1\" cannot be read: %2.")
             .arg(QDir::toNativeSeparators(path), file.errorString());
-    registry.load(path, &project.m_values);
+    project.m_settings = VIniSettings(path);
     if (project.task().isEmpty())
         return tr("\"%1\" is no project of this program: it names no task.")
             .arg(QDir::toNativeSeparators(path));
-    if (project.m_path == current->m_path && current->m_lock)
-        project.m_lock = current->m_lock;
-    else
-        project.m_lockProblem = project.lock(project.m_path);
+    project.m_lock = current->m_lock;
+    const QString problem = project.m_path == current->m_path ? QString() : project.lock(path);
+    if (!problem.isEmpty())
+        return problem;
     *current = project;
     return {};
 }
 
-QString Project::save(const AUTH_SET &registry, const QString &path)
+QString Project::save(const QString &path)
 {
     const QString target = QFileInfo(path).absoluteFilePath();
     const auto ownLock = m_lock;
-    const QString problem = target == m_path && m_lock ? QString() : lock(target);
+    const QString problem = target == m_path ? QString() : lock(target);
     if (!problem.isEmpty())
         return problem;
     const QString now = QDateTime::currentDateTime().toString(Qt::ISODateWithMs);
-    setValue(versionKey, QCoreApplication::applicationVersion());
-    setValue(savedKey, now);
-    registry.save(target, &m_values);
+    m_settings.setValue(versionKey, QCoreApplication::applicationVersion());
+    m_settings.setValue(savedKey, now);
+    m_settings.saveLocal(target);
     // Kelto does not say whether a file could be written. It writes all of it or nothing.
-    Values written;
-    registry.load(target, &written);
-    if (valueOf(written, savedKey) != now) {
+    if (VIniSettings(target).value(savedKey) != now) {
         m_lock = ownLock;
         return tr("\"%1\" cannot be written.").arg(QDir::toNativeSeparators(target));
     }
     m_path = target;
-    m_lockProblem.clear();
     return {};
 }
 
 QString Project::task() const
 {
-    return valueOf(m_values, taskKey).toString();
+    return m_settings.value(taskKey).toString();
 }
 
 Values Project::values(const Task &task) const
@@ -94,22 +91,22 @@ Values Project::values(const Task &task) const
     Values values;
     for (const VParameter &parameter : task.parameters) {
         const QString key = parameter.name().first;
-        QStringList texts = valueOf(m_values, attributeGroup + key).toStringList();
-        if (texts.isEmpty() || !isInOtherUnit(m_values, parameter))
+        QStringList texts = m_settings.value(attributeGroup + key).toStringList();
+        if (texts.isEmpty() || !isInOtherUnit(m_settings, parameter))
             continue;
         for (QString &text : texts)
-            text = converted(text, valueOf(m_values, unitGroup + key).toString(), parameter);
+            text = converted(text, m_settings.value(unitGroup + key).toString(), parameter);
         values.append(
             { attributeGroup + key, parameter.isMulti() ? QVariant(texts) : texts.first() });
         values.append({ unitGroup + key, parameter.unit().first });
     }
-    return values + m_values; // of a key that comes again the first counts
+    return values + m_settings.data(); // of a key that comes again the first counts
 }
 
 Values Project::startValues(const Task &task, Values defaults) const
 {
     const Values all = values(task);
-    const QStringList entered = valueOf(m_values, enteredKey).toStringList();
+    const QStringList entered = m_settings.value(enteredKey).toStringList();
     for (auto &value : defaults) {
         if (entered.contains(value.first))
             value.second = valueOf(all, value.first);
@@ -119,29 +116,29 @@ Values Project::startValues(const Task &task, Values defaults) const
 
 void Project::setTask(const Task &task, const Values &values, const Values &defaults)
 {
-    QStringList entered = valueOf(m_values, enteredKey).toStringList();
+    QStringList entered = m_settings.value(enteredKey).toStringList();
     for (const auto &value : values) {
         // What does not count is empty now, but it may count again.
         if (value.second == QString() && !task.hints.counts(value.first.section('/', 1), &values))
             continue;
-        setValue(value.first, value.second);
+        m_settings.setValue(value.first, value.second);
         if (value.first.startsWith(attributeGroup) && !entered.contains(value.first)
             && value.second != valueOf(defaults, value.first))
             entered.append(value.first);
     }
-    setValue(enteredKey, entered);
-    setValue(taskKey, task.id());
+    m_settings.setValue(enteredKey, entered);
+    m_settings.setValue(taskKey, task.id());
 }
 
 QStringList Project::differences(const AUTH_SET &registry, const Task &task) const
 {
     QStringList sentences;
-    const QString version = valueOf(m_values, versionKey).toString();
+    const QString version = m_settings.value(versionKey).toString();
     if (!version.isEmpty() && version != QCoreApplication::applicationVersion())
         sentences.append(tr("The project was saved by version %1. This is version %2.")
                              .arg(version, QCoreApplication::applicationVersion()));
-    const auto findings
-        = KeltoItemParameterVerify::explain(&task.module, &m_values, task.mode.first);
+    const Values all = m_settings.data();
+    const auto findings = KeltoItemParameterVerify::explain(&task.module, &all, task.mode.first);
     for (const KeltoItemFinding &finding : findings) {
         // What may stay empty, or does not count, is not missed.
         if (finding.kind == KeltoItemFinding::NearMiss
@@ -152,15 +149,15 @@ QStringList Project::differences(const AUTH_SET &registry, const Task &task) con
     const auto parameters = registry.defaultParameterList();
     for (const VParameter &parameter : parameters)
         known.append(attributeGroup + parameter.name().first);
-    for (const auto &value : m_values) {
+    for (const auto &value : all) {
         if (value.first.startsWith(attributeGroup) && !known.contains(value.first))
             sentences.append(
                 tr("The value \"%1\" = %2 is not used by any task. It is kept in the project.")
                     .arg(value.first.section('/', 1), value.second.toStringList().join("; ")));
     }
     for (const VParameter &parameter : task.parameters) {
-        const QString unit = valueOf(m_values, unitGroup + parameter.name().first).toString();
-        if (isInOtherUnit(m_values, parameter))
+        const QString unit = m_settings.value(unitGroup + parameter.name().first).toString();
+        if (isInOtherUnit(m_settings, parameter))
             sentences.append((unit == parameter.unit().second
                                   ? tr("%1 was saved in %2. It is now given in %3.")
                                   : tr("%1 was saved in %2. Enter it in %3."))
@@ -175,26 +172,8 @@ QString Project::lock(const QString &path)
     const QFileInfo info(path);
     const auto lock = std::make_shared<QLockFile>(info.path() + "/.~" + info.fileName() + ".open");
     lock->setStaleLockTime(0); // for hours of work; a lock whose process has ended does not count
-    if (lock->tryLock(0)) {
-        m_lock = lock;
-        return {};
-    }
-    qint64 process = 0;
-    QString host;
-    QString program;
-    if (lock->error() == QLockFile::LockFailedError && lock->getLockInfo(&process, &host, &program))
-        return tr("\"%1\" is open in another window (process %2 on %3).")
-            .arg(QDir::toNativeSeparators(path), QString::number(process), host);
-    return tr("\"%1\" cannot be written.").arg(QDir::toNativeSeparators(path));
-}
-
-void Project::setValue(const QString &key, const QVariant &value)
-{
-    for (auto &entry : m_values) {
-        if (entry.first == key) {
-            entry.second = value;
-            return;
-        }
-    }
-    m_values.append({ key, value });
+    if (!lock->tryLock(0) && lock->error() == QLockFile::LockFailedError)
+        return tr("\"%1\" is open in another window.").arg(QDir::toNativeSeparators(path));
+    m_lock = lock;
+    return {};
 }

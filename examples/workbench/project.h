@@ -6,6 +6,8 @@
 
 #include "task.h"
 
+#include <Kelto/VIniSettings>
+
 #include <QCoreApplication>
 
 #include <memory>
@@ -20,17 +22,16 @@ class Project
 
 public:
     /// Reads the file at @p path into a new project, in place of @p current. Returns what is wrong,
-    /// and changes nothing then; empty when all went well.
-    static QString open(const AUTH_SET &registry, const QString &path, Project *current);
+    /// such as that it is open in another window, and changes nothing then; empty when all went
+    /// well.
+    static QString open(const QString &path, Project *current);
 
     /// Writes the file and belongs to it from then on. Returns what went wrong; empty when the file
     /// was written.
-    QString save(const AUTH_SET &registry, const QString &path);
+    QString save(const QString &path);
 
     /// Empty for a project that was never saved.
     QString path() const { return m_path; }
-    /// Why the file may not be written; empty when it may.
-    QString lockProblem() const { return m_lockProblem; }
 
     /// Task::id() of the task.
     QString task() const;
@@ -53,15 +54,14 @@ public:
     QStringList differences(const AUTH_SET &registry, const Task &task) const;
 
 private:
-    /// Returns why the file is not to be written.
+    /// Returns that somebody else has locked it; empty also where nobody can, as nothing can be
+    /// written there.
     QString lock(const QString &path);
-    void setValue(const QString &key, const QVariant &value);
 
     QString m_path;
-    QString m_lockProblem;
     /// Shared so that a file can be opened again by the one who has locked it.
     std::shared_ptr<QLockFile> m_lock;
-    Values m_values;
+    VIniSettings m_settings;
 };
 
 #endif

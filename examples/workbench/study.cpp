@@ -8,17 +8,9 @@
 #include <Kelto/KeltoItemFinding>
 #include <Kelto/KeltoItemParameterVerify>
 
-#include <QLocale>
-
 #include <algorithm>
 
 namespace {
-
-/// A number with as many digits as it has, however the language writes them.
-QString exact(double number)
-{
-    return QString::number(number, 'g', QLocale::FloatingPointShortest);
-}
 
 Outcome<Computation> computation(const Task &task, const Values &values)
 {
@@ -62,7 +54,7 @@ QVector<StudyPoint> study(const Task &task, const Values &values, const StudyRan
         // The last point is the end itself, without the rounding of the steps.
         const double value
             = i == range.steps ? range.to : range.from + (range.to - range.from) * i / range.steps;
-        entry->second = exact(value);
+        entry->second = QVariant(value).toString(); // all digits, in no language
         points.append({ value, computation(task, changed) });
         if (!goOn(points.size()))
             break;
@@ -119,12 +111,12 @@ QString studyAsCsv(const Task &task, const StudyRange &range, const QVector<Stud
         row.append(heading(result));
     QString text = row.join(',') + ",\n";
     for (const StudyPoint &point : points) {
-        row = QStringList { exact(point.value) };
+        row = QStringList { QVariant(point.value).toString() };
         for (const VParameter &result : task.results) {
             const QVariant value
                 = valueOf(point.outcome.result.results, attributeGroup + result.name().first);
-            row.append(value.type() == QVariant::Double ? exact(value.toDouble())
-                                                        : quoted(value.toStringList().join("; ")));
+            row.append(result.isMulti() ? quoted(value.toStringList().join("; "))
+                                        : value.toString());
         }
         text += row.join(',') + ',' + quoted(point.outcome.problem) + '\n';
     }

@@ -7,8 +7,8 @@
 
 #include <Kelto/AUTH_SET>
 
-#include <QCoreApplication>
 #include <QFileDialog>
+#include <QProgressDialog>
 #include <QSaveFile>
 #include <QtNumeric>
 
@@ -85,35 +85,24 @@ bool StudyDialog::readRange()
     return false;
 }
 
-void StudyDialog::setRunning(bool isRunning)
-{
-    m_isRunning = isRunning;
-    for (QWidget *widget :
-         QWidgetList { ui->studyParameter, ui->studyFrom, ui->studyTo, ui->studySteps,
-                       ui->studyView, ui->studyRun, ui->studySave })
-        widget->setEnabled(!isRunning);
-    ui->studyCancel->setText(isRunning ? tr("Cancel") : tr("Close"));
-}
-
 void StudyDialog::run()
 {
     if (!readRange())
         return;
-    m_isCanceled = false;
-    setRunning(true);
-    ui->studyProgress->setRange(0, m_range.steps + 1);
-    m_points = study(m_task, m_values, m_range, [this](int done) {
-        ui->studyProgress->setValue(done);
-        // So that "Cancel" works and the bar is seen to move.
-        QCoreApplication::processEvents();
-        return !m_isCanceled;
+    const int count = m_range.steps + 1;
+    QProgressDialog progress(tr("Computing..."), tr("Cancel"), 0, count, this);
+    progress.setWindowModality(Qt::WindowModal); // only then it handles events
+    progress.setMinimumDuration(300); // ms; a window that is gone at once would only flicker
+    m_points = study(m_task, m_values, m_range, [&](int done) {
+        progress.setValue(done);
+        return !progress.wasCanceled();
     });
-    setRunning(false);
+    ui->studySave->setEnabled(true);
     showCurves();
     Q_EMIT ended(tr("Study of %1: %2 of %3 points")
                      .arg(m_range.parameter.name().second)
                      .arg(m_points.size())
-                     .arg(m_range.steps + 1));
+                     .arg(count));
 }
 
 void StudyDialog::showCurves()
@@ -122,7 +111,7 @@ void StudyDialog::showCurves()
     ui->plots->setCurves(isFamily ? familyOfCurves(m_range, m_points, 6)
                                   : resultCurves(m_task, m_range, m_points));
     QStringList lines;
-    if (m_isCanceled)
+    if (m_points.size() <= m_range.steps)
         lines.append(
             tr("Canceled after %1 of %2 points.").arg(m_points.size()).arg(m_range.steps + 1));
     for (const StudyPoint &point : qAsConst(m_points)) {
@@ -144,12 +133,4 @@ void StudyDialog::saveCsv()
     ui->studyMessage->setText(
         isSaved ? tr("Saved as \"%1\".").arg(path)
                 : tr("\"%1\" cannot be written: %2.").arg(path, file.errorString()));
-}
-
-void StudyDialog::reject()
-{
-    if (m_isRunning)
-        m_isCanceled = true;
-    else
-        QDialog::reject();
 }

@@ -26,10 +26,6 @@ public:
     StudyDialog(AUTH_SET *registry, const Task &task, const Values &values, QWidget *parent);
     ~StudyDialog() override;
 
-public Q_SLOTS:
-    /// While a study runs, ends that and keeps the window.
-    void reject() override;
-
 Q_SIGNALS:
     /// A study has ended, or was canceled; @p summary says which.
     void ended(const QString &summary);
@@ -43,7 +39,6 @@ private Q_SLOTS:
 private:
     void offerParameters();
     bool readRange();
-    void setRunning(bool isRunning);
     VParameter parameter() const;
     QString place() const;
 
@@ -52,8 +47,6 @@ private:
     Values m_values;
     StudyRange m_range;
     QVector<StudyPoint> m_points;
-    bool m_isRunning = false;
-    bool m_isCanceled = false;
     std::unique_ptr<Ui::StudyDialog> ui;
 };
 

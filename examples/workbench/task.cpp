@@ -4,14 +4,11 @@
 #include "task.h"
 
 #include <Kelto/AUTH_SET>
+#include <Kelto/VIniSettings>
 
 QVariant valueOf(const Values &values, const QString &key)
 {
-    for (const auto &value : values) {
-        if (value.first == key)
-            return value.second;
-    }
-    return {};
+    return VIniSettings(values).value(key);
 }
 
 QString Task::title() const

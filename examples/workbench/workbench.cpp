@@ -19,22 +19,6 @@
 
 namespace {
 
-/// The options with which a QApplication can be started. It takes them out of the arguments, but
-/// only after these were read here.
-QList<QCommandLineOption> optionsOfQt()
-{
-    const QStringList withValue {
-        "platform",    "platformpluginpath", "platformtheme", "plugin",          "display",
-        "style",       "stylesheet",         "session",       "qwindowgeometry", "qwindowicon",
-        "qwindowtitle"
-    };
-    QList<QCommandLineOption> options { QCommandLineOption("reverse"),
-                                        { withValue, QString(), "value" } };
-    for (QCommandLineOption &option : options)
-        option.setFlags(QCommandLineOption::HiddenFromHelp);
-    return options;
-}
-
 /// What is wrong with the values of the options; empty when nothing is.
 QString complaintAbout(const QCommandLineParser &parser)
 {
@@ -93,7 +77,6 @@ Options readOptions(const QStringList &arguments)
     parser.setApplicationDescription(
         "Computes beams, springs, vessels and walls.\n\nExit codes: 0 for done, 1 for an unknown "
         "task and for modules that cannot be read,\n2 for wrong usage.");
-    parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
     parser.addHelpOption();
     parser.addVersionOption();
     parser.addPositionalArgument("project", "The project file to open.", "[project]");
@@ -106,7 +89,6 @@ Options readOptions(const QStringList &arguments)
           "directory", QCoreApplication::applicationDirPath() + "/modules" },
         { "compiled", "Read no module files; use the modules that were compiled in." },
     });
-    parser.addOptions(optionsOfQt());
     if (!parser.parse(arguments))
         quit(WrongUsage, parser.errorText());
     parser.process(arguments); // shows the help or the version where asked to

@@ -73,8 +73,6 @@ private Q_SLOTS:
         QTest::newRow("empty language") << Arguments("--language=") << 2 << "Unknown language: \n";
         QTest::newRow("two projects")
             << Arguments { "a.ini", "b.ini" } << 2 << "Unexpected argument: b.ini\n";
-        QTest::newRow("option of Qt without value")
-            << Arguments("-style") << 2 << "Missing value after '-style'.\n";
         QTest::newRow("empty directory name")
             << Arguments("--modules=") << 1 << "There is no directory \"\"." + advice();
         QTest::newRow("both kinds of modules") << Arguments { "--compiled", "--modules", "." } << 2
@@ -126,7 +124,6 @@ private Q_SLOTS:
         QTest::newRow("wrong language") << Arguments("--language=fr") << 2;
         QTest::newRow("no such task") << Arguments("--task=none") << 1;
         QTest::newRow("no such modules") << Arguments("--modules=nowhere") << 1;
-        QTest::newRow("help beside an option of Qt") << Arguments { "-style", "fusion", "-h" } << 0;
     }
     void usageNeedsNoDisplay()
     {

@@ -21,6 +21,7 @@
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QProcess>
+#include <QProgressDialog>
 #include <QPushButton>
 #include <QSettings>
 #include <QSpinBox>
@@ -427,16 +428,14 @@ private Q_SLOTS:
         m_answers->add("QFileDialog", file("beam.ini"));
         trigger("save");
         MainWindow second(m_registry.get(), m_modules, "en");
-        m_answers->add("UTaskSelectDialog", task());
         second.openProject("beam.ini");
         const QString message = second.findChild<QLabel *>("message")->text();
         QVERIFY2(message.contains("is open in another window"), qPrintable(message));
-        QVERIFY(second.findChild<QLabel *>("place")->text().endsWith("(read only)"));
-        // Saving asks for another place.
-        m_answers->add("QFileDialog", file("copy.ini"));
-        second.findChild<QAction *>("save")->trigger();
-        QVERIFY(QFile::exists("copy.ini"));
-        QVERIFY(second.findChild<QLabel *>("place")->text().endsWith("copy.ini"));
+        QVERIFY(!second.findChild<QAction *>("save")->isEnabled());
+        // The first one may open it again.
+        m_answers->add("UTaskSelectDialog", task());
+        m_window->openProject("beam.ini");
+        QCOMPARE(text("message"), QString());
     }
 
     void changesAreNotLostByClosing()
@@ -724,14 +723,18 @@ private Q_SLOTS:
         begin(cantilever);
         m_answers->add("StudyDialog", [](QWidget *dialog) {
             dialog->findChild<QSpinBox *>("studySteps")->setValue(10000);
-            QTimer::singleShot(0, dialog, [dialog] {
-                for (const char *name : { "studySave", "studyRun", "studyView", "studyFrom" })
-                    QVERIFY2(!dialog->findChild<QWidget *>(name)->isEnabled(), name);
-                click(dialog, "studyCancel");
+            // As long as the progress is shown, nothing can be done with what is not there yet.
+            QTimer looking;
+            connect(&looking, &QTimer::timeout, dialog, [dialog] {
+                auto *progress = dialog->findChild<QProgressDialog *>();
+                if (!progress || !progress->isVisible())
+                    return;
+                QCOMPARE(progress->windowModality(), Qt::WindowModal);
+                QTest::mouseClick(progress->findChild<QPushButton *>(), Qt::LeftButton);
             });
+            looking.start(1);
             click(dialog, "studyRun");
             QVERIFY(dialog->isVisible());
-            QVERIFY(dialog->findChild<QWidget *>("studySave")->isEnabled());
             const QString message = dialog->findChild<QLabel *>("studyMessage")->text();
             QVERIFY2(message.startsWith("Canceled after"), qPrintable(message));
             dialog->close();

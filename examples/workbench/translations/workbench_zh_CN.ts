@@ -79,10 +79,6 @@
         <translation>语言(&amp;A)</translation>
     </message>
     <message>
-        <source>&amp;Help</source>
-        <translation>帮助(&amp;H)</translation>
-    </message>
-    <message>
         <source>Tool bar</source>
         <translation>工具栏</translation>
     </message>
@@ -101,10 +97,6 @@
     <message>
         <source>Reset &amp;zoom</source>
         <translation>重置缩放(&amp;Z)</translation>
-    </message>
-    <message>
-        <source>&amp;About...</source>
-        <translation>关于(&amp;A)...</translation>
     </message>
     <message>
         <source>&amp;Save</source>
@@ -143,10 +135,6 @@
         <translation>该项目所属的任务“%1”不在可选范围内。</translation>
     </message>
     <message>
-        <source>The project can only be read. %1</source>
-        <translation>该项目只能读取。%1</translation>
-    </message>
-    <message>
         <source>Open project</source>
         <translation>打开项目</translation>
     </message>
@@ -161,10 +149,6 @@
     <message>
         <source>Save the project in another place?</source>
         <translation>是否将项目保存到其他位置？</translation>
-    </message>
-    <message>
-        <source>Saved.</source>
-        <translation>已保存。</translation>
     </message>
     <message>
         <source>The project has changes that are not saved.</source>
@@ -191,10 +175,6 @@
         <translation>无法写入“%1”。</translation>
     </message>
     <message>
-        <source>Exported.</source>
-        <translation>已导出。</translation>
-    </message>
-    <message>
         <source>No project</source>
         <translation>没有项目</translation>
     </message>
@@ -205,22 +185,6 @@
     <message>
         <source>New project</source>
         <translation>新项目</translation>
-    </message>
-    <message>
-        <source>%1 (read only)</source>
-        <translation>%1（只读）</translation>
-    </message>
-    <message>
-        <source>About %1</source>
-        <translation>关于 %1</translation>
-    </message>
-    <message>
-        <source>%1 %2 computes beams, springs, vessels and walls.
-
-The assumptions of each formula stand with its task.</source>
-        <translation>%1 %2 可计算梁、弹簧、容器和墙壁。
-
-每个公式的假设见其任务说明。</translation>
     </message>
     <message>
         <source>New</source>
@@ -981,10 +945,6 @@ The assumptions of each formula stand with its task.</source>
         <translation>没有任务使用值“%1”= %2。该值保留在项目中。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is open in another window (process %2 on %3).</source>
-        <translation>“%1”已在另一个窗口中打开（%3 上的进程 %2）。</translation>
-    </message>
-    <message>
         <source>The project was saved by version %1. This is version %2.</source>
         <translation>该项目由版本 %1 保存，当前版本为 %2。</translation>
     </message>
@@ -995,6 +955,10 @@ The assumptions of each formula stand with its task.</source>
     <message>
         <source>%1 was saved in %2. Enter it in %3.</source>
         <translation>%1 保存时的单位为 %2。请以 %3 为单位重新输入。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is open in another window.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1108,6 +1072,10 @@ The assumptions of each formula stand with its task.</source>
     <message>
         <source>Study of %1: %2 of %3 points</source>
         <translation>参数研究 %1：%2/%3 个点</translation>
+    </message>
+    <message>
+        <source>Computing...</source>
+        <translation>正在计算…</translation>
     </message>
 </context>
 <context>
