@@ -50,7 +50,7 @@ MainWindow::MainWindow(AUTH_SET *registry, const QVector<AUTH_INF> &modules,
     ui->newProject->setIcon(style()->standardIcon(QStyle::SP_FileIcon));
     ui->open->setIcon(style()->standardIcon(QStyle::SP_DialogOpenButton));
     ui->save->setIcon(style()->standardIcon(QStyle::SP_DialogSaveButton));
-    ui->calculate->setIcon(style()->standardIcon(QStyle::SP_MediaPlay));
+    ui->calculate->setIcon(style()->standardIcon(QStyle::SP_DialogApplyButton));
     ui->study->setIcon(style()->standardIcon(QStyle::SP_FileDialogDetailedView));
     ui->message->setBackgroundRole(QPalette::ToolTipBase);
     ui->message->setForegroundRole(QPalette::ToolTipText);
@@ -68,6 +68,7 @@ MainWindow::MainWindow(AUTH_SET *registry, const QVector<AUTH_INF> &modules,
     });
     restoreGeometry(m_registry->value_set(geometryKey).toByteArray());
     restoreState(m_registry->value_set(layoutKey).toByteArray());
+
     showTask({}, false);
     setLanguage(language);
     for (const AUTH_INF &module : modules) {

@@ -3,10 +3,12 @@
 
 #include "onlooker.h"
 
+#include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
 #include <QFontInfo>
+#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
@@ -18,6 +20,9 @@
 #include <QTabBar>
 #include <QTabWidget>
 #include <QToolBar>
+
+#include <qwt_scale_widget.h>
+#include <qwt_text.h>
 
 namespace {
 
@@ -81,6 +86,35 @@ QString fontInWords()
         .arg(font.family())
         .arg(font.pixelSize())
         .arg(QApplication::style()->objectName());
+}
+
+/// Whether the widget is too small for what it says.
+bool isTooSmall(const QWidget *widget)
+{
+    const auto *label = qobject_cast<const QLabel *>(widget);
+    if (label && label->wordWrap())
+        return label->heightForWidth(label->width()) > label->height();
+    const auto *axis = qobject_cast<const QwtScaleWidget *>(widget);
+    if (axis)
+        return axis->title().textSize(axis->font()).width() > qMax(axis->width(), axis->height());
+    const auto *box = qobject_cast<const QComboBox *>(widget);
+    if (box)
+        return box->fontMetrics().horizontalAdvance(box->currentText()) > box->width();
+    const bool isText = qobject_cast<const QTabBar *>(widget)
+        || ((label || qobject_cast<const QAbstractButton *>(widget)) && !textOf(widget).isEmpty());
+    const QSize needed = widget->sizeHint();
+    return isText && (needed.width() > widget->width() || needed.height() > widget->height());
+}
+
+/// What a scroll area shows may reach beyond its edges.
+bool isBeyondWindow(const QWidget *widget)
+{
+    for (const QWidget *parent = widget; parent; parent = parent->parentWidget()) {
+        if (qobject_cast<const QAbstractScrollArea *>(parent))
+            return false;
+    }
+    const QWidget *window = widget->window();
+    return !window->rect().contains(QRect(widget->mapTo(window, QPoint()), widget->size()));
 }
 
 QImage grabbed(const QRect &area)
@@ -188,6 +222,20 @@ QPoint Onlooker::positionOfAnswer(int standardButton)
     const auto *box = qobject_cast<QMessageBox *>(window("QMessageBox"));
     const auto *button = box ? box->button(QMessageBox::StandardButton(standardButton)) : nullptr;
     return button ? centreOf(button, button->rect()) : QPoint();
+}
+
+QStringList Onlooker::clippedTexts()
+{
+    QStringList clipped;
+    const QWidget *window = QApplication::activeWindow();
+    const auto widgets = window ? window->findChildren<QWidget *>() : QList<QWidget *>();
+    for (const QWidget *widget : widgets) {
+        if (widget->isVisible() && (isTooSmall(widget) || isBeyondWindow(widget)))
+            clipped.append(
+                QString("%1 %2 \"%3\"")
+                    .arg(widget->metaObject()->className(), widget->objectName(), textOf(widget)));
+    }
+    return clipped;
 }
 
 QImage Onlooker::screen()

@@ -39,6 +39,10 @@ QPoint positionOfTab(const char *window, const QString &tabs, int index);
 /// The position of a button of a message box, by its role in Qt.
 QPoint positionOfAnswer(int standardButton);
 
+/// The widgets of the active window that are too small for their text, or that the edge of the
+/// window cuts off.
+QStringList clippedTexts();
+
 /// The whole screen.
 QImage screen();
 /// The windows of the program in their places, with their frames. What they say and the font that

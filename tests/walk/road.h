@@ -15,12 +15,14 @@ class Road
 public:
     /// @param walker who is to go it
     /// @param language in which the program was started
-    Road(Walker *walker, const AUTH_SET *registry, const QString &language);
+    /// @param isTour whether to visit every task instead, and look whether all fits
+    Road(Walker *walker, const AUTH_SET *registry, const QString &language, bool isTour);
 
     /// To be called when the program has left its event loop.
     void lookBack(const QString &logFile) const;
 
 private:
+    void visitEveryTask();
     void confirmTask();
     void fillIn();
     void meetMistakes();
@@ -38,6 +40,7 @@ private:
     void enter(const char *window, const QString &editor, const QString &text);
     void press(const QString &keys, const std::function<void(UserInput &)> &how);
     void nameFile(const QString &name);
+    void expectNothingClipped();
     void expectTitle(const QString &taskId);
     QString standardName(const QString &taskId) const;
     void expectText(const char *window, const QString &widget, const QString &text);
@@ -45,6 +48,7 @@ private:
     Walker &m_walker;
     const AUTH_SET *m_registry;
     QString m_language;
+    bool m_isTour;
 };
 
 #endif

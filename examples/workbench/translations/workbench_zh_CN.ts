@@ -958,7 +958,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; is open in another window.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”已在另一个窗口中打开。</translation>
     </message>
 </context>
 <context>
