@@ -106,15 +106,13 @@ bool isTooSmall(const QWidget *widget)
     return isText && (needed.width() > widget->width() || needed.height() > widget->height());
 }
 
-/// What a scroll area shows may reach beyond its edges.
-bool isBeyondWindow(const QWidget *widget)
+/// Whether a parent cuts off its edge. What a scroll area shows may reach beyond it.
+bool isCutOff(const QWidget *widget)
 {
-    for (const QWidget *parent = widget; parent; parent = parent->parentWidget()) {
-        if (qobject_cast<const QAbstractScrollArea *>(parent))
-            return false;
-    }
-    const QWidget *window = widget->window();
-    return !window->rect().contains(QRect(widget->mapTo(window, QPoint()), widget->size()));
+    const QWidget *parent = widget->parentWidget();
+    if (widget->isWindow() || qobject_cast<const QAbstractScrollArea *>(parent->parentWidget()))
+        return false;
+    return !parent->rect().contains(widget->geometry()) || isCutOff(parent);
 }
 
 QImage grabbed(const QRect &area)
@@ -230,7 +228,7 @@ QStringList Onlooker::clippedTexts()
     const QWidget *window = QApplication::activeWindow();
     const auto widgets = window ? window->findChildren<QWidget *>() : QList<QWidget *>();
     for (const QWidget *widget : widgets) {
-        if (widget->isVisible() && (isTooSmall(widget) || isBeyondWindow(widget)))
+        if (widget->isVisible() && (isTooSmall(widget) || isCutOff(widget)))
             clipped.append(
                 QString("%1 %2 \"%3\"")
                     .arg(widget->metaObject()->className(), widget->objectName(), textOf(widget)));
