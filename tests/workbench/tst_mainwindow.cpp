@@ -541,10 +541,10 @@ private Q_SLOTS:
 
     void hintsThatMakeNoSenseAreLogged()
     {
-        m_modules.first().extraKey.append(VDataItem { "Min.Lenth", "1" });
+        m_modules.first().extraKey.append(VDataItem { "Min.Torsion", "1" });
         start();
         const QString log = m_window->findChild<QPlainTextEdit *>("logText")->toPlainText();
-        QVERIFY2(log.contains("Beam: ") && log.contains("Lenth"), qPrintable(log));
+        QVERIFY2(log.contains("Beam: ") && log.contains("Torsion"), qPrintable(log));
     }
 
     void toolBarReadsAsText()
