@@ -3,6 +3,8 @@
 
 #include "modules.h"
 
+#include "workbench_modules.h"
+
 #include <Kelto/AUTH_INF>
 #include <Kelto/AUTH_SET>
 #include <Kelto/KeltoItemTranslation>
@@ -43,15 +45,20 @@ Outcome<QVector<AUTH_INF>> modulesFromFiles(const QString &directory)
     return { modules, {} };
 }
 
+QVector<AUTH_INF> compiledModules()
+{
+    return workbench_modules::allItems();
+}
+
 void installTranslations(const QLocale &locale)
 {
     // The resources of a static library have to be named once, or the linker leaves them out.
-    Q_INIT_RESOURCE(workbench_translations);
+    Q_INIT_RESOURCE(workbench_modules_translations);
     qDeleteAll(QCoreApplication::instance()->findChildren<QTranslator *>());
     // Kelto's libraries contain the translations of their windows. The buttons of message boxes and
     // file dialogs are Qt's.
     const QPair<QString, QString> places[] = {
-        { "workbench", ":/workbench/translations" },
+        { "workbench", ":/translations" },
         { "kelto", ":/kelto/translations" },
         { "kelto-forms", ":/kelto-forms/translations" },
         { "qtbase", QLibraryInfo::location(QLibraryInfo::TranslationsPath) },

@@ -15,18 +15,16 @@ class AUTH_SET;
 class QLocale;
 
 // The calculation modules of the workbench, and the language of their texts. Each is described in
-// one place, a file of the directory "modules", and reaches the program in either of two ways.
+// a file of the directory "modules", with which the program is built; others are read from files.
 
 /// The modules of the files "*.ini" in @p directory, in the order of the file names; or a message
 /// that says what is wrong with which file.
 Outcome<QVector<AUTH_INF>> modulesFromFiles(const QString &directory);
 
-/// The modules of the same files as they were when the program was built. The generator writes this
-/// function.
+/// The modules of the files that the program was built with.
 QVector<AUTH_INF> compiledModules();
 
-/// The translation context of the modules: the name that their files hold as "Tr_ObjectName", and
-/// the class whose tr() the source text made from the files calls.
+/// The translation context of the modules: the name that their files hold as "Tr_ObjectName".
 class ModuleTexts
 {
     Q_DECLARE_TR_FUNCTIONS(ModuleTexts)

@@ -27,22 +27,20 @@ QString complaintAbout(const QCommandLineParser &parser)
         return "Unexpected argument: " + parser.positionalArguments().at(1);
     if (parser.isSet("language") && language != "en" && language != "zh_CN")
         return "Unknown language: " + language;
-    if (parser.isSet("modules") && parser.isSet("compiled"))
-        return "--modules and --compiled exclude each other.";
     return {};
 }
 
 /// Ends the program with a message when they cannot be read.
 QVector<AUTH_INF> modulesFor(const QCommandLineParser &parser)
 {
-    if (parser.isSet("compiled"))
+    if (!parser.isSet("modules"))
         return compiledModules();
     const auto modules = modulesFromFiles(parser.value("modules"));
     if (!modules.isValid())
         quit(Failed,
              modules.problem
-                 + "\nName a directory with module files (--modules), or start with the modules "
-                   "that were compiled in (--compiled).");
+                 + "\nName another directory with module files, or start without --modules, with "
+                   "those that were compiled in.");
     return modules.result;
 }
 
@@ -85,9 +83,9 @@ Options readOptions(const QStringList &arguments)
         { "task",
           "Start with this task instead of asking, for example \"Workbench:Statics:Cantilever\".",
           "standard mode name" },
-        { "modules", "Read the module files of this directory instead of those beside the program.",
-          "directory", QCoreApplication::applicationDirPath() + "/modules" },
-        { "compiled", "Read no module files; use the modules that were compiled in." },
+        { "modules",
+          "Read the module files of this directory instead of those that were compiled in.",
+          "directory" },
     });
     if (!parser.parse(arguments))
         quit(WrongUsage, parser.errorText());

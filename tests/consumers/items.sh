@@ -281,7 +281,7 @@ check_pre-commit() {
     quietly pre-commit install
     git add .
     quietly git commit -m "Add an item"
-    sed -i 's/^name=/nam=/' "items/beam 梁.ini"
+    sed -i 's/^name=/names=/' "items/beam 梁.ini"
     if git commit -am "Break it" >log 2>&1; then
         fail "a bad item was committed."
     fi

@@ -16,8 +16,8 @@ namespace {
 
 QString advice()
 {
-    return "\nName a directory with module files (--modules), or start with the "
-           "modules that were compiled in (--compiled).\n";
+    return "\nName another directory with module files, or start without --modules, with "
+           "those that were compiled in.\n";
 }
 
 /// The user who owns the current directory and whom permissions bind: another one for the
@@ -51,8 +51,8 @@ private Q_SLOTS:
     {
         run({ "--help" });
         QCOMPARE(m_process.exitCode(), 0);
-        for (const char *text : { "--language", "--task", "--modules", "--compiled", "[project]",
-                                  "Exit codes: 0 for done" })
+        for (const char *text :
+             { "--language", "--task", "--modules", "[project]", "Exit codes: 0 for done" })
             QVERIFY2(m_output.contains(text), qPrintable(m_output));
         run({ "--version" });
         QCOMPARE(m_process.exitCode(), 0);
@@ -75,8 +75,6 @@ private Q_SLOTS:
             << Arguments { "a.ini", "b.ini" } << 2 << "Unexpected argument: b.ini\n";
         QTest::newRow("empty directory name")
             << Arguments("--modules=") << 1 << "There is no directory \"\"." + advice();
-        QTest::newRow("both kinds of modules") << Arguments { "--compiled", "--modules", "." } << 2
-                                               << "--modules and --compiled exclude each other.\n";
         QTest::newRow("missing directory") << Arguments { "--modules", "missing" } << 1
                                            << "There is no directory \"missing\"." + advice();
         const QString known = "Unknown task: %2\n"
@@ -141,8 +139,6 @@ private Q_SLOTS:
     {
         QVERIFY(QFile::copy(WORKBENCH_EXECUTABLE, "workbench"));
         run({ "--task", "none" }, "./workbench");
-        QVERIFY2(m_complaint.startsWith("There is no directory"), qPrintable(m_complaint));
-        run({ "--task", "none", "--compiled" }, "./workbench");
         QVERIFY2(m_complaint.contains("Workbench:Statics:Cantilever"), qPrintable(m_complaint));
     }
 
@@ -189,8 +185,9 @@ private Q_SLOTS:
                                     << " Task: Heat › Plane wall › Steady\n";
         const Arguments chinese { "--language", "zh_CN", "--task", "Workbench:传热:稳态" };
         QTest::newRow("translated name") << chinese << " 任务：传热 › 平壁 › 稳态\n";
-        QTest::newRow("compiled modules, translated name")
-            << chinese + Arguments("--compiled") << " 任务：传热 › 平壁 › 稳态\n";
+        QTest::newRow("modules of files, translated name")
+            << chinese + Arguments { "--modules", WORKBENCH_MODULES }
+            << " 任务：传热 › 平壁 › 稳态\n";
     }
     void namedTaskOpensTheWindowAtOnce()
     {

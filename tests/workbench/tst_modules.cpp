@@ -265,17 +265,6 @@ private Q_SLOTS:
         }
     }
 
-    /// Under the names and with the content of today's files, also after one was renamed or
-    /// removed.
-    void copiesBesideTheProgramAreEqual()
-    {
-        const QStringList names = iniFilesIn(WORKBENCH_MODULES);
-        QCOMPARE(iniFilesIn(WORKBENCH_MODULE_COPIES), names);
-        for (const QString &name : names)
-            QCOMPARE(fileContent(WORKBENCH_MODULE_COPIES "/" + name),
-                     fileContent(WORKBENCH_MODULES "/" + name));
-    }
-
     /// Only as many results are read as "output_results" lists, so it must not be shorter.
     void everyResultOfAFileIsRead()
     {
