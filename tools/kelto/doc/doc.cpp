@@ -18,9 +18,9 @@
 
 namespace {
 
-constexpr QLatin1String html("html");
-constexpr QLatin1String markdown("markdown");
-constexpr QLatin1String qhp("qhp");
+const QLatin1String html("html");
+const QLatin1String markdown("markdown");
+const QLatin1String qhp("qhp");
 
 /// Languages become parts of names of files.
 bool isLanguage(const QString &name)

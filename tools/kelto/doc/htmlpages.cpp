@@ -18,9 +18,9 @@ static void initResources()
 
 namespace {
 
-constexpr QLatin1String htmlEnding(".html");
-constexpr QLatin1String scriptEnding(".js");
-constexpr QLatin1String searchIndexFile("searchindex");
+const QLatin1String htmlEnding(".html");
+const QLatin1String scriptEnding(".js");
+const QLatin1String searchIndexFile("searchindex");
 
 /// As HTML spells it: "zh-CN" for "zh_CN".
 QString languageTag(QString language)

@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr QLatin1String markdownEnding(".md");
+const QLatin1String markdownEnding(".md");
 
 /// As one line that no reader of Markdown takes for anything but text.
 QString escaped(const QString &text)
