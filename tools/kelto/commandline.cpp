@@ -49,7 +49,8 @@ QString overview()
 QString helpOf(const Command &command)
 {
     QVector<QPair<QString, QString>> rows;
-    for (const CommandOption &option : command.options + commonOptions())
+    const QVector<CommandOption> options = command.options + commonOptions();
+    for (const CommandOption &option : options)
         rows.append({ spelt(option), Command::tr(option.description) });
     QString text = QStringLiteral("%1\n  kelto %2 [OPTION...] %3\n\n%4\n\n%5\n%6")
                        .arg(Command::tr("Usage:"), QLatin1String(command.name),
@@ -93,7 +94,8 @@ QString complaintAbout(const QCommandLineParser &parser, const Command &command)
     const QStringList unknown = parser.unknownOptionNames();
     if (!unknown.isEmpty()) {
         QStringList names;
-        for (const CommandOption &option : command.options + commonOptions())
+        const QVector<CommandOption> options = command.options + commonOptions();
+        for (const CommandOption &option : options)
             names += option.names;
         const QString name = unknown.constFirst();
         const QString nearest = nearestName(name, names);
