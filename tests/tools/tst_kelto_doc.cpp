@@ -245,7 +245,7 @@ void TestKeltoDoc::cellsHaveHeaders()
 void TestKeltoDoc::compiledTranslationsGiveTheSame()
 {
     if (!QFileInfo::exists(KELTO_LRELEASE))
-        QSKIP("There is no lrelease.");
+        QSKIP("There is no lrelease.", "");
     int exitCode = -1;
     const QString output
         = outputOf(KELTO_LRELEASE, { workbenchTranslation(), "-qm", "compiled_zh_CN.qm" },
@@ -282,7 +282,7 @@ void TestKeltoDoc::becomesHelp()
     const QString generator
         = QStandardPaths::findExecutable("qhelpgenerator", { "/usr/lib/qt5/bin" });
     if (generator.isEmpty())
-        QSKIP("There is no qhelpgenerator.");
+        QSKIP("There is no qhelpgenerator.", "");
     makeManual("manual", workbenchTranslation(), { "--format", "qhp" });
     qputenv("QT_QPA_PLATFORM", "offscreen");
     for (const QString &name : { QString("manual"), QString("manual.zh_CN") }) {
@@ -365,7 +365,7 @@ void TestKeltoDoc::fitsTheScreenAndIsSearched()
 {
     const QString browser = QStandardPaths::findExecutable("chromium");
     if (browser.isEmpty())
-        QSKIP("There is no Chromium.");
+        QSKIP("There is no Chromium.", "");
     makeManual("manual", workbenchTranslation());
     const QStringList pages = pagesIn("manual").keys();
     QVERIFY(writeFile("trial.html", browserTrial(pages)));
