@@ -12,6 +12,7 @@
 #include "convert/inidocument.h"
 #include "convert/jsonitem.h"
 #include "format/format.h"
+#include "lint/linter.h"
 
 #include <Kelto/AUTH_INF>
 #include <Kelto/KeltoItemHints>
@@ -175,6 +176,36 @@ private Q_SLOTS:
         QCOMPARE(hints.minimum("T"), 0.0);
         QCOMPARE(item.inner_mode_parameterList.value(0).value(0).mid(4, 2),
                  QStringList({ "degC", "K" }));
+    }
+
+    /// Even of names, units and texts that item files or source text do not allow.
+    void makesFilesWithoutFindings_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+
+        for (const char *name : { "pump2.xml", "pump3.xml" })
+            QTest::newRow(name) << fileContent(QString(CASE_DIRECTORY "/convert/") + name);
+        const QByteArray hard = "&quot;\\|/;=,@%[] &#10; Länge ";
+        QTest::newRow("hard names")
+            << variable("name='" + hard + "' description='" + hard + "' causality='parameter'",
+                        "Real start='1' unit='m'")
+                   .replace("modelName=\"M\"", "modelName='" + hard + ":'");
+        QTest::newRow("a comma at the end of a name")
+            << variable("name='a,' causality='input'", "String");
+    }
+    void makesFilesWithoutFindings()
+    {
+        QFETCH(QByteArray, bytes);
+        QVector<LeftOut> leftOut;
+        const FmiModel found = fmiModelIn(bytes);
+        QCOMPARE(found.error, QString());
+        const AUTH_INF item = itemOf(found, &leftOut);
+        const QByteArray text = iniOf(item);
+        QCOMPARE(lossOf(item, text).fields, QStringList());
+        QVERIFY(writeFile("item.ini", text));
+        const Findings findings = findingsIn(ItemFile("item.ini"));
+        for (const Finding &finding : findings)
+            QFAIL(qPrintable(finding.rule + ": " + finding.text + '\n' + text));
     }
 
     void leavesOutWhatContradictsItself()

@@ -6,7 +6,10 @@
 #include "support/directorytest.h"
 #include "support/testfiles.h"
 
+#include "console.h"
 #include "format/format.h"
+#include "lint/lintconfig.h"
+#include "lint/linter.h"
 #include "newitem.h"
 #include "sourcetext.h"
 
@@ -61,6 +64,10 @@ private Q_SLOTS:
                  QStringList({ "Density", "Length", "Material", "Side", "Wall thickness" }));
         QCOMPARE(keysOf(registry.defaultResultList(group)), QStringList({ "Mass", "Volume" }));
 
+        Console console;
+        const Findings findings = lint({ "item.ini" }, LintConfig(QStringList()), console).findings;
+        for (const Finding &finding : findings)
+            QFAIL(qPrintable(finding.rule + ": " + finding.text));
         DocumentError error;
         QCOMPARE(formatted(text, &error), text);
     }
