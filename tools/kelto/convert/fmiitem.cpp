@@ -18,7 +18,8 @@ namespace {
 QString carried(const QString &text)
 {
     QString plain;
-    for (const QChar character : text.simplified()) {
+    const QString simplified = text.simplified();
+    for (const QChar character : simplified) {
         if (character == QLatin1Char('"'))
             plain += QLatin1Char('\'');
         else if (character == QLatin1Char('\\'))
