@@ -27,6 +27,7 @@ test_packages=(
     libbenchmark-dev clang-format-14 shellcheck codespell
     python3       # plants faults
     doxygen qhelpgenerator-qt5 qtbase5-doc-dev # the reference, linked to the pages of Qt
+    groff-base # formats the manual pages
     poppler-utils # reads the report of the example host
     chromium qhelpgenerator-qt5 # read the manual that the command writes
 )

@@ -21,7 +21,9 @@ enum ExitCode {
 struct CommandOption
 {
     QStringList names; ///< Without dashes.
-    const char *value; ///< What stands for its value in the help, such as "FILE"; null for a flag.
+    /// What stands for its value in the help; null for a flag. The shell completes "FILE", "DIR",
+    /// "RULE" and, as "one|other", words between which a user chooses.
+    const char *value;
     const char *description;
 };
 

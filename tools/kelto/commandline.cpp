@@ -29,7 +29,7 @@ QString spelt(const CommandOption &option)
 {
     QStringList names;
     for (const QString &name : option.names)
-        names.append((name.size() == 1 ? QStringLiteral("-") : QStringLiteral("--")) + name);
+        names.append(dashed(name));
     const QString text = names.join(QStringLiteral(", "));
     return option.value ? text + QLatin1Char(' ') + QLatin1String(option.value) : text;
 }
@@ -99,9 +99,8 @@ QString complaintAbout(const QCommandLineParser &parser, const Command &command)
             names += option.names;
         const QString name = unknown.constFirst();
         const QString nearest = nearestName(name, names);
-        return Command::tr("there is no option \"%1\".")
-                   .arg((name.size() == 1 ? QStringLiteral("-") : QStringLiteral("--")) + name)
-            + (nearest.isEmpty() ? QString() : didYouMean(name, names));
+        return Command::tr("there is no option \"%1\".").arg(dashed(name))
+            + (nearest.isEmpty() ? QString() : didYouMean(dashed(nearest)));
     }
     if (!parser.errorText().isEmpty())
         return parser.errorText();

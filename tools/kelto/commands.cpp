@@ -41,3 +41,8 @@ const QVector<CommandOption> &commonOptions()
     };
     return options;
 }
+
+QString dashed(const QString &name)
+{
+    return (name.size() == 1 ? QStringLiteral("-") : QStringLiteral("--")) + name;
+}

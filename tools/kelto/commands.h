@@ -12,6 +12,9 @@ const QVector<Command> &commands();
 /// The options that every command has.
 const QVector<CommandOption> &commonOptions();
 
+/// The name of an option as it is typed: "-h", "--help".
+QString dashed(const QString &name);
+
 // Each stands in a file of its own.
 Command codeCommand();
 Command checkCommand();

@@ -18,7 +18,11 @@ QString nearestName(const QString &name, const QStringList &names)
 
 QString didYouMean(const QString &name, const QStringList &names)
 {
-    const QString nearest = nearestName(name, names);
+    return didYouMean(nearestName(name, names));
+}
+
+QString didYouMean(const QString &nearest)
+{
     if (nearest.isEmpty())
         return {};
     return QLatin1Char(' ') + Command::tr("Did you mean \"%1\"?").arg(nearest);

@@ -13,4 +13,7 @@ QString nearestName(const QString &name, const QStringList &names);
 /// is similar.
 QString didYouMean(const QString &name, const QStringList &names);
 
+/// The same for the nearest name itself.
+QString didYouMean(const QString &nearest);
+
 #endif

@@ -265,7 +265,7 @@ QVector<CommandOption> options()
           "DIR",
           QT_TRANSLATE_NOOP("Command", "The directory for the manual, which is made if missing.") },
         { { QStringLiteral("format") },
-          "FORMAT",
+          "html|markdown|qhp",
           QT_TRANSLATE_NOOP("Command",
                             "html (as without this option), markdown, or qhp: HTML and a project "
                             "for Qt Help. Can be given more than once.") },

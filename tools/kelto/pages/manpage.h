@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: The Kelto developers
+// SPDX-License-Identifier: MIT
+
+#ifndef MANPAGE_H
+#define MANPAGE_H
+
+#include <QByteArray>
+
+struct Command;
+
+/// The manual page kelto(1), which lists the commands, as man reads it.
+QByteArray overviewPage();
+
+/// The manual page of one command, kelto-NAME(1).
+QByteArray manPage(const Command &command);
+
+#endif
