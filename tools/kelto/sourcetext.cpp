@@ -53,6 +53,8 @@ bool breaksLine(QChar c)
 Reason problemAt(const QString &text, int i)
 {
     const QChar c = text.at(i);
+    if (c.isLetterOrNumber() || c == QLatin1Char(' '))
+        return std::nullopt; // As most are.
     if (c == QLatin1Char('"'))
         return Problem::DoubleQuote;
     if (c == QLatin1Char('\\'))
@@ -164,8 +166,10 @@ class ProblemList
 public:
     void add(const QString &section, const QString &key, const QString &text, Reason reason)
     {
+        if (!reason)
+            return;
         const QStringList place { section, key, text };
-        if (!reason || m_known.contains(place))
+        if (m_known.contains(place))
             return;
         m_known.insert(place);
         problems.append({ section, key, text, *reason });
