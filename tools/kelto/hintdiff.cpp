@@ -23,7 +23,7 @@ QString defaultOf(const KeltoItemHints &hints, const QString &key)
     if (!hints.defaultValue(key).isValid())
         return {};
     const QString text = hints.defaultValue(key).toStringList().join(QLatin1Char(';'));
-    return text.isNull() ? QStringLiteral("") : text;
+    return text.isNull() ? QString(QLatin1String("")) : text;
 }
 
 /// The values that can be chosen; empty where everything can be entered.

@@ -259,7 +259,8 @@ private:
         const QStringList is = commonModesOf(m_afterTable, after);
         QVector<ItemChange> changes;
         int count = 0;
-        for (const QString &mode : commonModesOf(m_beforeTable, before)) {
+        const QStringList was = commonModesOf(m_beforeTable, before);
+        for (const QString &mode : was) {
             if (!is.contains(mode))
                 continue;
             ++count;

@@ -16,7 +16,10 @@ namespace {
 
 const QLatin1String indent("  ");
 /// Of the tables: what is wider takes several lines.
-const QVector<int> widestCells { 26, 8, 10, 14 };
+QVector<int> widestCells()
+{
+    return { 26, 8, 10, 14 };
+}
 
 QString listed(const QStringList &texts)
 {
@@ -93,7 +96,7 @@ QString rowsText(const ItemTable &table, const QVector<ItemTableRow> &rows, int 
             texts.append(cellText(table, row, mode));
         cells.append(texts);
     }
-    return textTable(cells, widestCells);
+    return textTable(cells, widestCells());
 }
 
 int widthOf(const QString &text)

@@ -102,15 +102,14 @@ QJsonObject itemAsJson(const ItemFile &file, const ItemTable &table)
 QVector<ItemTableRow> reduced(const QVector<ItemTableRow> &rows, const QVector<bool> &isKept)
 {
     QVector<ItemTableRow> kept;
-    for (ItemTableRow row : rows) {
+    for (const ItemTableRow &row : rows) {
         QVector<bool> modes;
         for (int mode = 0; mode < isKept.size(); ++mode) {
             if (isKept.at(mode))
                 modes.append(row.modes.at(mode));
         }
-        row.modes = modes;
         if (modes.contains(true))
-            kept.append(row);
+            kept.append({ row.parameter, row.label, modes });
     }
     return kept;
 }

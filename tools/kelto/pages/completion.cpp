@@ -85,7 +85,8 @@ QString branch(const Command &command)
 {
     QStringList options;
     QString values;
-    for (const CommandOption &option : command.options + commonOptions()) {
+    const QVector<CommandOption> all = command.options + commonOptions();
+    for (const CommandOption &option : all) {
         options += dashedNames(option);
         if (option.value) {
             values += QStringLiteral("        %1) %2; return ;;\n")
