@@ -43,12 +43,14 @@ files_below() {
 
 # A program that runs takes the library alone; all components are all there is.
 check_components() {
-    local parts=$work_dir/components
+    local parts=$work_dir/components component
     cmake --install "$build_dir" --prefix "$parts" --component Runtime >/dev/null
     if files_below "$parts" | grep -vE '/libkelto(-forms)?\.so\.1(\.[0-9]+)*$'; then
         fail "the component Runtime holds the files above, and should hold the libraries alone."
     fi
-    cmake --install "$build_dir" --prefix "$parts" --component Development >/dev/null
+    for component in Development Documentation; do
+        cmake --install "$build_dir" --prefix "$parts" --component "$component" >/dev/null
+    done
     if files_below "$parts" | grep -E '/kelto$|Tools'; then
         fail "the component Development holds the files above, which belong to the command."
     fi
