@@ -147,9 +147,10 @@ private:
             value.toDouble(&isNumber);
             if (isNumber) {
                 value = value.trimmed();
-                if (value.startsWith('-') || value.startsWith('+'))
-                    m_tokens.append(value.left(1));
-                m_tokens.append(value.mid(value.startsWith('-') || value.startsWith('+') ? 1 : 0));
+                const bool hasSign = value.startsWith('-') || value.startsWith('+');
+                if (hasSign)
+                    m_tokens.append(value.at(0));
+                m_tokens.append(value.mid(hasSign ? 1 : 0));
             } else {
                 m_tokens.append(literal(value));
             }
