@@ -5,6 +5,8 @@
 
 #include "lint/linter.h"
 
+#include "console.h"
+#include "lint/lintconfig.h"
 #include "support/directorytest.h"
 #include "support/testfiles.h"
 #include "units/unit.h"
@@ -18,6 +20,7 @@ class TestKeltoLint : public DirectoryTest
 private Q_SLOTS:
     void showsWhatItMeans_data();
     void showsWhatItMeans();
+    void findsNothingInTheWorkbench();
 };
 
 namespace {
@@ -87,6 +90,17 @@ void TestKeltoLint::showsWhatItMeans()
 
     QCOMPARE(findingsOf(filesOf(rule->bad, "bad")), QStringList(finding));
     QCOMPARE(findingsOf(filesOf(rule->good, "good")), QStringList());
+}
+
+void TestKeltoLint::findsNothingInTheWorkbench()
+{
+    QStringList paths;
+    for (const QString &name : filesIn(WORKBENCH_MODULES))
+        paths.append(WORKBENCH_MODULES "/" + name);
+    Console console;
+    const LintResult result = lint(paths, LintConfig(paths), console);
+    QCOMPARE(result.files.size(), 5);
+    QCOMPARE(result.findings.size(), 0);
 }
 
 QTEST_GUILESS_MAIN(TestKeltoLint)

@@ -4,10 +4,12 @@
 #include "commands.h"
 #include "console.h"
 #include "itempaths.h"
+#include "lint/fixes.h"
 #include "lint/lintconfig.h"
 #include "lint/linter.h"
 #include "lint/lintoutput.h"
 #include "nearestname.h"
+#include "outputfile.h"
 
 #include <QCommandLineParser>
 #include <QJsonArray>
@@ -49,15 +51,34 @@ ExitCode listRules(bool asJson, Console &console)
     return Done;
 }
 
-void print(const Findings &findings, const LintConfig &config, const QCommandLineParser &line,
-           Console &console)
+void print(const Findings &findings, const Findings &fixed, const LintConfig &config,
+           const QCommandLineParser &line, Console &console)
 {
-    if (line.isSet(QStringLiteral("sarif")))
+    const bool isColoured = console.isColoured();
+    if (line.isSet(QStringLiteral("sarif"))) {
         console.print(findingsAsSarif(findings, config));
-    else if (line.isSet(QStringLiteral("json")))
-        console.print(findingsAsJson(findings, {}, config));
-    else
-        console.print(findingsAsText(findings, config, console.isColoured()));
+    } else if (line.isSet(QStringLiteral("json"))) {
+        console.print(findingsAsJson(findings, fixed, config));
+    } else {
+        console.print(fixedAsText(fixed, isColoured)
+                      + findingsAsText(findings, config, isColoured));
+    }
+}
+
+/// What was fixed in the files; a complaint for each that could not be written.
+Findings fix(const LintResult &result, const LintConfig &config, QStringList *complaints)
+{
+    Findings fixed;
+    for (const ItemFile &file : result.files) {
+        const FixedFile after = fixedFile(file, config);
+        const QString complaint
+            = after.fixed.isEmpty() ? QString() : writeOutputFile(file.path(), after.bytes);
+        if (complaint.isEmpty())
+            fixed += after.fixed;
+        else
+            complaints->append(complaint);
+    }
+    return fixed;
 }
 
 ExitCode lintFiles(const QCommandLineParser &line, Console &console)
@@ -69,12 +90,17 @@ ExitCode lintFiles(const QCommandLineParser &line, Console &console)
         console.complain(complaint);
     if (!config.complaints().isEmpty())
         return WrongUsage;
-    const LintResult result = lint(paths, config, console);
-    for (const QString &sentence : result.unreadable)
+    LintResult result = lint(paths, config, console);
+    QStringList complaints = result.unreadable;
+    Findings fixed;
+    if (line.isSet(QStringLiteral("fix")))
+        fixed = fix(result, config, &complaints);
+    if (!fixed.isEmpty())
+        result = lint(paths, config, console);
+    for (const QString &sentence : qAsConst(complaints))
         console.complain(sentence);
-    print(result.findings, config, line, console);
-    const bool isDone = areAllFound && result.unreadable.isEmpty() && result.findings.isEmpty();
-    return isDone ? Done : Found;
+    print(result.findings, fixed, config, line, console);
+    return areAllFound && complaints.isEmpty() && result.findings.isEmpty() ? Done : Found;
 }
 
 ExitCode run(const QCommandLineParser &line, Console &console)
@@ -126,6 +152,10 @@ Command lintCommand()
             { { QStringLiteral("rules") },
               nullptr,
               QT_TRANSLATE_NOOP("Command", "List all rules.") },
+            { { QStringLiteral("fix") },
+              nullptr,
+              QT_TRANSLATE_NOOP("Command",
+                                "Mend the files where there is one right answer, and say what.") },
             { { QStringLiteral("sarif") },
               nullptr,
               QT_TRANSLATE_NOOP("Command", "Write the findings as SARIF 2.1.0.") },
@@ -133,6 +163,8 @@ Command lintCommand()
         {
             { "kelto lint modules",
               QT_TRANSLATE_NOOP("Command", "All item files below a directory.") },
+            { "kelto lint --fix beam.ini",
+              QT_TRANSLATE_NOOP("Command", "Mend what can be mended; the rest is listed.") },
             { "kelto lint --explain unknown-mode",
               QT_TRANSLATE_NOOP("Command", "What is behind a finding.") },
         },

@@ -63,6 +63,7 @@ Findings findingsIn(const ItemFile &file)
         if (area.checkFile)
             area.checkFile(file, &findings);
     }
+    std::stable_sort(findings.begin(), findings.end(), standsBefore);
     return findings;
 }
 

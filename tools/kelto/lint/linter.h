@@ -12,7 +12,7 @@
 class Console;
 class LintConfig;
 
-/// What all rules find in one file, whatever is configured.
+/// What all rules find in one file, whatever is configured, from front to back.
 Findings findingsIn(const ItemFile &file);
 
 /// What the rules that look at several files find in @p files.

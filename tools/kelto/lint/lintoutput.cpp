@@ -5,6 +5,7 @@
 
 #include "command.h"
 #include "lint/lintconfig.h"
+#include "terminaltext.h"
 
 #include <QJsonArray>
 #include <QUrl>
@@ -18,6 +19,24 @@ QString coloured(const QString &text, const char *code, bool isColoured)
         return text;
     return QStringLiteral("\x1b[") + QLatin1String(code) + QLatin1Char('m') + text
         + QStringLiteral("\x1b[0m");
+}
+
+// Codes of terminals for bold letters.
+constexpr char bold[] = "1";
+constexpr char red[] = "1;31";
+constexpr char green[] = "1;32";
+constexpr char magenta[] = "1;35";
+
+QString findingLine(const Finding &finding, const QString &word, const char *colour,
+                    bool isColoured)
+{
+    const QString place = QStringLiteral("%1:%2:%3:")
+                              .arg(printable(finding.path))
+                              .arg(finding.position.line)
+                              .arg(finding.position.column);
+    return coloured(place, bold, isColoured) + QLatin1Char(' ') + coloured(word, colour, isColoured)
+        + QLatin1Char(' ') + printable(finding.text) + QStringLiteral(" [") + finding.rule
+        + QStringLiteral("]\n");
 }
 
 QJsonObject findingAsJson(const Finding &finding, const LintConfig &config)
@@ -115,15 +134,17 @@ QString findingsAsText(const Findings &findings, const LintConfig &config, bool 
     QString text;
     for (const Finding &finding : findings) {
         const bool isError = config.severity(finding.path, finding.rule) == Severity::Error;
-        const QString place = QStringLiteral("%1:%2:%3:")
-                                  .arg(finding.path)
-                                  .arg(finding.position.line)
-                                  .arg(finding.position.column);
-        const QString word = isError ? Command::tr("error:") : Command::tr("warning:");
-        text += coloured(place, "1", isColoured) + QLatin1Char(' ')
-            + coloured(word, isError ? "1;31" : "1;35", isColoured) + QLatin1Char(' ')
-            + finding.text + QStringLiteral(" [") + finding.rule + QStringLiteral("]\n");
+        text += isError ? findingLine(finding, Command::tr("error:"), red, isColoured)
+                        : findingLine(finding, Command::tr("warning:"), magenta, isColoured);
     }
+    return text;
+}
+
+QString fixedAsText(const Findings &fixed, bool isColoured)
+{
+    QString text;
+    for (const Finding &finding : fixed)
+        text += findingLine(finding, Command::tr("fixed:"), green, isColoured);
     return text;
 }
 

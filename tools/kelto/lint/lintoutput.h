@@ -16,6 +16,9 @@ QString wordOf(Severity severity);
 /// A line for each finding, as compilers write them.
 QString findingsAsText(const Findings &findings, const LintConfig &config, bool isColoured);
 
+/// The same for what is there no more.
+QString fixedAsText(const Findings &fixed, bool isColoured);
+
 /// @p fixed are findings that are there no more.
 QJsonObject findingsAsJson(const Findings &findings, const Findings &fixed,
                            const LintConfig &config);

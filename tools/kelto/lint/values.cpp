@@ -130,7 +130,9 @@ private:
 
     void checkElement(const SpeltElement &element, const QString &text)
     {
-        const bool isEmptyList = text == QLatin1String("@Invalid()") && !isOneText();
+        // So QSettings writes a list without elements.
+        const bool isEmptyList
+            = text == QLatin1String("@Invalid()") && !isOneText() && m_key.value.size() == 1;
         if (isTyped(text) && !isEmptyList && !isDamaged(text) && !isUnsafe(text)) {
             m_findings->add("typed-value", element.text.data(),
                             Command::tr("the text is read as a value of another type; write "

@@ -1,0 +1,209 @@
+// SPDX-FileCopyrightText: The Kelto developers
+// SPDX-License-Identifier: MIT
+
+// The lint and thousands of files: what it says about items that come back from a file changed, and
+// about those that do not.
+
+#include "lint/linter.h"
+
+#include "lint/fixes.h"
+#include "lint/lintconfig.h"
+#include "naiveitems.h"
+#include "support/directorytest.h"
+#include "support/hostilebytes.h"
+#include "support/itemjson.h"
+#include "support/testfiles.h"
+
+#include <QRegularExpression>
+#include <QTest>
+#include <VIniSettings>
+
+class TestKeltoLintRandom : public DirectoryTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void namesWhatComesBackChanged_data();
+    void namesWhatComesBackChanged();
+    void findsNothingInWhatIsSaved();
+    void fixesNothingButWhatIsWrong();
+    void survivesMutations();
+
+private:
+    const QStringList m_seldom { ", and more", "; else", " = x", " 100 %", " (长)", " #1", "'s" };
+};
+
+namespace {
+
+QStringList linesOf(const Findings &findings, Severity least)
+{
+    QStringList lines;
+    for (const Finding &finding : findings) {
+        const Rule *const rule = ruleOf(finding.rule);
+        if (!rule || rule->severity >= least) {
+            lines.append(QString("%1:%2 %3 %4")
+                             .arg(finding.position.line)
+                             .arg(finding.position.column)
+                             .arg(finding.rule, finding.text));
+        }
+    }
+    return lines;
+}
+
+Findings allFindings(const ItemFile &file)
+{
+    return findingsIn(file) + findingsAmong({ file });
+}
+
+/// @p bytes with some pieces changed, moved, doubled or gone.
+QByteArray mutated(QByteArray bytes, Dice *dice)
+{
+    for (int i = dice->between(1, 6); i > 0 && !bytes.isEmpty(); --i) {
+        const int begin = dice->between(0, bytes.size() - 1);
+        const int length = dice->between(1, dice->chance(80) ? 4 : 200);
+        switch (dice->between(0, 4)) {
+        case 0:
+            bytes.remove(begin, length);
+            break;
+        case 1:
+            bytes.insert(begin, bytes.mid(dice->between(0, bytes.size() - 1), length));
+            break;
+        case 2:
+            bytes[begin] = char(dice->between(0, 255));
+            break;
+        case 3:
+            bytes.truncate(dice->chance(90) ? bytes.size() : begin);
+            break;
+        default:
+            bytes.insert(begin, pieceOfSyntax(dice));
+        }
+    }
+    return bytes;
+}
+
+/// Whether the file has that line, and the line that character, or ends before it.
+bool isInside(IniPosition position, const QByteArray &bytes)
+{
+    const QByteArrayList lines = bytes.split(bytes.contains('\n') ? '\n' : '\r');
+    if (position.line < 1 || position.line > lines.size() || position.column < 1)
+        return false;
+    const QByteArray &line = lines.at(position.line - 1);
+    const auto beginsCharacter = [](char c) { return (c & 0xc0) != 0x80; };
+    return position.column <= 1 + std::count_if(line.cbegin(), line.cend(), beginsCharacter);
+}
+
+} // namespace
+
+void TestKeltoLintRandom::namesWhatComesBackChanged_data()
+{
+    QTest::addColumn<unsigned>("seed");
+    QTest::addColumn<int>("harms");
+
+    for (unsigned seed = 1; seed <= 2; ++seed) {
+        QTest::addRow("plain items, seed %u", seed) << seed << 0;
+        QTest::addRow("items with one hard text, seed %u", seed) << seed << 1;
+        QTest::addRow("items with hard texts, seed %u", seed) << seed << 3;
+    }
+}
+
+void TestKeltoLintRandom::namesWhatComesBackChanged()
+{
+    QFETCH(unsigned, seed);
+    QFETCH(int, harms);
+
+    NaiveItemMaker maker(seed);
+    for (int i = 0; i < 400; ++i) {
+        AUTH_INF item = maker.plainItem();
+        for (int j = 0; j < harms; ++j)
+            maker.harm(&item);
+        const QByteArray bytes = NaiveWriter::written(item);
+        const QString path = QString("%1.ini").arg(i);
+        QVERIFY(writeFile(path, bytes));
+
+        const ItemFile file(path);
+        const QString changes = differences(file.item(), asRead(item));
+        // What a unit means is another matter than whether it is read.
+        const QStringList errors = linesOf(allFindings(file), Severity::Error)
+                                       .filter(QRegularExpression("^(?!.*unit-dimension)"));
+        const QString why = QString::fromUtf8(bytes) + '\n' + changes + errors.join('\n');
+        QVERIFY2(changes.isEmpty() == errors.isEmpty(), qPrintable(why));
+    }
+}
+
+void TestKeltoLintRandom::findsNothingInWhatIsSaved()
+{
+    NaiveItemMaker maker(5);
+    for (int i = 0; i < 200; ++i) {
+        AUTH_INF item = maker.plainItem();
+        // What scripts stumble over is no difficulty here.
+        item.description += m_seldom.at(i % m_seldom.size());
+        item.inner_mode_nameList.last() += m_seldom.at(i % m_seldom.size());
+        const QString path = QString("%1.ini").arg(i);
+        item.save_ini(path);
+        QStringList results;
+        for (const QStringList &entry : qAsConst(item.output_results))
+            results.append(entry.at(1));
+        VIniSettings file(path);
+        if (!results.isEmpty())
+            file.setValue("KeltoItem/output_results", results);
+        file.saveLocal();
+        QCOMPARE(linesOf(allFindings(ItemFile(path)), Severity::Warning), QStringList());
+    }
+}
+
+void TestKeltoLintRandom::fixesNothingButWhatIsWrong()
+{
+    NaiveItemMaker maker(3);
+    const LintConfig config({});
+    int restored = 0;
+    for (int i = 0; i < 800; ++i) {
+        AUTH_INF item = maker.plainItem();
+        maker.harm(&item);
+        QVERIFY(writeFile(QString("%1.ini").arg(i), NaiveWriter::written(item)));
+        const ItemFile before(QString("%1.ini").arg(i));
+        const FixedFile fixed = fixedFile(before, config);
+        QVERIFY(writeFile(QString("%1-fixed.ini").arg(i), fixed.bytes));
+        const ItemFile after(QString("%1-fixed.ini").arg(i));
+
+        QCOMPARE(fixedFile(after, config).bytes, fixed.bytes);
+        QCOMPARE(fixedFile(after, config).fixed.size(), 0);
+        QCOMPARE(fixed.bytes == before.bytes(), fixed.fixed.isEmpty());
+        // White space is dropped either way.
+        const auto isBlank
+            = [](const Finding &finding) { return finding.rule == "dropped-white-space"; };
+        const Findings &list = fixed.fixed;
+        if (std::any_of(list.cbegin(), list.cend(), isBlank)) {
+            QCOMPARE(differences(after.item(), before.item()), QString());
+        } else if (!list.isEmpty() && linesOf(allFindings(after), Severity::Error).isEmpty()) {
+            QCOMPARE(differences(after.item(), asRead(item)), QString());
+            ++restored;
+        }
+    }
+    QVERIFY2(restored > 30, qPrintable(QString::number(restored)));
+}
+
+void TestKeltoLintRandom::survivesMutations()
+{
+    QVector<QByteArray> seeds;
+    for (const char *name : { "/10-beam.ini", "/90-update.ini" })
+        seeds.append(fileContent(QString(WORKBENCH_MODULES) + name));
+    NaiveItemMaker maker(4);
+    for (int i = 0; i < 5; ++i)
+        seeds.append(NaiveWriter::written(maker.plainItem()));
+
+    for (int i = 0; i < 10000; ++i) {
+        const QString path = QString("%1.ini").arg(i);
+        QVERIFY(writeFile(path, mutated(seeds.at(i % seeds.size()), &maker.dice())));
+        const ItemFile file(path);
+        const Findings findings = allFindings(file);
+        for (const Finding &finding : findings) {
+            QVERIFY2(isInside(finding.position, file.bytes()),
+                     qPrintable(path + ' ' + linesOf({ finding }, Severity::Off).join("")));
+        }
+        QVERIFY(QFile::remove(path));
+    }
+}
+
+QTEST_GUILESS_MAIN(TestKeltoLintRandom)
+
+#include "tst_kelto_lint_random.moc"

@@ -1,0 +1,92 @@
+// SPDX-FileCopyrightText: The Kelto developers
+// SPDX-License-Identifier: MIT
+
+#include "lint/fixes.h"
+
+#include "itemfile.h"
+#include "lint/lintconfig.h"
+#include "lint/linter.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <algorithm>
+
+namespace {
+
+/// What is fixed can uncover something else. Nothing uncovers more than this.
+constexpr int mostRounds = 8;
+
+/// Replaces parts of bytes that do not overlap.
+class Replacement
+{
+public:
+    /// Whether @p edits do not touch what was taken before.
+    bool take(const QVector<TextEdit> &edits)
+    {
+        for (const TextEdit &edit : edits) {
+            const auto touches = [&edit](const TextEdit &taken) {
+                return edit.begin <= taken.end && taken.begin <= edit.end;
+            };
+            if (std::any_of(m_edits.cbegin(), m_edits.cend(), touches))
+                return false;
+        }
+        m_edits += edits;
+        return true;
+    }
+
+    QByteArray replaced(const QByteArray &bytes)
+    {
+        std::sort(m_edits.begin(), m_edits.end(),
+                  [](const TextEdit &a, const TextEdit &b) { return a.begin < b.begin; });
+        QByteArray result;
+        int at = 0;
+        for (const TextEdit &edit : qAsConst(m_edits)) {
+            result += bytes.mid(at, edit.begin - at) + edit.text;
+            at = edit.end;
+        }
+        return result + bytes.mid(at);
+    }
+
+private:
+    QVector<TextEdit> m_edits;
+};
+
+/// @p file with as many fixes as do not touch each other. Empty findings when there is none.
+FixedFile fixedOnce(const ItemFile &file, const QString &path, const LintConfig &config)
+{
+    Replacement replacement;
+    FixedFile result { file.bytes(), {} };
+    const Findings findings = findingsIn(file);
+    for (Finding finding : findings) {
+        if (finding.fix.isEmpty() || config.severity(path, finding.rule) == Severity::Off
+            || !replacement.take(finding.fix))
+            continue;
+        finding.path = path;
+        result.fixed.append(finding);
+    }
+    if (!result.fixed.isEmpty())
+        result.bytes = replacement.replaced(file.bytes());
+    return result;
+}
+
+} // namespace
+
+FixedFile fixedFile(const ItemFile &file, const LintConfig &config)
+{
+    const QTemporaryDir directory;
+    FixedFile result = fixedOnce(file, file.path(), config);
+    bool isDone = result.fixed.isEmpty();
+    for (int i = 1; i < mostRounds && !isDone; ++i) {
+        // Each in a file of its own, since QSettings may not notice that a file has changed.
+        QFile copy(directory.filePath(QStringLiteral("%1.ini").arg(i)));
+        if (!copy.open(QIODevice::WriteOnly) || copy.write(result.bytes) != result.bytes.size())
+            break;
+        copy.close();
+        const FixedFile next = fixedOnce(ItemFile(copy.fileName()), file.path(), config);
+        isDone = next.fixed.isEmpty();
+        result.bytes = next.bytes;
+        result.fixed += next.fixed;
+    }
+    return result;
+}
