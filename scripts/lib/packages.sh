@@ -26,6 +26,7 @@ test_packages=(
     clazy libclang-rt-14-dev # Clang with the checks of Qt code, and its sanitizers
     libbenchmark-dev clang-format-14 shellcheck codespell
     python3       # plants faults
+    python3-jsonschema # compares what the command writes with its schemas
     doxygen qhelpgenerator-qt5 qtbase5-doc-dev # the reference, linked to the pages of Qt
     groff-base # formats the manual pages
     poppler-utils # reads the report of the example host
