@@ -78,9 +78,8 @@ inline IniPosition elementPosition(const ItemFile &file, const ItemFileKey *key,
     if (!key)
         return {};
     const SpeltValue spelt = speltValueOf(rawValueOf(file, *key));
-    return index >= 0 && index < spelt.elements.size()
-        ? file.positionAt(spelt.elements.at(index).text.data())
-        : key->valuePosition;
+    return index >= 0 && index < spelt.size() ? file.positionAt(spelt.at(index).text.data())
+                                              : key->valuePosition;
 }
 
 /// Whether there is a parameter or a result @p name. The rest about it is stale otherwise.

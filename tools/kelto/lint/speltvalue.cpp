@@ -77,7 +77,7 @@ private:
     {
         const char *const backslash = m_at;
         const char *const next = behindLineEnd(m_at + 1, m_end);
-        if (m_quote || m_contentBegin || m_value.elements.isEmpty()) {
+        if (m_quote || m_contentBegin || m_value.elements.empty()) {
             if (!m_quote)
                 m_value.joints.append(backslash);
             takeContent(static_cast<int>(next - backslash));
@@ -127,7 +127,7 @@ private:
         m_element.text = textBetween(content, contentEnd);
         m_element.blanksBefore = static_cast<int>(content - m_begin);
         m_element.blanksBehind = static_cast<int>(m_at - contentEnd);
-        m_value.elements.append(m_element);
+        m_value.elements.push_back(m_element);
         m_element = SpeltElement();
     }
 

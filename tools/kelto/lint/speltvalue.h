@@ -7,6 +7,7 @@
 #include <QVector>
 
 #include <string_view>
+#include <vector>
 
 /// One element of a value as it is spelt, without the white space around it.
 struct SpeltElement
@@ -21,7 +22,10 @@ struct SpeltElement
 /// How a value is spelt, as far as it is lost in what the reader makes of it.
 struct SpeltValue
 {
-    QVector<SpeltElement> elements; ///< At least one.
+    std::vector<SpeltElement> elements; ///< At least one.
+    int size() const { return static_cast<int>(elements.size()); }
+    const SpeltElement &at(int index) const { return elements[static_cast<std::size_t>(index)]; }
+
     const char *comma = nullptr; ///< The first outside of quotes.
     /// Outside of quotes: escapes that stand for another character.
     QVector<const char *> escapes;

@@ -68,7 +68,7 @@ private:
     const char *elementPlace(const ItemFileKey &key, int index) const
     {
         const SpeltValue spelt = speltValueOf(rawValueOf(m_findings->file(), key));
-        return spelt.elements.at(qMin(index, spelt.elements.size() - 1)).text.data();
+        return spelt.at(qMin(index, spelt.size() - 1)).text.data();
     }
 
     /// A line behind that of @p key.
@@ -228,8 +228,10 @@ private:
             if (each.compare(mode, Qt::CaseInsensitive) == 0)
                 alike.append(each);
         }
-        const std::string_view text = spelt.elements.value(index).text;
-        if (alike.size() != 1 || QByteArray(text.data(), int(text.size())) != mode.toUtf8())
+        if (alike.size() != 1 || index >= spelt.size())
+            return {};
+        const std::string_view text = spelt.at(index).text;
+        if (QByteArray(text.data(), int(text.size())) != mode.toUtf8())
             return {};
         return { m_findings->edit(text, alike.constFirst().toUtf8()) };
     }

@@ -46,10 +46,10 @@ public:
         if (m_kind == ItemValue::Unknown || m_kind == ItemValue::Nothing)
             return;
         checkCommas();
-        for (int i = 0; i < m_spelt.elements.size(); ++i) {
+        for (int i = 0; i < m_spelt.size(); ++i) {
             checkBlanks(i);
             if (m_kind != ItemValue::Extra)
-                checkElement(m_spelt.elements.at(i), m_key.value.value(i));
+                checkElement(m_spelt.at(i), m_key.value.value(i));
         }
     }
 
@@ -107,11 +107,11 @@ private:
 
     void checkBlanks(int index)
     {
-        const SpeltElement &element = m_spelt.elements.at(index);
+        const SpeltElement &element = m_spelt.at(index);
         if (element.hasQuotes)
             return;
         const bool isFirst = index == 0;
-        const bool isLast = index == m_spelt.elements.size() - 1;
+        const bool isLast = index == m_spelt.size() - 1;
         // One blank behind "=" or "," is a matter of taste.
         const int superfluous = element.beginsLine ? 0 : element.blanksBefore - 1;
         if (superfluous > 0 && (isFirst || !isOneValue()))
