@@ -3,6 +3,8 @@
 
 #include "console.h"
 
+#include "terminaltext.h"
+
 #include <QDateTime>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -70,11 +72,11 @@ void Console::showProgress(const QString &text)
     if (!m_showsProgress || (text.isEmpty() && m_progressWidth == 0)
         || QDateTime::currentMSecsSinceEpoch() < m_start + moment)
         return;
-    const QByteArray line = '\r' + text.leftJustified(m_progressWidth).toUtf8();
+    const QByteArray line = '\r' + paddedTo(text, m_progressWidth).toUtf8();
     std::fwrite(line.constData(), 1, std::size_t(line.size()), stderr);
     if (text.isEmpty())
         std::fputc('\r', stderr);
-    m_progressWidth = text.size();
+    m_progressWidth = columnsOf(text);
 }
 
 bool Console::flush()

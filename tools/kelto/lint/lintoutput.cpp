@@ -134,8 +134,9 @@ QString findingsAsText(const Findings &findings, const LintConfig &config, bool 
     QString text;
     for (const Finding &finding : findings) {
         const bool isError = config.severity(finding.path, finding.rule) == Severity::Error;
-        text += isError ? findingLine(finding, Command::tr("error:"), red, isColoured)
-                        : findingLine(finding, Command::tr("warning:"), magenta, isColoured);
+        // The same in every language: editors find places by these words, as in compilers' output.
+        text += isError ? findingLine(finding, QStringLiteral("error:"), red, isColoured)
+                        : findingLine(finding, QStringLiteral("warning:"), magenta, isColoured);
     }
     return text;
 }
