@@ -3,8 +3,9 @@
 
 // The command, run as people run it. Each directory below "cases" holds cases of one command:
 // "NAME.args" has the arguments, one to a line, and "NAME.out" what comes of them: the standard
-// output, the standard error, the exit code, and the files that were written. The other files
-// beside them are there for the arguments to name; each case runs in a copy of its own.
+// output, the standard error, the exit code, and the files that were written. "NAME.env", where
+// there is one, has the variables of the environment, one to a line. The other files beside them
+// are there for the arguments to name; each case runs in a copy of its own.
 
 #include "support/directorytest.h"
 #include "support/referencefile.h"
@@ -44,7 +45,8 @@ Files materialOf(const QString &directory)
 {
     Files files = filesBelow(directory);
     for (auto file = files.begin(); file != files.end();) {
-        const bool isCase = file.key().endsWith(".args") || file.key().endsWith(".out");
+        const bool isCase = file.key().endsWith(".args") || file.key().endsWith(".env")
+            || file.key().endsWith(".out");
         file = isCase ? files.erase(file) : file + 1;
     }
     return files;
@@ -56,8 +58,18 @@ void write(const Files &files)
         QVERIFY(writeFile(file.key(), file.value()));
 }
 
-/// Nothing but what the sanitizers are told.
-QProcessEnvironment emptyEnvironment()
+QStringList linesOf(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    QStringList lines = QString::fromUtf8(file.readAll()).split('\n');
+    lines.removeLast();
+    return lines;
+}
+
+/// The variables of the case, and else nothing but what the sanitizers are told.
+QProcessEnvironment environmentOf(const QString &path)
 {
     const QProcessEnvironment own = QProcessEnvironment::systemEnvironment();
     QProcessEnvironment environment;
@@ -67,6 +79,8 @@ QProcessEnvironment emptyEnvironment()
         if (own.contains(name))
             environment.insert(name, own.value(name));
     }
+    for (const QString &line : linesOf(path + ".env"))
+        environment.insert(line.section('=', 0, 0), line.section('=', 1));
     return environment;
 }
 
@@ -103,16 +117,12 @@ void TestKeltoCommand::prints_data()
 void TestKeltoCommand::prints()
 {
     QFETCH(QString, path);
-    QFile file(path + ".args");
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QStringList arguments = QString::fromUtf8(file.readAll()).split('\n');
-    arguments.removeLast();
-
+    QVERIFY(QFileInfo(path + ".args").isReadable());
     const Files material = materialOf(QFileInfo(path).path());
     write(material);
     QProcess process;
-    process.setProcessEnvironment(emptyEnvironment());
-    process.start(KELTO_COMMAND, arguments);
+    process.setProcessEnvironment(environmentOf(path));
+    process.start(KELTO_COMMAND, linesOf(path + ".args"));
     QVERIFY(process.waitForFinished());
     QCOMPARE(process.exitStatus(), QProcess::NormalExit);
     QCOMPARE(differenceFromReference(outcomeOf(process, material), path + ".out"), QString());
