@@ -16,12 +16,14 @@ int main(int argc, char *argv[])
     QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("kelto"));
 
+    // English has no file: of the languages "en:zh_CN" the second would be loaded.
+    const QLocale language(QLocale().uiLanguages().value(0));
     QTranslator own;
-    if (own.load(QLocale(), QStringLiteral("kelto-command"), QStringLiteral("_"),
+    if (own.load(language, QStringLiteral("kelto-command"), QStringLiteral("_"),
                  QStringLiteral(":/kelto-command/translations")))
         QCoreApplication::installTranslator(&own);
     QTranslator library;
-    if (library.load(QLocale(), QStringLiteral("kelto"), QStringLiteral("_"),
+    if (library.load(language, QStringLiteral("kelto"), QStringLiteral("_"),
                      QStringLiteral(":/kelto/translations")))
         QCoreApplication::installTranslator(&library);
 
