@@ -25,7 +25,8 @@
  * 7 translated key, 8 translated sub-group. Results are described by entries of the same layout.
  *
  * The per-mode lists are meant to have inner_mode_count entries each, in the same order. Nothing
- * enforces that: every query treats what is missing as empty.
+ * enforces that: every query treats what is missing as empty. docs/traps.md says what this and the
+ * like cost those who do not know it, and what to do.
  */
 class KELTO_EXPORT AUTH_INF
 {

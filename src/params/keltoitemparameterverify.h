@@ -19,7 +19,7 @@ struct KeltoItemFinding;
  * The check, before a calculation, that a value was entered for every parameter.
  *
  * All operations are static, keep nothing, change neither the item nor the values and report no
- * error.
+ * error. isValid() looks at keys alone (docs/traps.md); explain() looks at the values as well.
  */
 class KELTO_EXPORT KeltoItemParameterVerify
 {

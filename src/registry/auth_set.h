@@ -50,6 +50,9 @@ class AUTH_SETPrivate;
  * - Stored values: auth_set_values.cpp
  * - Log, paths and language: auth_set_environment.cpp
  * - Source text of modules: auth_set_code.cpp
+ *
+ * Names that several modules share, and the order and place of things, hold surprises:
+ * docs/traps.md lists them.
  */
 class KELTO_EXPORT AUTH_SET
 {

@@ -29,7 +29,8 @@ using VStringPairList = QVector<QPair<QString, QString>>;
  * A host creates it, binds its registry with set(), may narrow the offer with
  * resetToExclusiveGroup(), and calls show(), which returns when the window has closed. The
  * outcome is then found in AUTH_SET::current_group and AUTH_SET::current_mode, in the selection of
- * the exclusive group, and in operateIndex.
+ * the exclusive group, and in operateIndex. What an empty offer and the buttons do to these is
+ * among the traps in docs/traps.md.
  *
  * When the language changes, the dialog sets its own texts anew, its title included. The entries
  * are the host's and stay. A name that is too long for the window is shown with an ellipsis; all
