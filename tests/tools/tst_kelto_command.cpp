@@ -79,7 +79,8 @@ QProcessEnvironment environmentOf(const QString &path)
         if (own.contains(name))
             environment.insert(name, own.value(name));
     }
-    for (const QString &line : linesOf(path + ".env"))
+    const QStringList variables = linesOf(path + ".env");
+    for (const QString &line : variables)
         environment.insert(line.section('=', 0, 0), line.section('=', 1));
     return environment;
 }

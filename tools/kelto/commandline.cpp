@@ -66,10 +66,10 @@ QString helpOf(const Command &command)
 
 QString tryHelp(const QString &command)
 {
-    return QLatin1Char(' ')
-        + Command::tr("Try \"kelto %1\".")
-              .arg(command.isEmpty() ? QStringLiteral("--help")
-                                     : QString(command + QStringLiteral(" --help")));
+    // With the blank, which other languages do without.
+    return Command::tr(" Try \"kelto %1\".")
+        .arg(command.isEmpty() ? QStringLiteral("--help")
+                               : QString(command + QStringLiteral(" --help")));
 }
 
 QStringList commandNames()

@@ -25,5 +25,6 @@ QString didYouMean(const QString &nearest)
 {
     if (nearest.isEmpty())
         return {};
-    return QLatin1Char(' ') + Command::tr("Did you mean \"%1\"?").arg(nearest);
+    // With the blank, which other languages do without.
+    return Command::tr(" Did you mean \"%1\"?").arg(nearest);
 }

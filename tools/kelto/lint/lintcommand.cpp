@@ -114,7 +114,7 @@ ExitCode run(const QCommandLineParser &line, Console &console)
         return lintFiles(line, console);
     console.complain(
         Command::tr("\"%1\" needs %2.").arg(QStringLiteral("lint"), QStringLiteral("PATH..."))
-        + QLatin1Char(' ') + Command::tr("Try \"kelto %1\".").arg(QStringLiteral("lint --help")));
+        + Command::tr(" Try \"kelto %1\".").arg(QStringLiteral("lint --help")));
     return WrongUsage;
 }
 

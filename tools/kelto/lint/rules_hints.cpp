@@ -157,11 +157,11 @@ void findObjectNames(const ItemFile &file, Findings *findings)
         const QString word = key.value.constFirst();
         if (word.isEmpty() || knownObjectNames().contains(word))
             continue;
-        QString text = Command::tr("nothing knows the object name \"%1\"").arg(word);
+        const QString text = Command::tr("nothing knows the object name \"%1\".").arg(word);
         const QString suggestion = didYouMean(word, knownObjectNames());
-        if (!suggestion.isEmpty())
-            text += QLatin1Char('.') + suggestion;
-        FileFindings(file, findings).add("unknown-object-name", key.valuePosition, text);
+        FileFindings(file, findings)
+            .add("unknown-object-name", key.valuePosition,
+                 suggestion.isEmpty() ? text.chopped(1) : text + suggestion);
     }
 }
 

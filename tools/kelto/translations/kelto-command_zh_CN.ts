@@ -138,10 +138,6 @@ Files are written only when they change. An item that source text cannot carry i
         <translation>示例：</translation>
     </message>
     <message>
-        <source>Try &quot;kelto %1&quot;.</source>
-        <translation>请试“kelto %1”。</translation>
-    </message>
-    <message>
         <source>there is no option &quot;%1&quot;.</source>
         <translation>没有选项“%1”。</translation>
     </message>
@@ -1331,10 +1327,6 @@ rule and its value one of error, warning and off:
         <translation>两者生成的源代码不能一起编译。请给其中一个函数另取名称。</translation>
     </message>
     <message>
-        <source>nothing knows the object name &quot;%1&quot;</source>
-        <translation>未知的对象名“%1”</translation>
-    </message>
-    <message>
         <source>An extra key is a hint that makes no sense</source>
         <translation>附加键是没有意义的提示</translation>
     </message>
@@ -1799,10 +1791,6 @@ rule and its value one of error, warning and off:
         <translation>应用程序 Beams 的模式。</translation>
     </message>
     <message>
-        <source>Did you mean &quot;%1&quot;?</source>
-        <translation>是否指“%1”？</translation>
-    </message>
-    <message>
         <source>%1: exists already; --force replaces it, -o names another file.</source>
         <translation>%1：已存在；用 --force 替换，或用 -o 指定其他文件。</translation>
     </message>
@@ -1981,6 +1969,18 @@ rule and its value one of error, warning and off:
     <message>
         <source>fixed:</source>
         <translation>已修正：</translation>
+    </message>
+    <message>
+        <source> Try &quot;kelto %1&quot;.</source>
+        <translation>请试“kelto %1”。</translation>
+    </message>
+    <message>
+        <source>nothing knows the object name &quot;%1&quot;.</source>
+        <translation>未知的对象名“%1”。</translation>
+    </message>
+    <message>
+        <source> Did you mean &quot;%1&quot;?</source>
+        <translation>是否指“%1”？</translation>
     </message>
 </context>
 </TS>
