@@ -5,9 +5,22 @@
 #include "console.h"
 
 #include <QCoreApplication>
+#include <QLibraryInfo>
 #include <QLocale>
 #include <QTextCodec>
 #include <QTranslator>
+
+namespace {
+
+bool install(QTranslator *translator, const QString &name, const QString &directory)
+{
+    // English has no file: of the languages "en:zh_CN" the second would be loaded.
+    const QLocale language(QLocale().uiLanguages().value(0));
+    return translator->load(language, name, QStringLiteral("_"), directory)
+        && QCoreApplication::installTranslator(translator);
+}
+
+} // namespace
 
 int main(int argc, char *argv[])
 {
@@ -16,16 +29,16 @@ int main(int argc, char *argv[])
     QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("kelto"));
 
-    // English has no file: of the languages "en:zh_CN" the second would be loaded.
-    const QLocale language(QLocale().uiLanguages().value(0));
     QTranslator own;
-    if (own.load(language, QStringLiteral("kelto-command"), QStringLiteral("_"),
-                 QStringLiteral(":/kelto-command/translations")))
-        QCoreApplication::installTranslator(&own);
     QTranslator library;
-    if (library.load(language, QStringLiteral("kelto"), QStringLiteral("_"),
-                     QStringLiteral(":/kelto/translations")))
-        QCoreApplication::installTranslator(&library);
+    QTranslator qt;
+    const QString ownDirectory = QStringLiteral(":/kelto-command/translations");
+    // One language: Qt speaks more of them than the command.
+    if (install(&own, QStringLiteral("kelto-command"), ownDirectory)) {
+        install(&library, QStringLiteral("kelto"), QStringLiteral(":/kelto/translations"));
+        install(&qt, QStringLiteral("qtbase"),
+                QLibraryInfo::location(QLibraryInfo::TranslationsPath));
+    }
 
     Console console;
     const ExitCode code = runCommandLine(QCoreApplication::arguments().mid(1), console);

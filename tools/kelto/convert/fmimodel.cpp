@@ -59,7 +59,7 @@ private:
     QString errorText() const
     {
         QString reason = m_xml.errorString();
-        if (reason.endsWith(QLatin1Char('.')))
+        if (reason.endsWith(QLatin1Char('.')) || reason.endsWith(QChar(0x3002))) // 。
             reason.chop(1);
         return Command::tr("line %1: %2.").arg(m_xml.lineNumber()).arg(reason);
     }
