@@ -257,7 +257,8 @@ QString complaintOnName(const QString &name)
 QString fileNameFor(const QString &moduleName)
 {
     QString name;
-    for (const QChar character : moduleName.toLower())
+    const QString lowerCase = moduleName.toLower();
+    for (const QChar character : lowerCase)
         name += character.isLetterOrNumber() ? character : QLatin1Char(' ');
     name = name.simplified().replace(QLatin1Char(' '), QLatin1Char('-'));
     return (name.isEmpty() ? QStringLiteral("module") : name) + QLatin1String(".ini");

@@ -58,12 +58,12 @@ FixedFile fixedOnce(const ItemFile &file, const QString &path, const LintConfig 
     Replacement replacement;
     FixedFile result { file.bytes(), {} };
     const Findings findings = findingsIn(file);
-    for (Finding finding : findings) {
+    for (const Finding &finding : findings) {
         if (finding.fix.isEmpty() || config.severity(path, finding.rule) == Severity::Off
             || !replacement.take(finding.fix))
             continue;
-        finding.path = path;
         result.fixed.append(finding);
+        result.fixed.last().path = path;
     }
     if (!result.fixed.isEmpty())
         result.bytes = replacement.replaced(file.bytes());

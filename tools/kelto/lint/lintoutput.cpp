@@ -61,8 +61,9 @@ QJsonArray asJson(const Findings &findings, const LintConfig &config)
 QString bulleted(const char *example)
 {
     QString text;
-    const QStringList lines = QString::fromUtf8(example).split(QLatin1Char('\n'));
-    for (const QString &line : lines.mid(0, lines.size() - 1))
+    QStringList lines = QString::fromUtf8(example).split(QLatin1Char('\n'));
+    lines.removeLast();
+    for (const QString &line : qAsConst(lines))
         text += line.isEmpty() ? QStringLiteral("\n") : QStringLiteral("    %1\n").arg(line);
     return text;
 }
