@@ -12,7 +12,9 @@
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QDir>
 #include <QLocale>
+#include <QStandardPaths>
 #include <QTextStream>
 
 #include <cstdlib>
@@ -44,6 +46,16 @@ QVector<AUTH_INF> modulesFor(const QCommandLineParser &parser)
     return modules.result;
 }
 
+/// Log and configuration lie below the current directory, which for a menu is any.
+void moveToOwnDirectory(QString *project)
+{
+    if (!project->isEmpty())
+        *project = QDir().absoluteFilePath(*project); // meant from where the program was started
+    const QString own = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    if (!QDir().mkpath(own) || !QDir::setCurrent(own))
+        quit(Failed, "The directory \"" + own + "\" cannot be used.");
+}
+
 /// Ends the program, and offers the tasks that there are instead of @p name.
 [[noreturn]] void quitForUnknownTask(const AUTH_SET &registry, const QString &name)
 {
@@ -69,6 +81,7 @@ QVector<AUTH_INF> modulesFor(const QCommandLineParser &parser)
 
 Options readOptions(const QStringList &arguments)
 {
+    QCoreApplication::setOrganizationName("Kelto");
     QCoreApplication::setApplicationName("Workbench");
     QCoreApplication::setApplicationVersion(WORKBENCH_VERSION);
     QCommandLineParser parser;
@@ -86,6 +99,9 @@ Options readOptions(const QStringList &arguments)
         { "modules",
           "Read the module files of this directory instead of those that were compiled in.",
           "directory" },
+        { "own-directory",
+          "Keep log and configuration in a directory of the user's own instead of the current "
+          "one." },
     });
     if (!parser.parse(arguments))
         quit(WrongUsage, parser.errorText());
@@ -96,6 +112,8 @@ Options readOptions(const QStringList &arguments)
 
     Options options { parser.value("language"), parser.value("task"), modulesFor(parser),
                       parser.positionalArguments().value(0) };
+    if (parser.isSet("own-directory"))
+        moveToOwnDirectory(&options.project);
     AUTH_SET registry(QCoreApplication::applicationName(), QCoreApplication::applicationVersion(),
                       options.modules);
     if (options.language.isEmpty())

@@ -44,6 +44,8 @@ private Q_SLOTS:
         DirectoryTest::init();
         if (QTest::currentTestFailed())
             return;
+        m_process.setProcessEnvironment(QProcessEnvironment());
+        m_process.setWorkingDirectory({});
         qputenv("XDG_RUNTIME_DIR", QFile::encodeName(QDir::currentPath())); // or Qt complains
     }
 
@@ -51,8 +53,8 @@ private Q_SLOTS:
     {
         run({ "--help" });
         QCOMPARE(m_process.exitCode(), 0);
-        for (const char *text :
-             { "--language", "--task", "--modules", "[project]", "Exit codes: 0 for done" })
+        for (const char *text : { "--language", "--task", "--modules", "--own-directory",
+                                  "[project]", "Exit codes: 0 for done" })
             QVERIFY2(m_output.contains(text), qPrintable(m_output));
         run({ "--version" });
         QCOMPARE(m_process.exitCode(), 0);
@@ -196,22 +198,56 @@ private Q_SLOTS:
         m_process.start(WORKBENCH_EXECUTABLE, arguments);
         QVERIFY(m_process.waitForStarted());
         // The window writes this line, so nothing asks for a task any more.
-        const auto isLogged = [&] {
-            const QStringList files = filesIn("log");
-            return QString::fromUtf8(fileContent("log/" + files.value(0))).contains(line);
-        };
-        QTRY_VERIFY_WITH_TIMEOUT(m_process.state() == QProcess::NotRunning || isLogged(), 30000);
-        QVERIFY2(isLogged(), m_process.readAllStandardError().constData());
-        QCOMPARE(m_process.state(), QProcess::Running);
-
-        m_process.kill();
-        QVERIFY(m_process.waitForFinished());
+        waitForLine("log", line);
         const QSettings update("Config/update.ini", QSettings::IniFormat);
         QCOMPARE(update.value("Current/Name").toString(), QString("Workbench"));
         QCOMPARE(update.value("Current/Version").toString(), QString(WORKBENCH_VERSION));
     }
 
+    /// A menu starts programs in any directory.
+    void ownDirectory()
+    {
+        QVERIFY(QDir().mkdir("elsewhere"));
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("XDG_DATA_HOME", QDir().absoluteFilePath("data"));
+        m_process.setProcessEnvironment(environment);
+        m_process.setWorkingDirectory("elsewhere");
+        m_process.start(WORKBENCH_EXECUTABLE,
+                        { "--own-directory", "--task", "Workbench:Heat:Steady" });
+        QVERIFY(m_process.waitForStarted());
+        waitForLine("data/Kelto/Workbench/log", " Task: Heat › Plane wall › Steady\n");
+        QVERIFY(QFile::exists("data/Kelto/Workbench/Config/update.ini"));
+        QVERIFY(QDir("elsewhere").isEmpty());
+    }
+    void ownDirectoryThatCannotBeMade()
+    {
+        QVERIFY(writeFile("data", "A file, not a directory."));
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("XDG_DATA_HOME", QDir().absoluteFilePath("data"));
+        m_process.setProcessEnvironment(environment);
+        run({ "--own-directory" });
+        QCOMPARE(m_process.exitCode(), 1);
+        QCOMPARE(m_complaint,
+                 "The directory \"" + QDir().absoluteFilePath("data/Kelto/Workbench")
+                     + "\" cannot be used.\n");
+    }
+
 private:
+    /// Waits until the running program has written @p line into its log, and ends it.
+    void waitForLine(const QString &directory, const QString &line)
+    {
+        const auto isLogged = [&] {
+            const QStringList files = filesIn(directory);
+            const QString log = directory + '/' + files.value(0);
+            return QString::fromUtf8(fileContent(log)).contains(line);
+        };
+        QTRY_VERIFY_WITH_TIMEOUT(m_process.state() == QProcess::NotRunning || isLogged(), 30000);
+        QVERIFY2(isLogged(), m_process.readAllStandardError().constData());
+        QCOMPARE(m_process.state(), QProcess::Running);
+        m_process.kill();
+        QVERIFY(m_process.waitForFinished());
+    }
+
     /// Runs the program, the workbench where none is named, to its end.
     void run(const QStringList &arguments, const char *program = WORKBENCH_EXECUTABLE)
     {
