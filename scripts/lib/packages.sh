@@ -33,7 +33,12 @@ test_packages=(
     chromium qhelpgenerator-qt5 # read the manual that the command writes
 )
 abi_packages=(abigail-tools) # compares binary interfaces
-package_packages=(debhelper dpkg-dev fakeroot lintian mmdebstrap appstream desktop-file-utils)
+package_packages=(
+    debhelper dpkg-dev fakeroot
+    doxygen qhelpgenerator-qt5 qtbase5-doc-dev # the reference, as a package
+    lintian appstream desktop-file-utils       # look at the packages
+    mmdebstrap                                 # a clean system to install them in
+)
 # The trials of saving do without them.
 trial_packages=(
     strace e2fsprogs                           # kills at each call, full disks

@@ -14,7 +14,7 @@ source_dir=$2
 build_dir=$3
 work_dir=$4
 shift 4
-prefix=$work_dir/moved
+prefix=${KELTO_PREFIX:-$work_dir/moved} # another one for a Kelto that is installed already
 
 fail() {
     printf 'check.sh %s: %s\n' "$what" "$*" >&2
@@ -60,6 +60,7 @@ check_components() {
 }
 
 install_package() {
+    prefix=$work_dir/moved # never one that others use
     rm -rf "$work_dir/prefix" "$work_dir/components" "$prefix"
     cmake --install "$build_dir" --prefix "$work_dir/prefix" >/dev/null
     check_components
