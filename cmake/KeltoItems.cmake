@@ -138,6 +138,7 @@ macro(_kelto_generate_items)
         COMMENT "Checking the module items of ${target}"
         VERBATIM)
     _kelto_add_sources("${stamp}" ${generated})
+    set_property(TARGET ${target} APPEND PROPERTY KELTO_ITEM_STAMPS "${stamp}")
     target_include_directories(${target} PUBLIC "$<BUILD_INTERFACE:${directory}>")
 endmacro()
 
@@ -186,11 +187,26 @@ macro(_kelto_translate_items)
     _kelto_add_lupdate()
 endmacro()
 
-# The sources of the target may come from functions that are called after this one.
+# The sources of the target may come from functions that are called after this one. Files that the
+# build makes are left out: they need not exist yet, and only those of items hold texts of people.
 macro(_kelto_add_lupdate)
-    set(sources "$<TARGET_PROPERTY:${target},SOURCES>")
-    set(sources "$<FILTER:${sources},INCLUDE,\\.(c|cc|cpp|cxx|h|hh|hpp|hxx|qml|ui)$>")
-    file(GENERATE OUTPUT "${directory}/sources.txt" CONTENT "$<JOIN:${sources},\n>\n")
+    set(stamps "$<TARGET_PROPERTY:${target},KELTO_ITEM_STAMPS>")
+    set(pattern "\\.(c|cc|cpp|cxx|h|hh|hpp|hxx|qml|ui)$")
+    set(sources "$<FILTER:$<TARGET_PROPERTY:${target},SOURCES>,INCLUDE,${pattern}>")
+    file(GENERATE OUTPUT "${directory}/sources.cmake" CONTENT "set(lines)
+foreach(source IN ITEMS [[$<JOIN:${sources},]] [[>]])
+    get_filename_component(source \"\${source}\" ABSOLUTE BASE_DIR [[${CMAKE_CURRENT_SOURCE_DIR}]])
+    string(FIND \"\${source}\" [[${CMAKE_CURRENT_BINARY_DIR}/]] place)
+    if(EXISTS \"\${source}\" AND NOT (place EQUAL 0 OR source MATCHES \"_autogen/|/qrc_[^/]*$\"))
+        string(APPEND lines \"\${source}\\n\")
+    endif()
+endforeach()
+foreach(stamp IN ITEMS [[$<JOIN:${stamps},]] [[>]])
+    string(REGEX REPLACE \"stamp$\" \"cpp\" source \"\${stamp}\")
+    string(APPEND lines \"\${source}\\n\")
+endforeach()
+file(WRITE [[${directory}/sources.txt]] \"\${lines}\")
+")
     foreach(ts IN LISTS ts_files)
         get_filename_component(ts_directory "${ts}" DIRECTORY)
         list(APPEND make_directories COMMAND ${CMAKE_COMMAND} -E make_directory "${ts_directory}")
@@ -198,8 +214,9 @@ macro(_kelto_add_lupdate)
     # Places in generated files would change with every item.
     add_custom_target(${name}_lupdate
         ${make_directories}
+        COMMAND ${CMAKE_COMMAND} -P "${directory}/sources.cmake"
         COMMAND ${utf8} $<TARGET_FILE:Qt5::lupdate> "@${directory}/sources.txt" -locations none -ts ${ts_files}
-        DEPENDS "${stamp}"
+        DEPENDS "${stamps}"
         WORKING_DIRECTORY "${CMAKE_CURRENT_SOURCE_DIR}"
         COMMENT "Collecting the texts of ${target}"
         VERBATIM)

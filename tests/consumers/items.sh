@@ -174,9 +174,30 @@ check_embed() {
     expect_nothing_to_do
 }
 
+# Nothing is built yet, and some files of the target cannot be read before that.
+check_first_lupdate() {
+    write_item items/spring.ini Spring
+    write_project 'ITEMS "items/beam 梁.ini"' TRANSLATIONS zh_CN
+    cat >>CMakeLists.txt <<END
+kelto_add_items(host NAME more ITEMS items/spring.ini EMBED)
+add_custom_command(OUTPUT made.cpp COMMAND \${CMAKE_COMMAND} -E touch made.cpp)
+target_sources(host PRIVATE made.cpp)
+set_target_properties(host PROPERTIES AUTOMOC ON)
+END
+    quietly cmake -S . -B build -G "$generator" -DCMAKE_PREFIX_PATH="$prefix"
+    quietly cmake --build build --target keltoitems_lupdate
+    local text
+    for text in Beam Spring; do
+        grep -q "<source>$text</source>" translations/host_zh_CN.ts ||
+            fail "'$text' was not collected before the first build."
+    done
+    rm -r build translations
+}
+
 # One .ts file holds the texts of items and of their hints, whichever way they come in.
 check_translations() {
     start_host
+    check_first_lupdate
     write_project 'ITEMS "items/beam 梁.ini"' TRANSLATIONS zh_CN
     first_build
     quietly cmake --build build --target keltoitems_lupdate
