@@ -17,6 +17,8 @@ function(kelto_add_items target)
         string(MAKE_C_IDENTIFIER "${target}_items" name)
         string(REGEX REPLACE "__+" "_" name ${name})
     endif()
+    _kelto_check_name(NAME "${name}" "^[A-Za-z_][A-Za-z0-9_]*$")
+    _kelto_check_name(CONTEXT "${arg_CONTEXT}" "^([A-Za-z_][A-Za-z0-9_]*(::[A-Za-z_][A-Za-z0-9_]*)*)?$")
     set(directory ${CMAKE_CURRENT_BINARY_DIR}/${name})
     # Without a locale, Qt's tools would not find files with other than English letters.
     set(utf8)
@@ -41,6 +43,9 @@ endfunction()
 # Adds a test that fails where "kelto lint" finds something in these files or directories.
 function(kelto_lint_test name)
     _kelto_require_command(kelto_lint_test)
+    if(NOT ARGN)
+        message(FATAL_ERROR "kelto_lint_test needs at least one file or directory.")
+    endif()
     set(paths)
     foreach(path IN LISTS ARGN)
         get_filename_component(path "${path}" ABSOLUTE)
@@ -85,6 +90,13 @@ function(_kelto_check_arguments function target items unknown)
     endforeach()
 endfunction()
 
+# The command knows all names that cannot be used. This is about mistakes in the call.
+function(_kelto_check_name argument value pattern)
+    if(NOT value MATCHES "${pattern}")
+        message(FATAL_ERROR "kelto_add_items: ${argument} cannot be \"${value}\" in C++.")
+    endif()
+endfunction()
+
 # The beginning of a command line. An installed tree may lie anywhere, and nothing in it says where.
 function(_kelto_command variable)
     set(command $<TARGET_FILE:Kelto::kelto>)
@@ -109,6 +121,24 @@ macro(_kelto_add_sources)
         SKIP_UNITY_BUILD_INCLUSION ON)
 endmacro()
 
+# The settings of the check, which lie beside an item or above it. One that is removed is no error.
+macro(_kelto_find_lint_settings)
+    set(settings)
+    foreach(item IN LISTS items)
+        get_filename_component(above "${item}" DIRECTORY)
+        set(below)
+        while(NOT above STREQUAL below)
+            if(EXISTS "${above}/.kelto-lint.ini")
+                list(APPEND settings "${above}/.kelto-lint.ini")
+            endif()
+            set(below "${above}")
+            get_filename_component(above "${above}" DIRECTORY)
+        endwhile()
+    endforeach()
+    list(REMOVE_DUPLICATES settings)
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${settings})
+endmacro()
+
 # The generated files are written only when they change, so that they can be older than the items:
 # what is up to date tells the stamp.
 macro(_kelto_generate_items)
@@ -121,9 +151,10 @@ macro(_kelto_generate_items)
     if(arg_CONTEXT)
         list(APPEND options --context ${arg_CONTEXT})
     endif()
-    # Removing an item makes none of the others newer; it does change this list of them.
+    _kelto_find_lint_settings()
+    # Removing a file makes none of the others newer; it does change this list of them.
     set(list ${directory}/items.txt)
-    string(REPLACE ";" "\n" lines "${items};${options}")
+    string(REPLACE ";" "\n" lines "${items};${settings};${options}")
     file(GENERATE OUTPUT "${list}" CONTENT "${lines}\n")
     _kelto_command(kelto)
     set(resources)
@@ -134,7 +165,7 @@ macro(_kelto_generate_items)
         BYPRODUCTS ${generated} ${resources}
         COMMAND ${kelto} code -o "${directory}" --name ${name} ${options} -- ${items}
         COMMAND ${CMAKE_COMMAND} -E touch "${stamp}"
-        DEPENDS ${items} "${list}" Kelto::kelto
+        DEPENDS ${items} ${settings} "${list}" Kelto::kelto
         COMMENT "Checking the module items of ${target}"
         VERBATIM)
     _kelto_add_sources("${stamp}" ${generated})
@@ -160,6 +191,7 @@ macro(_kelto_translate_items)
     set(ts_files)
     set(qm_files)
     set(files)
+    set(languages)
     foreach(ts IN LISTS arg_TRANSLATIONS)
         if(NOT ts MATCHES "\\.ts$")
             set(ts translations/${target}_${ts}.ts)
@@ -172,12 +204,20 @@ macro(_kelto_translate_items)
             continue()
         endif()
         get_filename_component(language "${ts}" NAME_WLE)
+        list(FIND languages "${language}" place)
+        if(NOT place EQUAL -1)
+            message(FATAL_ERROR "kelto_add_items: two files of TRANSLATIONS are called "
+                "\"${language}.ts\", and would have the same name in the program.")
+        endif()
+        list(APPEND languages "${language}")
         set(qm ${directory}/${language}.qm)
         add_custom_command(OUTPUT "${qm}"
             COMMAND ${utf8} $<TARGET_FILE:Qt5::lrelease> -silent "${ts}" -qm "${qm}"
             DEPENDS "${ts}"
             VERBATIM)
         list(APPEND qm_files "${qm}")
+        string(REPLACE "&" "&amp;" language "${language}")
+        string(REPLACE "<" "&lt;" language "${language}")
         string(APPEND files "<file>${language}.qm</file>")
     endforeach()
     set(translations ${directory}/${name}_translations.qrc)

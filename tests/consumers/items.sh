@@ -129,10 +129,28 @@ check_change() {
     expect_nothing_to_do
 }
 
+# Its severities are settings beside the items and above them.
+check_settings() {
+    local settings=items/.kelto-lint.ini
+    printf '[Rules]\n' >"$settings"
+    quietly cmake -S . -B build
+    quietly cmake --build build
+    changed >/dev/null
+    expect_nothing_to_do
+    printf '[no section]\n' >"$settings"
+    if cmake --build build >log 2>&1; then
+        fail "settings have changed, and the items were not checked again."
+    fi
+    rm "$settings"
+    expect_changed keltoitems.stamp
+    expect_nothing_to_do
+}
+
 # Everything that can become of an item. Its function is in the header.
 check_life() {
     local second="items/spring 弹簧.ini"
     check_change
+    check_settings
 
     write_item "$second" Spring
     sed -i 's/^Tr_ObjectName=.*/&\ncodeFunctionName=spring/' "$second"
@@ -239,6 +257,13 @@ check_mistakes() {
     expect_refused 'there is no file' ITEMS items/none.ini
     expect_refused 'there is no file' ITEMS items
     expect_refused 'takes no "EMBEDDED"' 'EMBEDDED ITEMS "items/beam 梁.ini"'
+    expect_refused 'NAME cannot be "a b"' 'ITEMS "items/beam 梁.ini" NAME "a b"'
+    expect_refused 'CONTEXT cannot be "A::"' 'ITEMS "items/beam 梁.ini" CONTEXT A::'
+    mkdir one two
+    echo '<TS version="2.1"/>' | tee one/same.ts >two/same.ts
+    expect_refused 'called "same.ts"' 'ITEMS "items/beam 梁.ini" TRANSLATIONS one/same.ts two/same.ts'
+    expect_refused 'at least one file or directory' 'ITEMS "items/beam 梁.ini")' \
+        $'\n' 'kelto_lint_test(items'
     mkdir ../elsewhere
     cp -r "$prefix" ../elsewhere/package
     find ../elsewhere/package -name 'KeltoToolsTargets*' -delete
@@ -251,6 +276,20 @@ check_mistakes() {
     echo 'kelto_add_items(host ITEMS ../items/none.ini)' >sub/CMakeLists.txt
     if cmake -S . -B build -DCMAKE_PREFIX_PATH="$prefix" >log 2>&1; then
         fail "a target of another directory was accepted."
+    fi
+}
+
+# A warning fails the test.
+check_lint_test() {
+    start_host
+    write_project 'ITEMS "items/beam 梁.ini"'
+    printf 'enable_testing()\nkelto_lint_test(sound items "items/beam 梁.ini")\n' >>CMakeLists.txt
+    quietly cmake -S . -B build -DCMAKE_PREFIX_PATH="$prefix"
+    (cd build && quietly ctest -R sound)
+    sed -i '2i host=1' "items/beam 梁.ini"
+    if (cd build && ctest -V) >log 2>&1 || ! grep -q 'warning: ' log; then
+        cat log
+        fail "an item with a warning has passed."
     fi
 }
 
@@ -347,6 +386,6 @@ make)
     generator="Unix Makefiles"
     check_change
     ;;
-mistakes | subproject | qmake | meson | pre-commit) "check_$what" ;;
+mistakes | lint_test | subproject | qmake | meson | pre-commit) "check_$what" ;;
 *) fail "no such check." ;;
 esac
