@@ -178,7 +178,8 @@ private Q_SLOTS:
                  QStringList({ "degC", "K" }));
     }
 
-    /// Even of names, units and texts that item files or source text do not allow.
+    /// Even of names, units and texts that item files do not allow. Values are not changed for
+    /// source text.
     void makesFilesWithoutFindings_data()
     {
         QTest::addColumn<QByteArray>("bytes");
@@ -204,8 +205,10 @@ private Q_SLOTS:
         QCOMPARE(lossOf(item, text).fields, QStringList());
         QVERIFY(writeFile("item.ini", text));
         const Findings findings = findingsIn(ItemFile("item.ini"));
-        for (const Finding &finding : findings)
-            QFAIL(qPrintable(finding.rule + ": " + finding.text + '\n' + text));
+        for (const Finding &finding : findings) {
+            if (finding.rule != "text-in-code")
+                QFAIL(qPrintable(finding.rule + ": " + finding.text + '\n' + text));
+        }
     }
 
     void leavesOutWhatContradictsItself()
@@ -219,7 +222,7 @@ private Q_SLOTS:
         QStringList names;
         for (const LeftOut &each : qAsConst(leftOut))
             names.append(each.what);
-        QCOMPARE(names, QStringList({ "Default.x", "Min.x", "Max.x" }));
+        QCOMPARE(names, QStringList({ "fmiVersion", "Default.x", "Min.x", "Max.x" }));
     }
 
     void survivesHostileModels_data()

@@ -10,6 +10,7 @@
 #include "outputfile.h"
 
 #include <QCommandLineParser>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 
@@ -28,6 +29,9 @@ struct Source
 QString formatOf(const QByteArray &bytes)
 {
     const QByteArray text = (bytes.startsWith("\xef\xbb\xbf") ? bytes.mid(3) : bytes).trimmed();
+    // UTF-16, in which only XML can be read.
+    if (bytes.startsWith("\xff\xfe") || bytes.startsWith("\xfe\xff"))
+        return QStringLiteral("fmi");
     if (bytes.startsWith("PK\3\4"))
         return QStringLiteral("fmu");
     if (text.startsWith('{'))
@@ -55,9 +59,6 @@ Source sourceIn(const ItemFile &file)
         source.item = itemOf(model, &source.leftOut);
     } else if (source.format == QLatin1String("fmu")) {
         source.error = Command::tr("take modelDescription.xml out of this archive first.");
-    } else if (!file.find(QStringLiteral("KeltoItem"), QStringLiteral("name"))) {
-        source.error = Command::tr("there is no item in it: neither \"name\" in the section "
-                                   "\"KeltoItem\", nor JSON, nor a model description.");
     } else {
         source.item = file.item();
     }
@@ -115,6 +116,13 @@ bool report(const Source &source, const QByteArray &text, const QCommandLinePars
     return true;
 }
 
+/// Also by another name or a link.
+bool isSameFile(const QString &path, const QString &other)
+{
+    const QString real = QFileInfo(other).canonicalFilePath();
+    return !real.isEmpty() && real == QFileInfo(path).canonicalFilePath();
+}
+
 ExitCode run(const QCommandLineParser &line, Console &console)
 {
     const QString to = line.value(QStringLiteral("to"));
@@ -124,9 +132,16 @@ ExitCode run(const QCommandLineParser &line, Console &console)
     }
     const QString path = line.positionalArguments().constFirst();
     const ItemFile file(path);
-    if (!file.error().isEmpty()) {
-        console.complain(file.error());
+    const bool isIni = formatOf(file.bytes()) == QLatin1String("ini");
+    const QString complaint = isIni ? file.whyNoModule() : file.error();
+    if (!complaint.isEmpty()) {
+        console.complain(complaint);
         return Found;
+    }
+    if (isSameFile(path, line.value(QStringLiteral("output")))) {
+        console.complain(
+            Command::tr("%1: is the file that is read: name another one to write.").arg(path));
+        return WrongUsage;
     }
     Source source = sourceIn(file);
     const bool isJson
@@ -155,7 +170,8 @@ Command convertCommand()
                  "every field of an item, also translated texts, which an item file cannot.\n\n"
                  "Of a model, parameters and inputs become parameters, outputs become results, and "
                  "each kind of simulation a mode; units, start values, limits, enumerations and "
-                 "descriptions are taken over. Everything that has no place is listed."),
+                 "descriptions are taken over. What has no place is listed, but for the base units "
+                 "and the capabilities of the library."),
              { { { QStringLiteral("o"), QStringLiteral("output") },
                  "FILE",
                  QT_TRANSLATE_NOOP("Command", "Write this file in place of the standard output.") },

@@ -4,9 +4,9 @@
 #include "itemfile.h"
 
 #include "command.h"
+#include "itempaths.h"
 
 #include <QFile>
-#include <QFileInfo>
 
 #include <algorithm>
 #include <iterator>
@@ -27,18 +27,23 @@ std::string_view trimmed(std::string_view text)
 ItemFile::ItemFile(const QString &path)
     : m_path(path)
 {
+    m_error = whyUnreadable(path);
     QFile file(path);
-    // Opening a pipe would wait for somebody who writes.
-    if (!QFileInfo(path).isFile()) {
-        m_error = Command::tr("%1: no such file.").arg(path);
-    } else if (!file.open(QIODevice::ReadOnly)) {
-        m_error = Command::tr("%1: cannot be read: %2.").arg(path, file.errorString());
-    } else {
+    if (m_error.isEmpty() && file.open(QIODevice::ReadOnly)) {
         m_bytes = file.readAll();
         readLines();
         readKeys();
         m_item.load_ini(path);
     }
+}
+
+QString ItemFile::whyNoModule() const
+{
+    if (!m_error.isEmpty() || !m_item.name.isEmpty())
+        return m_error;
+    return Command::tr("%1: holds no module: the section \"KeltoItem\" with a \"name\" is "
+                       "missing. \"kelto lint\" says more.")
+        .arg(m_path);
 }
 
 void ItemFile::readLines()

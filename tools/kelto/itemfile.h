@@ -42,6 +42,8 @@ public:
     const QString &path() const { return m_path; }
     /// Why the file cannot be read, as a sentence; empty when it could.
     const QString &error() const { return m_error; }
+    /// Why there is no module to work with, as a sentence: the error, or that there is none in it.
+    QString whyNoModule() const;
     const QByteArray &bytes() const { return m_bytes; }
     const AUTH_INF &item() const { return m_item; }
 

@@ -23,6 +23,11 @@ QStringList itemFilesBelow(const QString &directory)
     return files;
 }
 
+QString noSuchFile(const QString &path)
+{
+    return Command::tr("%1: no such file.").arg(path);
+}
+
 } // namespace
 
 QStringList itemFilesAt(const QStringList &paths, Console &console, bool *areAllFound)
@@ -37,7 +42,7 @@ QStringList itemFilesAt(const QStringList &paths, Console &console, bool *areAll
             *areAllFound = false;
             console.complain(info.isDir()
                                  ? Command::tr("%1: no file below it ends in \".ini\".").arg(path)
-                                 : Command::tr("%1: no such file.").arg(path));
+                                 : noSuchFile(path));
         }
         files += found;
     }
@@ -48,8 +53,11 @@ QStringList itemFilesAt(const QStringList &paths, Console &console, bool *areAll
 QString whyUnreadable(const QString &path)
 {
     // Opening a pipe would wait for somebody who writes.
-    if (!QFileInfo(path).isFile())
-        return Command::tr("%1: no such file.").arg(path);
+    const QFileInfo info(path);
+    if (!info.exists())
+        return noSuchFile(path);
+    if (!info.isFile())
+        return Command::tr("%1: is not a regular file.").arg(path);
     QFile file(path);
     return file.open(QIODevice::ReadOnly)
         ? QString()

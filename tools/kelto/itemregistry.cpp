@@ -12,10 +12,11 @@ QVector<ItemFile> readItemFiles(const QStringList &paths, Console &console, bool
     const QStringList found = itemFilesAt(paths, console, areAllRead);
     for (const QString &path : found) {
         const ItemFile file(path);
-        if (file.error().isEmpty()) {
+        const QString complaint = file.whyNoModule();
+        if (complaint.isEmpty()) {
             files.append(file);
         } else {
-            console.complain(file.error());
+            console.complain(complaint);
             *areAllRead = false;
         }
     }

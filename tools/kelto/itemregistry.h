@@ -13,8 +13,8 @@
 
 class Console;
 
-/// The item files at @p paths, which may be directories. Complains about what is not there or
-/// cannot be read, and tells in @p areAllRead whether there was no such thing.
+/// The item files at @p paths, which may be directories. Complains about what is not there,
+/// cannot be read or holds no module, and tells in @p areAllRead whether there was no such thing.
 QVector<ItemFile> readItemFiles(const QStringList &paths, Console &console, bool *areAllRead);
 
 /// The registry of the application @p name with the items of @p files. Nothing is written, unlike

@@ -3,9 +3,9 @@
 
 #include "commands.h"
 #include "console.h"
+#include "itempaths.h"
 
 #include <QCommandLineParser>
-#include <QFileInfo>
 #include <QJsonObject>
 #include <VIniSettings>
 
@@ -15,8 +15,9 @@ ExitCode run(const QCommandLineParser &line, Console &console)
 {
     const QString path = line.positionalArguments().constFirst();
     // The store would create a file that is missing.
-    if (!QFileInfo(path).isFile()) {
-        console.complain(Command::tr("%1: no such file.").arg(path));
+    const QString complaint = whyUnreadable(path);
+    if (!complaint.isEmpty()) {
+        console.complain(complaint);
         return Found;
     }
     const QString sheet = VIniSettings(path).styleSheetFormat();

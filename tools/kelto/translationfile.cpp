@@ -4,6 +4,7 @@
 #include "translationfile.h"
 
 #include "command.h"
+#include "itempaths.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -51,15 +52,10 @@ Message readMessage(QXmlStreamReader &xml)
 TranslationFile::TranslationFile(const QString &path)
     : m_path(path)
 {
+    m_error = whyUnreadable(path);
     QFile file(path);
-    if (!QFileInfo(path).isFile()) {
-        m_error = Command::tr("%1: no such file.").arg(path);
+    if (!m_error.isEmpty() || !file.open(QIODevice::ReadOnly))
         return;
-    }
-    if (!file.open(QIODevice::ReadOnly)) {
-        m_error = Command::tr("%1: cannot be read: %2.").arg(path, file.errorString());
-        return;
-    }
     if (path.endsWith(QLatin1String(".ts")))
         readEdited(file.readAll());
     else

@@ -14,8 +14,8 @@
 
 namespace {
 
-/// A text that an item file and source text can hold.
-QString carried(const QString &text)
+/// A text that can be a name or a key wherever the item goes.
+QString plainName(const QString &text)
 {
     QString plain;
     const QString simplified = text.simplified();
@@ -51,6 +51,16 @@ QString objectNameOf(const QString &kind, bool isArray)
     return word;
 }
 
+bool isArray(const FmiVariable &variable)
+{
+    return variable.dimensions > 0;
+}
+
+bool isTrue(const QString &text)
+{
+    return text == QLatin1String("true") || text == QLatin1String("1");
+}
+
 class ItemMaker
 {
 public:
@@ -58,6 +68,7 @@ public:
         : m_model(model)
         , m_leftOut(leftOut)
     {
+        *m_leftOut += model.leftOut;
     }
 
     AUTH_INF item()
@@ -70,6 +81,7 @@ public:
             entries = m_parameters;
         writeExtraKeys();
         dropContradictions();
+        listUnsaved();
         return m_item;
     }
 
@@ -79,7 +91,7 @@ private:
     void writeIdentity()
     {
         m_item = AUTH_INF();
-        QString name = carried(m_model.attributes.value(QStringLiteral("modelName")));
+        QString name = plainName(m_model.attributes.value(QStringLiteral("modelName")));
         name = name.replace(QLatin1Char(':'), QLatin1Char(' ')).simplified();
         if (!complaintOnName(name).isEmpty())
             name = QStringLiteral("Model");
@@ -87,7 +99,7 @@ private:
             leaveOut(QStringLiteral("modelName"),
                      Command::tr("The module is named \"%1\".").arg(name));
         m_item.name = m_item.name_tr = name;
-        m_item.description = carried(m_model.attributes.value(QStringLiteral("description")));
+        m_item.description = m_model.attributes.value(QStringLiteral("description"));
         m_item.type = m_item.type_tr = QStringLiteral("calculation");
         m_item.group = m_item.group_tr = QStringLiteral("FMI");
         m_item.exclusive_group = true;
@@ -104,7 +116,7 @@ private:
                 continue;
             m_item.inner_mode_nameList.append(interface.first);
             m_item.inner_mode_description.append(m_item.description);
-            const QString library = carried(interface.second);
+            const QString &library = interface.second;
             if (!library.isEmpty() && !m_item.lib_name.contains(library))
                 m_item.lib_name.append(library);
         }
@@ -132,12 +144,14 @@ private:
             { "generationDateAndTime", "Generated" },
         };
         for (const auto &name : names) {
-            QString text = carried(m_model.attributes.value(QLatin1String(name.first)));
+            QString text = m_model.attributes.value(QLatin1String(name.first));
             bool isNumber = false;
             text.toDouble(&isNumber);
             // In source text it would become that number, and 1.10 the same as 1.1.
-            if (isNumber)
+            if (isNumber) {
                 text.prepend(QLatin1Char('v'));
+                leaveOut(QLatin1String(name.first), Command::tr("It becomes \"%1\".").arg(text));
+            }
             if (!text.isEmpty())
                 m_item.extraKey.append({ QLatin1String(name.second), text });
         }
@@ -156,13 +170,14 @@ private:
         takeOver(&type.displayUnit, declared.displayUnit);
         takeOver(&type.min, declared.min);
         takeOver(&type.max, declared.max);
+        takeOver(&type.relativeQuantity, declared.relativeQuantity);
         type.choices = declared.choices;
         return type;
     }
 
     void add(const FmiVariable &variable)
     {
-        const QString objectName = objectNameOf(variable.type.kind, variable.isArray);
+        const QString objectName = objectNameOf(variable.type.kind, isArray(variable));
         const bool isParameter = variable.causality == QLatin1String("parameter")
             || variable.causality == QLatin1String("structuralParameter")
             || variable.causality == QLatin1String("input");
@@ -173,8 +188,8 @@ private:
         } else if (objectName.isEmpty()) {
             leaveOut(variable.name,
                      Command::tr("No form can show the type %1.")
-                         .arg(variable.isArray ? variable.type.kind + QLatin1String("[]")
-                                               : variable.type.kind));
+                         .arg(isArray(variable) ? variable.type.kind + QLatin1String("[]")
+                                                : variable.type.kind));
         } else {
             addEntry(variable, objectName, isParameter);
         }
@@ -184,32 +199,61 @@ private:
     {
         const QString key = keyFor(variable.name);
         const FmiType type = typeOf(variable);
-        const QString second = carried(type.unit);
-        const QString unit = convertsTo(type) ? carried(type.displayUnit) : second;
+        const QString unit = convertsTo(type) ? type.displayUnit : type.unit;
         const QString group = isParameter ? variable.causality == QLatin1String("input")
                 ? QStringLiteral("Inputs")
                 : QStringLiteral("Parameters")
                                           : QStringLiteral("Outputs");
         const QStringList entry { group,      key,
-                                  objectName, QLatin1String(variable.isArray ? "true" : "false"),
-                                  unit,       second,
+                                  objectName, QLatin1String(isArray(variable) ? "true" : "false"),
+                                  unit,       type.unit,
                                   QString(),  key,
                                   group };
-        if (isParameter) {
+        leaveOutPartsOf(variable, type);
+        if (isParameter)
             m_parameters.append(entry);
-            addHints(key, variable, type);
-        } else {
+        else
             m_item.output_results.append(entry);
-        }
+        if (isParameter)
+            addDefault(key, variable, type);
+        else if (!variable.starts.isEmpty())
+            leaveOutAttribute(variable, "start", noPlaceText());
+        addHints(key, variable, type);
         if (key != variable.name)
-            addHint("Label", key, carried(variable.name));
-        addHint("Help", key, carried(variable.description));
+            addHint("Label", key, variable.name);
+        addHint("Help", key, variable.description);
+    }
+
+    void leaveOutAttribute(const FmiVariable &variable, const char *name, const QString &why)
+    {
+        leaveOut(variable.name + QLatin1String("/@") + QLatin1String(name), why);
+    }
+
+    void leaveOutPartsOf(const FmiVariable &variable, const FmiType &type)
+    {
+        for (const QString &name : variable.unused)
+            leaveOutAttribute(variable, name.toLatin1().constData(), noPlaceText());
+        if (!variable.typeName.isEmpty() && !m_model.types.contains(variable.typeName))
+            leaveOutAttribute(variable, "declaredType",
+                              Command::tr("There is no type \"%1\".").arg(variable.typeName));
+        if (!type.displayUnit.isEmpty() && !convertsTo(type))
+            leaveOutAttribute(variable, "displayUnit", whyNotShown(type));
+        if (variable.dimensions > 1)
+            leaveOut(variable.name,
+                     Command::tr("Its %1 dimensions become one.").arg(variable.dimensions));
+    }
+
+    QString whyNotShown(const FmiType &type) const
+    {
+        return m_model.displayUnits.contains({ type.unit, type.displayUnit })
+            ? Command::tr("No number can be shown in \"%1\".").arg(type.displayUnit)
+            : Command::tr("\"%1\" is no display unit of \"%2\".").arg(type.displayUnit, type.unit);
     }
 
     /// The name without what keys and hints give a meaning to, and different from all others.
     QString keyFor(const QString &name)
     {
-        QString key = carried(name);
+        QString key = plainName(name);
         for (QChar &character : key) {
             if (QStringLiteral("/|=;@%").contains(character))
                 character = QLatin1Char('_');
@@ -242,7 +286,8 @@ private:
         if (!isNumber || !convertsTo(type))
             return text;
         const FmiDisplayUnit display = m_model.displayUnits.value({ type.unit, type.displayUnit });
-        return QString::number(display.factor * number + display.offset, 'g', 15);
+        const double offset = isTrue(type.relativeQuantity) ? 0 : display.offset;
+        return QString::number(display.factor * number + offset, 'g', 15);
     }
 
     void addHint(const char *word, const QString &key, const QString &text)
@@ -253,29 +298,76 @@ private:
 
     void addHints(const QString &key, const FmiVariable &variable, const FmiType &type)
     {
-        addHint("Default", key, defaultOf(variable, type));
         addHint("Min", key, shown(type.min, type));
         addHint("Max", key, shown(type.max, type));
+        if (variable.type.kind != QLatin1String("Enumeration"))
+            return;
         QStringList choices;
         for (const auto &choice : type.choices)
-            choices.append(choice.first + QLatin1Char('=')
-                           + carried(choice.second).replace(QLatin1Char('|'), QLatin1Char('/')));
-        if (variable.type.kind == QLatin1String("Enumeration"))
-            addHint("Choices", key, choices.join(QLatin1Char('|')));
+            choices.append(choice.first + QLatin1Char('=') + labelOf(variable, choice.second));
+        addHint("Choices", key, choices.join(QLatin1Char('|')));
     }
 
-    QString defaultOf(const FmiVariable &variable, const FmiType &type) const
+    /// The name without what divides choices.
+    QString labelOf(const FmiVariable &variable, const QString &name)
     {
-        if (variable.type.kind == QLatin1String("Boolean")) {
-            const bool isTrue
-                = variable.start == QLatin1String("true") || variable.start == QLatin1String("1");
-            return variable.start.isEmpty() ? QString() : QLatin1String(isTrue ? "true" : "false");
-        }
-        if (variable.type.kind == QLatin1String("String"))
-            return carried(variable.start);
-        if (!variable.isArray)
-            return shown(variable.start, type);
-        QStringList numbers = variable.start.simplified().split(QLatin1Char(' '));
+        QString label = name;
+        label.replace(QLatin1Char('|'), QLatin1Char('/'));
+        label = label.trimmed();
+        if (label != name)
+            leaveOut(variable.name + QLatin1Char('/') + name,
+                     Command::tr("It becomes \"%1\".").arg(label));
+        return label;
+    }
+
+    void addDefault(const QString &key, const FmiVariable &variable, const FmiType &type)
+    {
+        if (variable.starts.isEmpty())
+            return;
+        const QString &start = variable.starts.constFirst();
+        const QString &kind = variable.type.kind;
+        if (kind == QLatin1String("Boolean"))
+            addFlag(key, variable);
+        else if (kind == QLatin1String("String") && isArray(variable))
+            addTexts(key, variable);
+        else if (kind == QLatin1String("String"))
+            m_item.extraKey.append({ QLatin1String("Default.") + key, start });
+        else if (isArray(variable))
+            addHint("Default", key, shownNumbers(start, type));
+        else
+            addHint("Default", key, shown(start, type));
+    }
+
+    void addFlag(const QString &key, const FmiVariable &variable)
+    {
+        const QString &start = variable.starts.constFirst();
+        if (isTrue(start))
+            addHint("Default", key, QStringLiteral("true"));
+        else if (start == QLatin1String("false") || start == QLatin1String("0"))
+            addHint("Default", key, QStringLiteral("false"));
+        else
+            leaveOutAttribute(variable, "start",
+                              Command::tr("\"%1\" is neither \"true\" nor \"false\".").arg(start));
+    }
+
+    void addTexts(const QString &key, const FmiVariable &variable)
+    {
+        const bool areKept
+            = std::all_of(variable.starts.cbegin(), variable.starts.cend(),
+                          [](const QString &text) {
+                              return !text.contains(QLatin1Char(';')) && text == text.trimmed();
+                          });
+        if (areKept)
+            addHint("Default", key, variable.starts.join(QLatin1Char(';')));
+        else
+            leaveOutAttribute(variable, "start",
+                              Command::tr("A text among several holds \";\", or white space at "
+                                          "one of its ends."));
+    }
+
+    QString shownNumbers(const QString &start, const FmiType &type) const
+    {
+        QStringList numbers = start.simplified().split(QLatin1Char(' '));
         for (QString &number : numbers)
             number = shown(number, type);
         return numbers.join(QLatin1Char(';'));
@@ -299,6 +391,21 @@ private:
         m_item.extraKey.erase(std::remove_if(m_item.extraKey.begin(), m_item.extraKey.end(),
                                              isDropped),
                               m_item.extraKey.end());
+    }
+
+    /// What lies beyond 16 bits is read from files, but no setting is saved with it.
+    void listUnsaved()
+    {
+        const auto list = [this](const QString &what, const QString &text) {
+            if (std::any_of(text.cbegin(), text.cend(),
+                            [](QChar character) { return character.isSurrogate(); }))
+                leaveOut(what,
+                         Command::tr("A character of it is read, but gone when the library "
+                                     "saves the file."));
+        };
+        list(QStringLiteral("/@description"), m_item.description);
+        for (const VDataItem &extra : qAsConst(m_item.extraKey))
+            list(extra.key, extra.value.toString());
     }
 
     const FmiModel &m_model;

@@ -21,6 +21,24 @@ void readLimits(const QXmlStreamReader &xml, FmiType *type)
     type->displayUnit = attribute(xml, "displayUnit");
     type->min = attribute(xml, "min");
     type->max = attribute(xml, "max");
+    type->relativeQuantity = attribute(xml, "relativeQuantity");
+}
+
+/// Those of the attributes of a type or a variable that an item has no place for.
+QStringList unusedIn(const QXmlStreamReader &xml)
+{
+    QStringList unused;
+    for (const char *name : { "quantity", "nominal", "unbounded" }) {
+        if (xml.attributes().hasAttribute(QLatin1String(name)))
+            unused.append(QLatin1String(name));
+    }
+    return unused;
+}
+
+/// How a part of the file is called in messages, like in XPath.
+QString attributeOf(const QString &owner, const QString &name)
+{
+    return owner + QLatin1String("/@") + name;
 }
 
 class ModelReader
@@ -39,9 +57,7 @@ public:
                 : Command::tr("the root is not \"fmiModelDescription\".");
             return m_model;
         }
-        const QXmlStreamAttributes attributes = m_xml.attributes();
-        for (const QXmlStreamAttribute &each : attributes)
-            m_model.attributes.insert(each.name().toString(), each.value().toString());
+        readRoot();
         const QString version = attribute(m_xml, "fmiVersion");
         if (!version.startsWith(QLatin1String("2.")) && !version.startsWith(QLatin1String("3."))) {
             m_model.error
@@ -50,6 +66,8 @@ public:
         }
         while (m_xml.readNextStartElement())
             readPart();
+        while (!m_xml.atEnd())
+            m_xml.readNext();
         if (m_xml.hasError())
             m_model.error = errorText();
         return m_model;
@@ -62,6 +80,33 @@ private:
         if (reason.endsWith(QLatin1Char('.')) || reason.endsWith(QChar(0x3002))) // 。
             reason.chop(1);
         return Command::tr("line %1: %2.").arg(m_xml.lineNumber()).arg(reason);
+    }
+
+    void leaveOut(const QString &what) { m_model.leftOut.append({ what, noPlaceText() }); }
+
+    void readRoot()
+    {
+        static const QStringList known {
+            QStringLiteral("modelName"),
+            QStringLiteral("description"),
+            QStringLiteral("fmiVersion"),
+            QStringLiteral("guid"),
+            QStringLiteral("version"),
+            QStringLiteral("instantiationToken"),
+            QStringLiteral("author"),
+            QStringLiteral("copyright"),
+            QStringLiteral("license"),
+            QStringLiteral("generationTool"),
+            QStringLiteral("generationDateAndTime"),
+        };
+        const QXmlStreamAttributes attributes = m_xml.attributes();
+        for (const QXmlStreamAttribute &each : attributes) {
+            const QString name = each.qualifiedName().toString();
+            m_model.attributes.insert(name, each.value().toString());
+            // Those with a prefix are about the file.
+            if (each.prefix().isEmpty() && !known.contains(name))
+                leaveOut(attributeOf(QString(), name));
+        }
     }
 
     void readPart()
@@ -82,6 +127,8 @@ private:
             if (modes.contains(part))
                 m_model.interfaces.append(
                     { modes.value(part), attribute(m_xml, "modelIdentifier") });
+            else
+                leaveOut(part);
             m_xml.skipCurrentElement();
         }
     }
@@ -119,23 +166,37 @@ private:
     void readType()
     {
         const QString name = attribute(m_xml, "name");
+        leaveOutDescription(name);
         FmiType type;
         if (m_xml.name() == QLatin1String("SimpleType")) {
             while (m_xml.readNextStartElement())
-                readTypeElement(&type);
+                readTypeElement(name, &type);
         } else {
-            readTypeElement(&type);
+            readTypeElement(name, &type);
         }
         m_model.types.insert(name, type);
     }
 
-    void readTypeElement(FmiType *type)
+    /// Of the current element.
+    void leaveOutDescription(const QString &owner)
+    {
+        if (!attribute(m_xml, "description").isEmpty())
+            leaveOut(attributeOf(owner, QStringLiteral("description")));
+    }
+
+    void readTypeElement(const QString &name, FmiType *type)
     {
         type->kind = m_xml.name().toString();
         readLimits(m_xml, type);
+        const QStringList unused = unusedIn(m_xml);
+        for (const QString &each : unused)
+            leaveOut(attributeOf(name, each));
         while (m_xml.readNextStartElement()) {
-            if (m_xml.name() == QLatin1String("Item"))
-                type->choices.append({ attribute(m_xml, "value"), attribute(m_xml, "name") });
+            if (m_xml.name() == QLatin1String("Item")) {
+                const QString item = attribute(m_xml, "name");
+                leaveOutDescription(name + QLatin1Char('/') + item);
+                type->choices.append({ attribute(m_xml, "value"), item });
+            }
             m_xml.skipCurrentElement();
         }
     }
@@ -153,7 +214,7 @@ private:
         } else {
             while (m_xml.readNextStartElement()) {
                 if (m_xml.name() == QLatin1String("Annotations"))
-                    m_xml.skipCurrentElement();
+                    leaveOutElement(variable.name);
                 else
                     readVariableElement(&variable);
             }
@@ -161,19 +222,44 @@ private:
         m_model.variables.append(variable);
     }
 
+    void leaveOutElement(const QString &owner)
+    {
+        leaveOut(owner + QLatin1Char('/') + m_xml.name());
+        m_xml.skipCurrentElement();
+    }
+
     void readVariableElement(FmiVariable *variable)
     {
         variable->type.kind = m_xml.name().toString();
         variable->typeName = attribute(m_xml, "declaredType");
-        variable->start = attribute(m_xml, "start");
+        variable->unused = unusedIn(m_xml);
         readLimits(m_xml, &variable->type);
-        while (m_xml.readNextStartElement()) {
-            if (m_xml.name() == QLatin1String("Dimension"))
-                variable->isArray = true;
-            else if (m_xml.name() == QLatin1String("Start"))
-                variable->start = attribute(m_xml, "value");
-            m_xml.skipCurrentElement();
+        readStart("start", variable);
+        while (m_xml.readNextStartElement())
+            readPartOf(variable);
+    }
+
+    void readStart(const char *name, FmiVariable *variable)
+    {
+        if (m_xml.attributes().hasAttribute(QLatin1String(name)))
+            variable->starts.append(attribute(m_xml, name));
+    }
+
+    void readPartOf(FmiVariable *variable)
+    {
+        if (m_xml.name() == QLatin1String("Dimension")) {
+            ++variable->dimensions;
+        } else if (m_xml.name() == QLatin1String("Start")) {
+            readStart("value", variable);
+        } else if (m_xml.name() == QLatin1String("Alias")) {
+            m_model.leftOut.append(
+                { attribute(m_xml, "name"),
+                  Command::tr("It is another name of \"%1\".").arg(variable->name) });
+        } else {
+            leaveOutElement(variable->name);
+            return;
         }
+        m_xml.skipCurrentElement();
     }
 
     QXmlStreamReader m_xml;
@@ -181,6 +267,11 @@ private:
 };
 
 } // namespace
+
+QString noPlaceText()
+{
+    return Command::tr("An item has no place for it.");
+}
 
 FmiModel fmiModelIn(const QByteArray &bytes)
 {

@@ -10,6 +10,13 @@
 #include <QStringList>
 #include <QVector>
 
+/// Something of a foreign model that the item does not have, or has in another way.
+struct LeftOut
+{
+    QString what;
+    QString why; ///< A sentence.
+};
+
 /// What a variable may be, or a type that several of them share. Empty texts are not there.
 struct FmiType
 {
@@ -18,6 +25,7 @@ struct FmiType
     QString displayUnit;
     QString min;
     QString max;
+    QString relativeQuantity; ///< "true" of differences, which no offset is added to.
     QVector<QPair<QString, QString>> choices; ///< Value and name of an enumeration.
 };
 
@@ -27,9 +35,10 @@ struct FmiVariable
     QString description;
     QString causality;
     QString typeName; ///< Of a declared type.
-    QString start;
-    bool isArray = false;
+    QStringList starts; ///< None without a start; several of an array of texts.
+    int dimensions = 0; ///< Of an array.
     FmiType type;
+    QStringList unused; ///< Names of attributes that an item has no place for.
 };
 
 /// A number in the display unit is factor times that in the unit, plus offset.
@@ -49,7 +58,11 @@ struct FmiModel
     QHash<QString, FmiType> types;
     QHash<QPair<QString, QString>, FmiDisplayUnit> displayUnits; ///< By unit and display unit.
     QVector<FmiVariable> variables;
+    QVector<LeftOut> leftOut; ///< What is not in here.
 };
+
+/// Why something that no item has a place for is left out.
+QString noPlaceText();
 
 /// Entities that are declared in the file itself are limited by Qt, others are not looked up.
 FmiModel fmiModelIn(const QByteArray &bytes);

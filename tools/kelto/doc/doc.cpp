@@ -5,6 +5,7 @@
 #include "console.h"
 #include "doc/manual.h"
 #include "doc/manuallanguage.h"
+#include "itemfile.h"
 #include "itempaths.h"
 #include "nearestname.h"
 #include "outputfile.h"
@@ -100,18 +101,11 @@ bool Run::readItems()
     if (!areAllFound)
         return false;
     for (const QString &path : paths) {
-        // The library takes a file that it cannot read for an empty one.
-        QFile file(path);
-        if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
-            return complain(Command::tr("%1: cannot be read.").arg(path));
-        AUTH_INF item;
-        item.load_ini(path);
-        if (item.name.isEmpty()) {
-            return complain(Command::tr("%1: holds no module: the section \"KeltoItem\" with a "
-                                        "\"name\" is missing. \"kelto lint\" says more.")
-                                .arg(path));
-        }
-        m_manual.items.append(item);
+        const ItemFile file(path);
+        const QString complaint = file.whyNoModule();
+        if (!complaint.isEmpty())
+            return this->complain(complaint);
+        m_manual.items.append(file.item());
     }
     return true;
 }

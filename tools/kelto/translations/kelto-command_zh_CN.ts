@@ -266,10 +266,6 @@ Files are written only when they change. An item that source text cannot carry i
         <translation>请先从此压缩文件中取出 modelDescription.xml。</translation>
     </message>
     <message>
-        <source>there is no item in it: neither &quot;name&quot; in the section &quot;KeltoItem&quot;, nor JSON, nor a model description.</source>
-        <translation>其中没有模块项：既没有“KeltoItem”节中的“name”，也不是 JSON 或模型描述。</translation>
-    </message>
-    <message>
         <source>translated texts</source>
         <translation>译文</translation>
     </message>
@@ -292,10 +288,10 @@ Files are written only when they change. An item that source text cannot carry i
     <message>
         <source>Makes JSON of an item file, and an item file of JSON or of the modelDescription.xml of a Functional Mock-up Unit, version 2 or 3. JSON holds every field of an item, also translated texts, which an item file cannot.
 
-Of a model, parameters and inputs become parameters, outputs become results, and each kind of simulation a mode; units, start values, limits, enumerations and descriptions are taken over. Everything that has no place is listed.</source>
+Of a model, parameters and inputs become parameters, outputs become results, and each kind of simulation a mode; units, start values, limits, enumerations and descriptions are taken over. What has no place is listed, but for the base units and the capabilities of the library.</source>
         <translation>将模块项文件转换为 JSON，或将 JSON 或 Functional Mock-up Unit（版本 2 或 3）的 modelDescription.xml 转换为模块项文件。JSON 含有模块项的所有字段，包括模块项文件不能含有的译文。
 
-对于模型，参数和输入成为参数，输出成为结果，每种仿真方式成为一个模式；单位、初始值、上下限、枚举和说明均予保留。没有对应位置的内容全部列出。</translation>
+对于模型，参数和输入成为参数，输出成为结果，每种仿真方式成为一个模式；单位、初始值、上下限、枚举和说明均予保留。没有对应位置的内容都会列出，但基本单位和库的能力除外。</translation>
     </message>
     <message>
         <source>Write this file in place of the standard output.</source>
@@ -416,10 +412,6 @@ Exit code 1 when projects that were stored with the old version lose something: 
     <message>
         <source>&quot;%1&quot; is no language; write it as &quot;en&quot; or &quot;zh_CN&quot;.</source>
         <translation>“%1”不是语言；请写作“en”或“zh_CN”。</translation>
-    </message>
-    <message>
-        <source>%1: cannot be read.</source>
-        <translation>%1：无法读取。</translation>
     </message>
     <message>
         <source>%1: holds no module: the section &quot;KeltoItem&quot; with a &quot;name&quot; is missing. &quot;kelto lint&quot; says more.</source>
@@ -1981,6 +1973,54 @@ rule and its value one of error, warning and off:
     <message>
         <source> Did you mean &quot;%1&quot;?</source>
         <translation>是否指“%1”？</translation>
+    </message>
+    <message>
+        <source>%1: is not a regular file.</source>
+        <translation>%1：不是普通文件。</translation>
+    </message>
+    <message>
+        <source>%1: is the file that is read: name another one to write.</source>
+        <translation>%1：就是被读取的文件：请指定另一个要写入的文件。</translation>
+    </message>
+    <message>
+        <source>It is another name of &quot;%1&quot;.</source>
+        <translation>它是“%1”的另一个名称。</translation>
+    </message>
+    <message>
+        <source>An item has no place for it.</source>
+        <translation>模块项中没有它的对应位置。</translation>
+    </message>
+    <message>
+        <source>It becomes &quot;%1&quot;.</source>
+        <translation>它成为“%1”。</translation>
+    </message>
+    <message>
+        <source>There is no type &quot;%1&quot;.</source>
+        <translation>没有类型“%1”。</translation>
+    </message>
+    <message>
+        <source>Its %1 dimensions become one.</source>
+        <translation>它的 %1 个维度成为一个。</translation>
+    </message>
+    <message>
+        <source>No number can be shown in &quot;%1&quot;.</source>
+        <translation>无法以“%1”显示数值。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no display unit of &quot;%2&quot;.</source>
+        <translation>“%1”不是“%2”的显示单位。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither &quot;true&quot; nor &quot;false&quot;.</source>
+        <translation>“%1”既不是“true”也不是“false”。</translation>
+    </message>
+    <message>
+        <source>A text among several holds &quot;;&quot;, or white space at one of its ends.</source>
+        <translation>多个文本之一含有“;”，或其首尾有空白。</translation>
+    </message>
+    <message>
+        <source>A character of it is read, but gone when the library saves the file.</source>
+        <translation>其中的一个字符可以读取，但库保存文件时会丢失。</translation>
     </message>
 </context>
 </TS>
