@@ -4,10 +4,12 @@
 #include "hintdiff.h"
 
 #include "command.h"
+#include "core/enteredvalues_p.h"
 
 #include <QLocale>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -59,6 +61,13 @@ bool losesChoice(const QStringList &before, const QStringList &after)
                        [&after](const QString &value) { return !after.contains(value); });
 }
 
+/// Whether @p value is a number of this kind.
+bool isSuch(const QString &value, const ValueKind &kind)
+{
+    const std::optional<double> number = numberOf(value);
+    return number && !kind.isPoint && (!kind.isWhole || std::floor(*number) == *number);
+}
+
 QString conditionText(const KeltoItemHints &hints, const QString &key)
 {
     const QString other = hints.conditionKey(key);
@@ -81,10 +90,14 @@ QVector<HintChange> hintChanges(const DescribedParameter &before, const Describe
     using Hints = KeltoItemHints;
     using Text = QString;
     compare(QT_TRANSLATE_NOOP("Command", "default"), defaultOf);
-    compare(QT_TRANSLATE_NOOP("Command", "minimum"),
-            [](const Hints &hints, const Text &name) { return number(hints.minimum(name)); });
-    compare(QT_TRANSLATE_NOOP("Command", "maximum"),
-            [](const Hints &hints, const Text &name) { return number(hints.maximum(name)); });
+    compare(
+        QT_TRANSLATE_NOOP("Command", "minimum"),
+        [](const Hints &hints, const Text &name) { return number(hints.minimum(name)); },
+        after.hints.minimum(key) > before.hints.minimum(key));
+    compare(
+        QT_TRANSLATE_NOOP("Command", "maximum"),
+        [](const Hints &hints, const Text &name) { return number(hints.maximum(name)); },
+        after.hints.maximum(key) < before.hints.maximum(key));
     compare(QT_TRANSLATE_NOOP("Command", "choices"), choicesText,
             losesChoice(choiceValues(before.hints, before.parameter),
                         choiceValues(after.hints, after.parameter)));
@@ -102,6 +115,21 @@ QVector<HintChange> hintChanges(const DescribedParameter &before, const Describe
     compare(QT_TRANSLATE_NOOP("Command", "files"),
             [](const Hints &hints, const Text &name) { return listed(hints.fileFilters(name)); });
     return changes;
+}
+
+bool losesKind(const DescribedParameter &before, const DescribedParameter &after)
+{
+    const ValueKind was = valueKindOf(before.parameter);
+    const ValueKind is = valueKindOf(after.parameter);
+    const QStringList values = choiceValues(before.hints, before.parameter);
+    const bool areNumbers = !values.isEmpty()
+        && std::all_of(values.cbegin(), values.cend(),
+                       [&is](const QString &value) { return isSuch(value, is); });
+    if (is.isBool)
+        return losesChoice(values, { QStringLiteral("true"), QStringLiteral("false") });
+    if (!is.isNumber || areNumbers)
+        return false;
+    return !was.isNumber || was.isPoint != is.isPoint || (is.isWhole && !was.isWhole);
 }
 
 QString trueOrFalse(bool value)

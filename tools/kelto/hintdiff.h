@@ -23,11 +23,14 @@ struct HintChange
     const char *property; ///< To be translated.
     QString before; ///< Null where there was nothing.
     QString after;
-    bool loses; ///< Whether a value that could be chosen, or entered, no longer can.
+    bool loses; ///< Whether a value that could be chosen or entered no longer can.
 };
 
 /// The differences in what the hints say.
 QVector<HintChange> hintChanges(const DescribedParameter &before, const DescribedParameter &after);
+
+/// Whether what was stored of the first kind can be a text that the second kind does not read.
+bool losesKind(const DescribedParameter &before, const DescribedParameter &after);
 
 // Values are compared, and told, as item files hold them.
 

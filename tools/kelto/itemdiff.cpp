@@ -9,6 +9,7 @@
 
 #include <AUTH_INF>
 
+#include <QHash>
 #include <QRegularExpression>
 #include <QSet>
 
@@ -21,11 +22,13 @@ QString keyOf(const ItemTableRow &row)
     return row.parameter.name().first;
 }
 
-const ItemTableRow *find(const QVector<ItemTableRow> &rows, const QString &key)
+QHash<QString, int> positionsOf(const QStringList &names)
 {
-    const auto row = std::find_if(rows.cbegin(), rows.cend(),
-                                  [&key](const ItemTableRow &each) { return keyOf(each) == key; });
-    return row == rows.cend() ? nullptr : &*row;
+    QHash<QString, int> positions;
+    // Backwards, since the first of a name counts.
+    for (int i = names.size() - 1; i >= 0; --i)
+        positions.insert(names.at(i), i);
+    return positions;
 }
 
 int columnOf(const QVector<ItemTableMode> &modes, const QString &name)
@@ -53,25 +56,42 @@ QStringList keysOf(const QVector<ItemTableRow> &rows)
     return keys;
 }
 
+QSet<QString> setOf(const QStringList &names)
+{
+    return QSet<QString>(names.cbegin(), names.cend());
+}
+
 /// Those of @p names that are not among @p others.
 QStringList onlyIn(const QStringList &names, const QStringList &others)
 {
+    const QSet<QString> known = setOf(others);
     QStringList only;
     std::copy_if(names.cbegin(), names.cend(), std::back_inserter(only),
-                 [&others](const QString &name) { return !others.contains(name); });
+                 [&known](const QString &name) { return !known.contains(name); });
     return only;
 }
 
-/// Position of the one of @p names that is the same but for case, spaces, "-" and "_"; -1 without
-/// one.
-int indexOfSameName(const QString &name, const QStringList &names)
+/// What is the same for all names that VParameter::isName() takes for one.
+QString folded(QString name)
 {
-    VParameter parameter;
-    parameter.set({}, { name, name }, {}, {}, {}, {}, false);
-    const auto same = std::find_if(names.cbegin(), names.cend(), [&parameter](const QString &each) {
-        return parameter.isName(each);
-    });
-    return same == names.cend() ? -1 : static_cast<int>(same - names.cbegin());
+    for (const char ignored : { ' ', '_', '-' })
+        name.remove(QLatin1Char(ignored));
+    return name.toLower();
+}
+
+/// The new name of each of @p removed that is among @p added but for case, spaces, "-" and "_".
+QHash<QString, QString> renamedTo(const QStringList &removed, const QStringList &added)
+{
+    QHash<QString, QStringList> candidates;
+    for (const QString &name : added)
+        candidates[folded(name)].append(name);
+    QHash<QString, QString> renamed;
+    for (const QString &name : removed) {
+        QStringList &same = candidates[folded(name)];
+        if (!same.isEmpty())
+            renamed.insert(name, same.takeFirst());
+    }
+    return renamed;
 }
 
 /// The host's own extra keys, of which the first of a name counts; the others are hints.
@@ -100,7 +120,7 @@ public:
         , m_afterTable(itemTable(after))
         , m_commonModes(namesOf(m_beforeTable.modes))
     {
-        const QStringList modes = namesOf(m_afterTable.modes);
+        const QSet<QString> modes = setOf(namesOf(m_afterTable.modes));
         m_commonModes.erase(std::remove_if(m_commonModes.begin(), m_commonModes.end(),
                                            [&modes](const QString &mode) {
                                                return !modes.contains(mode);
@@ -156,16 +176,16 @@ private:
     void compareNames(ItemChange::Subject subject, const QStringList &before,
                       const QStringList &after)
     {
-        QStringList added = onlyIn(after, before);
+        const QStringList added = onlyIn(after, before);
         const QStringList removed = onlyIn(before, after);
+        const QHash<QString, QString> renamed = renamedTo(removed, added);
         for (const QString &name : removed) {
-            const int same = indexOfSameName(name, added);
-            if (same < 0)
-                change(subject, name, ItemChange::Removed, {}, {});
-            else
-                change(subject, name, ItemChange::Renamed, added.takeAt(same), {});
+            const bool isRenamed = renamed.contains(name);
+            change(subject, name, isRenamed ? ItemChange::Renamed : ItemChange::Removed,
+                   renamed.value(name), {});
         }
-        for (const QString &name : qAsConst(added))
+        const QStringList newNames = onlyIn(added, renamed.values());
+        for (const QString &name : newNames)
             change(subject, name, ItemChange::Added, {}, {});
     }
 
@@ -198,12 +218,15 @@ private:
                      const QVector<ItemTableRow> &after)
     {
         compareNames(subject, keysOf(before), keysOf(after));
+        const QHash<QString, int> positions = positionsOf(keysOf(after));
         for (const ItemTableRow &row : before) {
-            if (const ItemTableRow *other = find(after, keyOf(row))) {
-                compareDescriptions(subject, row.parameter, other->parameter);
-                comparePresence(subject, row, *other);
-                compareHints(subject, row, *other);
-            }
+            const int position = positions.value(keyOf(row), -1);
+            if (position < 0)
+                continue;
+            const ItemTableRow &other = after.at(position);
+            compareDescriptions(subject, row.parameter, other.parameter);
+            comparePresence(subject, row, other);
+            compareHints(subject, row, other);
         }
     }
 
@@ -223,7 +246,9 @@ private:
         compare(QT_TRANSLATE_NOOP("Command", "several values"), trueOrFalse(before.isMulti()),
                 trueOrFalse(after.isMulti()), isStored && before.isMulti());
         compare(QT_TRANSLATE_NOOP("Command", "kind"), before.parameterObjectName(),
-                after.parameterObjectName(), false);
+                after.parameterObjectName(),
+                isStored
+                    && losesKind({ m_beforeTable.hints, before }, { m_afterTable.hints, after }));
         compare(QT_TRANSLATE_NOOP("Command", "symbol"), before.symbol(), after.symbol(), false);
         compare(QT_TRANSLATE_NOOP("Command", "sub-group"), before.group().first,
                 after.group().first, false);
@@ -311,8 +336,9 @@ private:
         for (const VDataItem &extra : others)
             after.append(extra.key);
         compareNames(ItemChange::ExtraKey, before, after);
+        const QHash<QString, int> positions = positionsOf(after);
         for (const VDataItem &extra : own) {
-            const int other = after.indexOf(extra.key);
+            const int other = positions.value(extra.key, -1);
             if (other >= 0) {
                 change(ItemChange::ExtraKey, extra.key, QT_TRANSLATE_NOOP("Command", "value"),
                        listed(extra.value.toStringList()),

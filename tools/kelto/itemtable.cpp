@@ -18,8 +18,8 @@ QString firstText(const QString &text, const QString &otherwise)
 QVector<ItemTableMode> modesOf(const AUTH_INF &item)
 {
     QVector<ItemTableMode> modes;
-    // The count is a stranger's number; without a name there is nothing to show.
-    const int count = qMin(item.inner_mode_count, item.inner_mode_nameList.size());
+    // Registries offer all names, also those beyond the count, as soon as it is positive.
+    const int count = item.inner_mode_count > 0 ? item.inner_mode_nameList.size() : 0;
     for (int mode = 0; mode < count; ++mode) {
         const QString &name = item.inner_mode_nameList.at(mode);
         modes.append({ name, firstText(item.inner_mode_nameList_tr.value(mode), name),
