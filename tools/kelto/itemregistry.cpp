@@ -23,11 +23,8 @@ QVector<ItemFile> readItemFiles(const QStringList &paths, Console &console, bool
     return files;
 }
 
-AUTH_SET registryOf(const QString &name, const QVector<ItemFile> &files)
+AUTH_SET registryOf(const QString &name, const QVector<AUTH_INF> &items)
 {
-    QVector<AUTH_INF> items;
-    for (const ItemFile &file : files)
-        items.append(file.item());
     // A registry made without items writes a log, and one with an item "Update" its file.
     AUTH_SET registry(name, QString(), { AUTH_INF() });
     registry.acquire(items);

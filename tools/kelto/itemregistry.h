@@ -17,8 +17,8 @@ class Console;
 /// cannot be read or holds no module, and tells in @p areAllRead whether there was no such thing.
 QVector<ItemFile> readItemFiles(const QStringList &paths, Console &console, bool *areAllRead);
 
-/// The registry of the application @p name with the items of @p files. Nothing is written, unlike
+/// The registry of the application @p name with these @p items. Nothing is written, unlike
 /// by a registry that is made with its items.
-AUTH_SET registryOf(const QString &name, const QVector<ItemFile> &files);
+AUTH_SET registryOf(const QString &name, const QVector<AUTH_INF> &items);
 
 #endif

@@ -5,12 +5,16 @@
 #include "console.h"
 #include "itemregistry.h"
 #include "terminaltext.h"
+#include "translationfile.h"
 
+#include <KeltoItemTranslation>
 #include <QCommandLineParser>
 #include <QJsonArray>
 #include <QJsonObject>
+#include <QTranslator>
 
 #include <climits>
+#include <optional>
 
 namespace {
 
@@ -85,6 +89,38 @@ QString asText(const QVector<OfferedMode> &modes)
     return textTable(rows, { INT_MAX });
 }
 
+/// Looks texts up in the file while it lives.
+class Language : public QTranslator
+{
+public:
+    explicit Language(const TranslationFile &file)
+        : m_file(file)
+    {
+        QCoreApplication::installTranslator(this);
+    }
+    ~Language() override { QCoreApplication::removeTranslator(this); }
+
+    bool isEmpty() const override { return false; }
+    QString translate(const char *context, const char *source, const char *, int) const override
+    {
+        return m_file.translate(context, source);
+    }
+
+private:
+    const TranslationFile &m_file;
+};
+
+QVector<AUTH_INF> itemsOf(const QVector<ItemFile> &files, const TranslationFile *translation)
+{
+    std::optional<Language> language;
+    if (translation)
+        language.emplace(*translation);
+    QVector<AUTH_INF> items;
+    for (const ItemFile &file : files)
+        items.append(KeltoItemTranslation::translated(file.item()));
+    return items;
+}
+
 ExitCode run(const QCommandLineParser &line, Console &console)
 {
     if (!line.isSet(QStringLiteral("app"))) {
@@ -92,12 +128,20 @@ ExitCode run(const QCommandLineParser &line, Console &console)
                                      "Try \"kelto modes --help\"."));
         return WrongUsage;
     }
+    std::optional<TranslationFile> translation;
+    if (line.isSet(QStringLiteral("translation")))
+        translation.emplace(line.value(QStringLiteral("translation")));
+    if (translation && !translation->error().isEmpty()) {
+        console.complain(translation->error());
+        return Found;
+    }
     bool areAllRead = true;
     const QVector<ItemFile> files = readItemFiles(line.positionalArguments(), console, &areAllRead);
     if (files.isEmpty())
         return Found;
     const QString application = line.value(QStringLiteral("app"));
-    const QVector<OfferedMode> modes = offeredModes(registryOf(application, files));
+    const QVector<OfferedMode> modes = offeredModes(
+        registryOf(application, itemsOf(files, translation ? &*translation : nullptr)));
     if (line.isSet(QStringLiteral("json")))
         console.print(asJson(application, modes));
     else if (!modes.isEmpty())
@@ -126,9 +170,16 @@ Command modesCommand()
             "no mode."),
         { { { QStringLiteral("app") },
             "NAME",
-            QT_TRANSLATE_NOOP("Command", "The name of the application. Needed.") } },
+            QT_TRANSLATE_NOOP("Command", "The name of the application. Needed.") },
+          { { QStringLiteral("translation") },
+            "FILE",
+            QT_TRANSLATE_NOOP("Command",
+                              "A translation of the modules, .ts or .qm, of which the translated "
+                              "names are made; without it they are the plain ones.") } },
         { { "kelto modes --app Beams modules",
-            QT_TRANSLATE_NOOP("Command", "The modes of the application Beams.") } },
+            QT_TRANSLATE_NOOP("Command", "The modes of the application Beams.") },
+          { "kelto modes --app Beams --translation beams_zh_CN.qm modules",
+            QT_TRANSLATE_NOOP("Command", "The same, with their Chinese names.") } },
         run
     };
 }

@@ -2022,5 +2022,13 @@ rule and its value one of error, warning and off:
         <source>A character of it is read, but gone when the library saves the file.</source>
         <translation>其中的一个字符可以读取，但库保存文件时会丢失。</translation>
     </message>
+    <message>
+        <source>A translation of the modules, .ts or .qm, of which the translated names are made; without it they are the plain ones.</source>
+        <translation>模块的翻译文件（.ts 或 .qm），译名取自其中；没有它时译名与原名相同。</translation>
+    </message>
+    <message>
+        <source>The same, with their Chinese names.</source>
+        <translation>同上，带有中文译名。</translation>
+    </message>
 </context>
 </TS>
