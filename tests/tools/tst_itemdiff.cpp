@@ -44,11 +44,8 @@ QStringList linesOf(const QVector<ItemChange> &changes, bool isBackwards)
         QStringList modes = change.modes;
         modes.sort();
         lines.append(QString("%1 %2 %3 %4 %5: %6")
-                         .arg(change.subject)
-                         .arg(name)
-                         .arg(kind)
-                         .arg(change.property ? change.property : "")
-                         .arg(modes.join('+'), texts.join(" -> ")));
+                         .arg(change.subject, name, kind, change.property ? change.property : "",
+                              modes.join('+'), texts.join(" -> ")));
     }
     lines.sort();
     return lines;

@@ -76,7 +76,8 @@ void TestKeltoLint::showsWhatItMeans_data()
     QHash<QString, QString> positions;
     for (const QString &line : lines)
         positions.insert(line.section(' ', 0, 0), line);
-    for (const QString &rule : ruleNames())
+    const QStringList rules = ruleNames();
+    for (const QString &rule : rules)
         QTest::newRow(qPrintable(rule)) << positions.value(rule, rule + " has no position");
 }
 
@@ -85,7 +86,7 @@ void TestKeltoLint::showsWhatItMeans()
     QFETCH(QString, finding);
     const QStringList ofUnits { "unknown-unit", "unit-dimension", "unit-not-converted" };
     if (!areUnitsKnown() && ofUnits.contains(finding.section(' ', 0, 0)))
-        QSKIP("This program was built without UDUNITS.");
+        QSKIP("This program was built without UDUNITS.", );
     const Rule *const rule = ruleOf(finding.section(' ', 0, 0));
 
     QCOMPARE(findingsOf(filesOf(rule->bad, "bad")), QStringList(finding));
@@ -95,7 +96,8 @@ void TestKeltoLint::showsWhatItMeans()
 void TestKeltoLint::findsNothingInTheWorkbench()
 {
     QStringList paths;
-    for (const QString &name : filesIn(WORKBENCH_MODULES))
+    const QStringList names = filesIn(WORKBENCH_MODULES);
+    for (const QString &name : names)
         paths.append(WORKBENCH_MODULES "/" + name);
     Console console;
     const LintResult result = lint(paths, LintConfig(paths), console);

@@ -28,12 +28,11 @@ namespace {
 /// Writes the files of an example; names of the module item files among them.
 QStringList writeFiles(const QString &text)
 {
-    QStringList parts
-        = QString("; --- first.ini ---\n" + text)
-              .split(QRegularExpression("^; --- ", QRegularExpression::MultilineOption),
-                     Qt::SkipEmptyParts);
+    static const QRegularExpression head("^; --- ", QRegularExpression::MultilineOption);
+    const QStringList parts
+        = QString("; --- first.ini ---\n" + text).split(head, Qt::SkipEmptyParts);
     QStringList names;
-    for (const QString &part : qAsConst(parts)) {
+    for (const QString &part : parts) {
         const QString name = part.section(" ---\n", 0, 0);
         writeFile(name, part.section(" ---\n", 1).toUtf8());
         if (name.endsWith(".ini"))

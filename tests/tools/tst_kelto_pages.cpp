@@ -60,7 +60,8 @@ void TestKeltoPages::formats_data()
     QStringList summaries;
     for (const Command &command : commands()) {
         QStringList texts { QString("kelto-%1 - %2").arg(command.name, command.summary) };
-        for (const CommandOption &option : command.options + commonOptions()) {
+        const QVector<CommandOption> options = command.options + commonOptions();
+        for (const CommandOption &option : options) {
             texts.append("  " + dashed(option.names.first()));
             texts.append(option.description);
         }

@@ -40,7 +40,7 @@ QString dimensionOf(const Unit &unit)
 void TestUnit::initTestCase()
 {
     if (!areUnitsKnown())
-        QSKIP("This program was built without UDUNITS.");
+        QSKIP("This program was built without UDUNITS.", );
 }
 
 void TestUnit::readsWhatEngineersWrite_data()
