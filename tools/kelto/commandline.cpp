@@ -8,6 +8,8 @@
 #include "nearestname.h"
 
 #include <QCommandLineParser>
+#include <QJsonArray>
+#include <QJsonObject>
 
 #include <algorithm>
 
@@ -134,7 +136,12 @@ ExitCode runCommand(const Command &command, const QStringList &arguments, Consol
         console.complain(complaint + tryHelp(QLatin1String(command.name)));
         return WrongUsage;
     }
-    return command.run(parser, console);
+    const ExitCode code = command.run(parser, console);
+    // A program that reads JSON gets some also where there is no result.
+    if (code != Done && parser.isSet(QStringLiteral("json")) && !console.hasPrinted())
+        console.print(QJsonObject {
+            { QStringLiteral("errors"), QJsonArray::fromStringList(console.complaints()) } });
+    return code;
 }
 
 ExitCode withoutCommand(const QString &first, Console &console)

@@ -49,6 +49,7 @@ void Console::print(const QString &text)
 void Console::print(const QByteArray &bytes)
 {
     showProgress(QString());
+    m_hasPrinted = true;
     const auto size = std::size_t(bytes.size());
     if (std::fwrite(bytes.constData(), 1, size, stdout) != size)
         m_hasFailed = true;
@@ -63,6 +64,7 @@ void Console::complain(const QString &sentence)
 {
     showProgress(QString());
     std::fflush(stdout);
+    m_complaints.append(sentence);
     const QByteArray line = "kelto: " + sentence.toUtf8() + '\n';
     std::fwrite(line.constData(), 1, std::size_t(line.size()), stderr);
 }

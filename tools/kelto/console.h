@@ -6,6 +6,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 
 class QJsonObject;
 
@@ -25,6 +26,9 @@ public:
     /// A sentence that says what is wrong, where, and what to do.
     void complain(const QString &sentence);
 
+    bool hasPrinted() const { return m_hasPrinted; }
+    const QStringList &complaints() const { return m_complaints; }
+
     /// Replaces the line that shows how far the program has come. Shown on a terminal only, and
     /// only when the work takes longer than a moment; an empty text clears it.
     void showProgress(const QString &text);
@@ -39,6 +43,8 @@ private:
     bool m_isColoured;
     bool m_showsProgress;
     bool m_hasFailed = false;
+    bool m_hasPrinted = false;
+    QStringList m_complaints;
     qint64 m_start;
     int m_progressWidth = 0;
 };
