@@ -34,7 +34,8 @@ QString formatOf(const QByteArray &bytes)
         return QStringLiteral("fmi");
     if (bytes.startsWith("PK\3\4"))
         return QStringLiteral("fmu");
-    if (text.startsWith('{'))
+    // A section begins like an array.
+    if (text.startsWith('{') || QJsonDocument::fromJson(text).isArray())
         return QStringLiteral("json");
     return text.startsWith('<') ? QStringLiteral("fmi") : QStringLiteral("ini");
 }
