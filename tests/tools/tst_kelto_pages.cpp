@@ -80,7 +80,7 @@ void TestKeltoPages::formats()
     QByteArray warnings;
     const QString text = formatted(QString("%1/man1/%2.1").arg(pages, page), &warnings);
     QCOMPARE(warnings, QByteArray());
-    for (QString wanted : texts) {
+    for (const QString &wanted : texts) {
         // Lines are filled, and words divided nowhere else.
         const QString lines = text.simplified();
         QVERIFY2(lines.contains(wanted.simplified()), qPrintable(wanted + '\n' + text));
