@@ -63,6 +63,10 @@ class TestCodeCompiles : public DirectoryTest
 
 private Q_SLOTS:
     void itemsEqualTheirFiles();
+    void refusesFileNamesThatResourcesCannotHave_data();
+    void refusesFileNamesThatResourcesCannotHave();
+    void stopsAtMacros_data();
+    void stopsAtMacros();
 };
 
 /// Both ways into one program, which has classes of the names of the contexts itself.
@@ -75,7 +79,7 @@ void TestCodeCompiles::itemsEqualTheirFiles()
     tool.inner_mode_parameterList.clear();
     tool.output_results.clear();
     tool.description.clear();
-    QVector<AUTH_INF> items { savedItem("a b", itemOf("QObjectContext", "beam")),
+    QVector<AUTH_INF> items { savedItem("a b", itemOf("QObjectContext", "embedded_init")),
                               savedItem("静力", itemOf("Host::QObject", "QObject")),
                               savedItem("'$(x)'&<%1>", itemOf("inf", "item4")),
                               savedItem("nameless", itemOf("", "")) };
@@ -86,6 +90,7 @@ void TestCodeCompiles::itemsEqualTheirFiles()
                               "tool.ini" };
     runKelto(QStringList { "code", "-o", ".", "--name", "compiled", "--context", "QObjectContext" }
              + files);
+    QVERIFY(QDir().mkpath("lies/deeper/sub") && QFile::link("lies/deeper/sub", "sub"));
     runKelto(QStringList { "code", "-o", "sub", "--name", "embedded", "--embed", "--context",
                            "QObjectContext" }
              + files);
@@ -113,6 +118,50 @@ void TestCodeCompiles::itemsEqualTheirFiles()
         const AUTH_INF item = KeltoItemTranslation::translated(expected.at(i));
         QCOMPARE(differences(found.at(i).toObject(), itemAsJson(item)), QString());
     }
+}
+
+void TestCodeCompiles::refusesFileNamesThatResourcesCannotHave_data()
+{
+    QTest::addColumn<QString>("name");
+
+    QTest::newRow("a carriage return") << "a\rb.ini";
+    QTest::newRow("an escape") << "a\u001bb.ini";
+}
+
+void TestCodeCompiles::refusesFileNamesThatResourcesCannotHave()
+{
+    QFETCH(QString, name);
+    itemOf("Texts", "beam").save_ini("beam.ini");
+    QVERIFY(QFile::rename("beam.ini", name));
+    QProcess process;
+    process.start(KELTO_COMMAND, QStringList { "code", "--embed", "-o", "out", "--", name });
+    QVERIFY(process.waitForFinished());
+    QCOMPARE(process.exitCode(), 1);
+    QVERIFY(process.readAllStandardOutput().contains("holds a control character"));
+    QVERIFY(!QFile::exists("out"));
+}
+
+void TestCodeCompiles::stopsAtMacros_data()
+{
+    QTest::addColumn<QString>("macro");
+
+    for (const char *macro : { "beam", "Host", "Texts", "compiled" })
+        QTest::newRow(macro) << QString(macro);
+}
+
+/// Names that only a host defines.
+void TestCodeCompiles::stopsAtMacros()
+{
+    QFETCH(QString, macro);
+    itemOf("Host::Texts", "beam").save_ini("beam.ini");
+    runKelto({ "code", "-o", ".", "--name", "compiled", "beam.ini" });
+    QProcess process;
+    process.start(KELTO_COMPILER,
+                  QStringList { "-c", "compiled.cpp", "-o", "compiled.o", "-D" + macro + "=other",
+                                "@" KELTO_COMPILER_ARGUMENTS });
+    QVERIFY(process.waitForFinished());
+    QVERIFY(process.exitCode() != 0);
+    QVERIFY(process.readAllStandardError().contains("This name of an item is a macro."));
 }
 
 QTEST_GUILESS_MAIN(TestCodeCompiles)

@@ -246,7 +246,8 @@ void TestSourceText::takesNames_data()
     QTest::addColumn<bool>("isFunction");
     QTest::addColumn<bool>("isContext");
 
-    for (const char *text : { "beam", "B2_x", "_b", "_", "inf", "main", "QObject" })
+    for (const char *text : { "beam", "B2_x", "_b", "_", "inf", "main", "QObject", "Quantity", "A",
+                              "Q", "qBeam", "Literal", "PRIme" })
         QTest::newRow(text) << text << true << true;
     for (const char *text : { "A::B", "Host::Module::Texts" })
         QTest::newRow(text) << text << false << true;
@@ -275,7 +276,24 @@ void TestSourceText::takesNames_data()
                               "a;",
                               "a/**/",
                               "a.b",
-                              "$a" })
+                              "$a",
+                              "AUTH_INF",
+                              "BUFSIZ",
+                              "M_PI",
+                              "Q_OBJECT",
+                              "Q_emitted",
+                              "QT_VERSION",
+                              "KELTO_x",
+                              "QStringLiteral",
+                              "QByteArrayLiteral",
+                              "PRIu64",
+                              "GL_ARB_sync",
+                              "qApp",
+                              "qDebug",
+                              "qMove",
+                              "qPrintable",
+                              "offsetof",
+                              "va_start" })
         QTest::newRow(text) << text << false << false;
 }
 

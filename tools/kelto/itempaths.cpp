@@ -9,6 +9,7 @@
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
+#include <QSet>
 
 namespace {
 
@@ -26,6 +27,20 @@ QStringList itemFilesBelow(const QString &directory)
 QString noSuchFile(const QString &path)
 {
     return Command::tr("%1: no such file.").arg(path);
+}
+
+/// A file stands once, however it is spelt.
+QStringList withoutDuplicates(const QStringList &files)
+{
+    QStringList result;
+    QSet<QString> known;
+    for (const QString &file : files) {
+        const QString canonical = QFileInfo(file).canonicalFilePath();
+        if (canonical.isEmpty() || !known.contains(canonical))
+            result.append(file);
+        known.insert(canonical);
+    }
+    return result;
 }
 
 } // namespace
@@ -46,8 +61,7 @@ QStringList itemFilesAt(const QStringList &paths, Console &console, bool *areAll
         }
         files += found;
     }
-    files.removeDuplicates();
-    return files;
+    return withoutDuplicates(files);
 }
 
 QString whyUnreadable(const QString &path)

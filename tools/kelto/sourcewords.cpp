@@ -3,6 +3,7 @@
 
 #include "sourcewords.h"
 
+#include <QRegularExpression>
 #include <QSet>
 #include <QStringList>
 
@@ -19,9 +20,14 @@ const char *const keywords
       "static_cast struct switch template this thread_local throw true try typedef typeid "
       "typename union unsigned using virtual void volatile wchar_t while xor xor_eq";
 
-// Macros of Qt and of compilers that look like other names.
-const char *const macros = "emit foreach forever signals slots linux unix i386 NULL EOF assert "
-                           "errno stderr stdin stdout";
+// Macros of Qt, C and POSIX that look like other names.
+const char *const macros
+    = "L_ctermid L_cuserid L_tmpnam P_tmpdir alloca assert assert_perror emit errno foreach "
+      "forever i386 issubnormal linux math_errhandling offsetof pthread_cleanup_pop "
+      "pthread_cleanup_push qApp qCCritical qCDebug qCInfo qCWarning qCritical qDebug qFatal "
+      "qGuiApp qInfo qMove qPrintable qUtf16Printable qUtf8Printable qWarning sa_handler "
+      "sa_sigaction sched_priority setjmp sigmask signals sigsetjmp slots st_atime st_ctime "
+      "st_mtime stderr stdin stdout strdupa strndupa unix va_arg va_copy va_end va_start";
 
 // What the source text of an item is made of.
 const char *const ownWords = "KeltoItem QString QStringList QVector VDataItem";
@@ -41,7 +47,12 @@ QSet<QString> allWords()
 bool isReservedWord(const QString &identifier)
 {
     static const QSet<QString> words = allWords();
-    return words.contains(identifier) || identifier.contains(QLatin1String("__"))
+    // Macros are called so by custom, and by Qt and Kelto.
+    static const QRegularExpression macro(
+        QStringLiteral("\\A(?:[A-Z][A-Z0-9_]+|(?:Q|QT|KELTO|GL)_.*|Q[A-Z].*(?:Literal|_iid)|"
+                       "(?:PRI|SCN)[diouxX][A-Z0-9]+)\\z"));
+    return words.contains(identifier) || macro.match(identifier).hasMatch()
+        || identifier.contains(QLatin1String("__"))
         || (identifier.size() > 1 && identifier.at(0) == QLatin1Char('_')
             && identifier.at(1).isUpper());
 }

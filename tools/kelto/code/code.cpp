@@ -53,6 +53,11 @@ bool isOwnName(const QString &function)
         || function == QLatin1String("translatedTexts");
 }
 
+bool isControlCharacter(QChar c)
+{
+    return c.category() == QChar::Other_Control;
+}
+
 /// Whether this command looks for it itself, and knows whether it matters.
 bool isAboutSourceText(const Finding &finding)
 {
@@ -88,8 +93,10 @@ private:
     void checkFileName(const QString &path);
     void add(const ItemFile &file, const QString &section, const QString &key, const QString &text,
              const QString &reason);
+    QString pathOf(const char *ending) const;
+    bool areForeignFilesSafe() const;
     bool write();
-    bool writeFile(const QString &ending, const QByteArray &bytes);
+    bool writeFile(const char *ending, const QByteArray &bytes);
     void report() const;
 
     SourceItems m_items;
@@ -172,19 +179,26 @@ void CodeCommand::checkFunction(const ItemFile &file, const AUTH_INF &item)
             reasonText(SourceTextProblem::ReservedName));
 }
 
-/// In the resources all files lie in one directory.
+/// In the resources all files lie in one directory. Their list is XML, which cannot hold control
+/// characters, and reads line breaks as spaces.
 void CodeCommand::checkFileName(const QString &path)
 {
+    if (!m_isEmbedding)
+        return;
+    const QString key = QStringLiteral("file");
     const QString name = QFileInfo(path).fileName();
-    if (m_isEmbedding && m_fileNames.contains(name)) {
+    if (m_fileNames.contains(name))
         m_problems.append({ path,
                             {},
-                            QStringLiteral("file"),
+                            key,
                             name,
                             Command::tr("is the name of %1 in the resources already")
                                 .arg(m_fileNames.value(name)) });
-    }
     m_fileNames.insert(name, path);
+    const QString whole = QFileInfo(path).absoluteFilePath();
+    if (std::any_of(whole.cbegin(), whole.cend(), isControlCharacter))
+        m_problems.append(
+            { path, {}, key, whole, reasonText(SourceTextProblem::ControlCharacter) });
 }
 
 void CodeCommand::read(const QString &path)
@@ -207,9 +221,33 @@ void CodeCommand::read(const QString &path)
     m_items.items.append({ item, path });
 }
 
-bool CodeCommand::writeFile(const QString &ending, const QByteArray &bytes)
+QString CodeCommand::pathOf(const char *ending) const
 {
-    const QString path = m_directory + QLatin1Char('/') + m_items.name + ending;
+    return m_directory + QLatin1Char('/') + m_items.name + QLatin1String(ending);
+}
+
+/// A name such as "main" must not replace the source text of somebody.
+bool CodeCommand::areForeignFilesSafe() const
+{
+    for (const char *ending : { ".h", ".cpp", ".qrc" }) {
+        QFile file(pathOf(ending));
+        const bool isWritten = m_isEmbedding || QLatin1String(ending) != QLatin1String(".qrc");
+        if (!isWritten || !QFileInfo(file).isFile() || file.size() == 0)
+            continue;
+        if (!file.open(QIODevice::ReadOnly) || !isGeneratedText(file.read(200))) {
+            m_console.complain(
+                Command::tr("%1: was not written by \"kelto code\" and is not replaced; remove it, "
+                            "or choose another name or directory.")
+                    .arg(file.fileName()));
+            return false;
+        }
+    }
+    return true;
+}
+
+bool CodeCommand::writeFile(const char *ending, const QByteArray &bytes)
+{
+    const QString path = pathOf(ending);
     const QString complaint = writeOutputFile(path, bytes);
     if (!complaint.isEmpty()) {
         m_console.complain(complaint);
@@ -222,10 +260,10 @@ bool CodeCommand::writeFile(const QString &ending, const QByteArray &bytes)
 bool CodeCommand::write()
 {
     const QByteArray source = m_isEmbedding ? embeddingSourceText(m_items) : sourceText(m_items);
-    return writeFile(QStringLiteral(".h"), headerText(m_items))
-        && writeFile(QStringLiteral(".cpp"), source)
-        && (!m_isEmbedding
-            || writeFile(QStringLiteral(".qrc"), resourceList(m_items, m_directory)));
+    return areForeignFilesSafe() && writeFile(".h", headerText(m_items))
+        && writeFile(".cpp", source)
+        // The directory has to be there.
+        && (!m_isEmbedding || writeFile(".qrc", resourceList(m_items, m_directory)));
 }
 
 void CodeCommand::report() const

@@ -18,7 +18,12 @@ using Item = SourceItems::Item;
 
 // Names of files could end a comment, so that none of them stands in the texts.
 const char *const notice
-    = "// Made by \"kelto code\" from files of module items. Change those, not this one.\n\n";
+    = "Made by \"kelto code\" from files of module items. Change those, not this one.";
+
+QString noticeComment()
+{
+    return QStringLiteral("// %1\n\n").arg(QLatin1String(notice));
+}
 
 /// Items that name no function have one that only the source knows.
 QStringList functionNames(const SourceItems &items)
@@ -105,26 +110,75 @@ QString allItemsFunction(const QStringList &functions)
         .arg(functions.join(QStringLiteral("(),\n        ")));
 }
 
-QByteArray sourceAround(const SourceItems &items, const QString &before, const QString &functions)
+/// A name that is a macro of some header would be replaced by that.
+QString macroErrors(QStringList names)
 {
-    const QString text = QLatin1String(notice)
+    names.removeDuplicates();
+    QString text;
+    for (const QString &name : names)
+        text += QStringLiteral("#ifdef %1\n#error \"This name of an item is a macro.\"\n#endif\n")
+                    .arg(name);
+    return text + QLatin1Char('\n');
+}
+
+QStringList functionsAndNamespace(const SourceItems &items)
+{
+    QStringList names { items.name };
+    for (const Item &each : items.items) {
+        if (!each.item.codeFunctionName.isEmpty())
+            names.append(each.item.codeFunctionName);
+    }
+    return names;
+}
+
+/// All that come from items.
+QStringList identifiers(const SourceItems &items)
+{
+    QStringList names = functionsAndNamespace(items);
+    for (const Item &each : items.items)
+        names += KeltoItemTranslation::contextOf(each.item).split(QStringLiteral("::"));
+    return names;
+}
+
+QByteArray sourceAround(const SourceItems &items, const QString &headers,
+                        const QString &definitions, const QString &functions)
+{
+    const QString text = noticeComment()
         + QLatin1String("// The texts below are plain literals.\n"
                         "#undef QT_NO_CAST_FROM_ASCII\n"
                         "#undef QT_RESTRICTED_CAST_FROM_ASCII\n\n")
-        + QStringLiteral("#include \"%1.h\"\n\n").arg(items.name) + before
+        + QStringLiteral("#include \"%1.h\"\n\n").arg(items.name) + headers
+        + macroErrors(identifiers(items)) + definitions
         + QStringLiteral("namespace %1 {\n\n").arg(items.name) + textTable(items) + functions
         + allItemsFunction(functionNames(items))
         + QStringLiteral("\n} // namespace %1\n").arg(items.name);
     return text.toUtf8();
 }
 
+/// rcc follows symbolic links when it looks for a file, and not when it reads it. Where these make
+/// a difference, only the whole path is right.
+QString pathInResourceList(const QString &path, const QString &directory)
+{
+    const QFileInfo file(path);
+    const QDir followed(QFileInfo(directory).canonicalFilePath());
+    const QString relative
+        = QDir(QDir(directory).absolutePath()).relativeFilePath(file.absoluteFilePath());
+    const QString real = QDir(file.canonicalPath()).filePath(file.fileName());
+    return followed.relativeFilePath(real) == relative ? relative : file.absoluteFilePath();
+}
+
 } // namespace
+
+bool isGeneratedText(const QByteArray &bytes)
+{
+    return bytes.left(200).contains(notice);
+}
 
 QByteArray headerText(const SourceItems &items)
 {
-    QString text = QLatin1String(notice)
-        + QStringLiteral("#pragma once\n\n#include <Kelto/AUTH_INF>\n\nnamespace %1 {\n\n"
-                         "/// All items, in the order of their files.\n"
+    QString text = noticeComment() + QLatin1String("#pragma once\n\n#include <Kelto/AUTH_INF>\n\n")
+        + macroErrors(functionsAndNamespace(items))
+        + QStringLiteral("namespace %1 {\n\n/// All items, in the order of their files.\n"
                          "::QVector<::KeltoItem> allItems();\n\n")
               .arg(items.name);
     for (const Item &each : items.items) {
@@ -140,28 +194,28 @@ QByteArray sourceText(const SourceItems &items)
     QString functions;
     for (int i = 0; i < names.size(); ++i)
         functions += buildingFunction(items.items.at(i), names.at(i));
-    return sourceAround(items, QStringLiteral("#include <QCoreApplication>\n\n"), functions);
+    return sourceAround(items, QStringLiteral("#include <QCoreApplication>\n\n"), {}, functions);
 }
 
 QByteArray embeddingSourceText(const SourceItems &items)
 {
     const QStringList names = functionNames(items);
+    const QString headers = QStringLiteral("#include <Kelto/KeltoItemTranslation>\n\n"
+                                           "#include <QCoreApplication>\n\n");
     // The resources of a static library have to be named once, outside of every namespace.
-    const QString before
-        = QStringLiteral("#include <Kelto/KeltoItemTranslation>\n\n"
-                         "#include <QCoreApplication>\n\n"
-                         "static void %1_init()\n{\n    Q_INIT_RESOURCE(%1);\n}\n\n")
+    const QString initialization
+        = QStringLiteral("static void %1_init()\n{\n    Q_INIT_RESOURCE(%1);\n}\n\n")
               .arg(items.name);
     QString functions
         = QStringLiteral("static ::KeltoItem loaded(const char *path, const char *context)\n{\n"
-                         "    %1_init();\n    ::KeltoItem item;\n"
+                         "    ::%1_init();\n    ::KeltoItem item;\n"
                          "    item.load_ini(::QString::fromUtf8(path));\n"
                          "    item.trObjectName = ::QString::fromUtf8(context);\n"
                          "    return ::KeltoItemTranslation::translated(item);\n}\n\n")
               .arg(items.name);
     for (int i = 0; i < names.size(); ++i)
         functions += loadingFunction(items.items.at(i), names.at(i), items.name);
-    return sourceAround(items, before, functions);
+    return sourceAround(items, headers, initialization, functions);
 }
 
 QByteArray resourceList(const SourceItems &items, const QString &directory)
@@ -169,14 +223,14 @@ QByteArray resourceList(const SourceItems &items, const QString &directory)
     QByteArray text;
     QXmlStreamWriter xml(&text);
     xml.setAutoFormatting(true);
+    xml.writeComment(QStringLiteral(" %1 ").arg(QLatin1String(notice)));
     xml.writeStartElement(QStringLiteral("RCC"));
     xml.writeStartElement(QStringLiteral("qresource"));
     xml.writeAttribute(QStringLiteral("prefix"), QStringLiteral("/kelto/items/") + items.name);
     for (const Item &each : items.items) {
         xml.writeStartElement(QStringLiteral("file"));
         xml.writeAttribute(QStringLiteral("alias"), aliasOf(each));
-        xml.writeCharacters(QDir(QDir(directory).absolutePath())
-                                .relativeFilePath(QFileInfo(each.path).absoluteFilePath()));
+        xml.writeCharacters(pathInResourceList(each.path, directory));
         xml.writeEndElement();
     }
     xml.writeEndDocument();

@@ -24,6 +24,9 @@ struct SourceItems
     QVector<Item> items;
 };
 
+/// Whether one of the functions below has made a file that begins with @p bytes.
+bool isGeneratedText(const QByteArray &bytes);
+
 /// The header, which declares the function of each item that names one, and allItems().
 QByteArray headerText(const SourceItems &items);
 

@@ -422,6 +422,10 @@ Exit code 1 when projects that were stored with the old version lose something: 
         <translation>%1：没有说明其语言；请使文件名以语言结尾，如“modules_zh_CN.qm”。</translation>
     </message>
     <message>
+        <source>%1: was not written by &quot;kelto code&quot; and is not replaced; remove it, or choose another name or directory.</source>
+        <translation>%1：不是由“kelto code”写入的，不予替换；请删除它，或选择其他名称或目录。</translation>
+    </message>
+    <message>
         <source>%1: was not written by &quot;kelto doc&quot; and is not replaced; remove it, or choose another directory.</source>
         <translation>%1：不是由“kelto doc”写入的，不予替换；请删除它，或选择其他目录。</translation>
     </message>
