@@ -13,6 +13,13 @@
 
 namespace {
 
+constexpr int countedBytes = 1024;
+
+bool beginsCharacter(char byte)
+{
+    return (byte & 0xc0) != 0x80;
+}
+
 std::string_view trimmed(std::string_view text)
 {
     while (!text.empty() && isBlank(text.front()))
@@ -49,6 +56,11 @@ QString ItemFile::whyNoModule() const
 void ItemFile::readLines()
 {
     const char lineEnd = m_bytes.contains('\n') ? '\n' : '\r';
+    for (int at = 0, count = 0; at < m_bytes.size(); ++at) {
+        if (at % countedBytes == 0)
+            m_charactersBefore.append(count);
+        count += beginsCharacter(m_bytes.at(at)) ? 1 : 0;
+    }
     m_lineStarts.append(0);
     for (int at = m_bytes.indexOf(lineEnd); at >= 0; at = m_bytes.indexOf(lineEnd, at + 1))
         m_lineStarts.append(at + 1);
@@ -90,7 +102,17 @@ IniPosition ItemFile::positionAt(const char *place) const
     const auto behind = std::upper_bound(m_lineStarts.cbegin(), m_lineStarts.cend(), offset);
     IniPosition position;
     position.line = static_cast<int>(std::distance(m_lineStarts.cbegin(), behind));
-    for (int i = *std::prev(behind); i < offset; ++i)
-        position.column += (m_bytes.at(i) & 0xc0) != 0x80 ? 1 : 0;
+    position.column += charactersBefore(offset) - charactersBefore(*std::prev(behind));
     return position;
+}
+
+int ItemFile::charactersBefore(int offset) const
+{
+    const int block = qMin(offset / countedBytes, m_charactersBefore.size() - 1);
+    if (block < 0)
+        return 0;
+    int count = m_charactersBefore.at(block);
+    for (int i = block * countedBytes; i < offset; ++i)
+        count += beginsCharacter(m_bytes.at(i)) ? 1 : 0;
+    return count;
 }

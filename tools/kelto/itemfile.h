@@ -60,11 +60,14 @@ public:
 private:
     void readLines();
     void readKeys();
+    int charactersBefore(int offset) const;
 
     QString m_path;
     QString m_error;
     QByteArray m_bytes;
     QVector<int> m_lineStarts;
+    /// At every so many bytes, so that a position far behind in a long line is found soon.
+    QVector<int> m_charactersBefore;
     AUTH_INF m_item;
     QVector<ItemFileKey> m_keys;
     QVector<ItemFileSection> m_sections;

@@ -4,16 +4,24 @@
 #include "nearestname.h"
 
 #include "command.h"
-#include "core/similarnames_p.h"
+
+NearestNames::NearestNames(const QStringList &names)
+    : m_names(names)
+{
+    for (const QString &candidate : names)
+        m_similar.append(comparableName(candidate));
+}
+
+QString NearestNames::nearest(const QString &name) const
+{
+    const QString wanted = comparableName(name);
+    const QVector<int> nearest = m_similar.nearest(wanted, tolerableEdits(wanted.size()));
+    return nearest.isEmpty() ? QString() : m_names.at(nearest.constFirst());
+}
 
 QString nearestName(const QString &name, const QStringList &names)
 {
-    SimilarNames similar;
-    for (const QString &candidate : names)
-        similar.append(comparableName(candidate));
-    const QString wanted = comparableName(name);
-    const QVector<int> nearest = similar.nearest(wanted, tolerableEdits(wanted.size()));
-    return nearest.isEmpty() ? QString() : names.at(nearest.constFirst());
+    return NearestNames(names).nearest(name);
 }
 
 QString didYouMean(const QString &name, const QStringList &names)

@@ -68,22 +68,43 @@ void addProblem(const IniProblem &problem, FileFindings *findings)
     }
 }
 
-/// The byte at @p position, given the file's lines; 0 behind the last.
-char byteAt(const QList<QByteArray> &lines, IniPosition position)
+/// Finds the bytes at positions that come in the order of the file.
+class ByteCursor
 {
-    const QByteArray &line = lines.at(position.line - 1);
-    int column = 0;
-    for (const char c : line) {
-        if ((c & 0xc0) != 0x80 && ++column == position.column)
-            return c;
+public:
+    explicit ByteCursor(const QByteArray &bytes)
+        : m_lines(bytes.split(bytes.contains('\n') ? '\n' : '\r'))
+    {
     }
-    return 0;
-}
+
+    /// 0 behind the end of the line.
+    char at(IniPosition position)
+    {
+        if (position.line != m_line || position.column < m_column) {
+            m_line = position.line;
+            m_column = 0;
+            m_next = 0;
+        }
+        const QByteArray &line = m_lines.at(m_line - 1);
+        for (; m_next < line.size() && m_column < position.column; ++m_next) {
+            if ((line.at(m_next) & 0xc0) != 0x80 && ++m_column == position.column)
+                m_byte = line.at(m_next);
+        }
+        return m_column == position.column ? m_byte : '\0';
+    }
+
+private:
+    const QList<QByteArray> m_lines;
+    int m_line = 0;
+    int m_column = 0; ///< Of the character before the next byte.
+    int m_next = 0;
+    char m_byte = 0;
+};
 
 void checkProblems(FileFindings *findings)
 {
     const QByteArray &bytes = findings->file().bytes();
-    QList<QByteArray> lines;
+    ByteCursor cursor(bytes);
     int quoteLine = 0;
     const QVector<IniProblem> problems = iniProblems(bytes);
     for (const IniProblem &problem : problems) {
@@ -91,9 +112,7 @@ void checkProblems(FileFindings *findings)
             addProblem(problem, findings);
             continue;
         }
-        if (lines.isEmpty())
-            lines = bytes.split(bytes.contains('\n') ? '\n' : '\r');
-        const char byte = byteAt(lines, problem.position);
+        const char byte = cursor.at(problem.position);
         const bool isWide = (byte >= '\xef' && byte <= '\xf4') || byte == '\\';
         // Of two quotes the first says it all. One that is not closed is known by its beginning.
         if (byte != 0 && (isWide || problem.position.line != quoteLine))

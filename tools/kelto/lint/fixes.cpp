@@ -8,9 +8,11 @@
 #include "lint/linter.h"
 
 #include <QFile>
+#include <QMap>
 #include <QTemporaryDir>
 
 #include <algorithm>
+#include <iterator>
 
 namespace {
 
@@ -24,21 +26,16 @@ public:
     /// Whether @p edits do not touch what was taken before.
     bool take(const QVector<TextEdit> &edits)
     {
-        for (const TextEdit &edit : edits) {
-            const auto touches = [&edit](const TextEdit &taken) {
-                return edit.begin <= taken.end && taken.begin <= edit.end;
-            };
-            if (std::any_of(m_edits.cbegin(), m_edits.cend(), touches))
-                return false;
-        }
-        m_edits += edits;
+        if (std::any_of(edits.cbegin(), edits.cend(),
+                        [this](const TextEdit &edit) { return touches(edit); }))
+            return false;
+        for (const TextEdit &edit : edits)
+            m_edits.insert(edit.begin, edit);
         return true;
     }
 
-    QByteArray replaced(const QByteArray &bytes)
+    QByteArray replaced(const QByteArray &bytes) const
     {
-        std::sort(m_edits.begin(), m_edits.end(),
-                  [](const TextEdit &a, const TextEdit &b) { return a.begin < b.begin; });
         QByteArray result;
         int at = 0;
         for (const TextEdit &edit : qAsConst(m_edits)) {
@@ -49,7 +46,14 @@ public:
     }
 
 private:
-    QVector<TextEdit> m_edits;
+    /// Since those that were taken do not touch, only the last before the end of @p edit can.
+    bool touches(const TextEdit &edit) const
+    {
+        const auto behind = m_edits.upperBound(edit.end);
+        return behind != m_edits.cbegin() && std::prev(behind)->end >= edit.begin;
+    }
+
+    QMap<int, TextEdit> m_edits; ///< By where they begin.
 };
 
 /// @p file with as many fixes as do not touch each other. Empty findings when there is none.

@@ -165,8 +165,9 @@ class UndeclaredKeys
 public:
     explicit UndeclaredKeys(const LintItem &item)
         : m_parameters(declaredIn(item, QStringLiteral("Attribute")))
-        , m_all(m_parameters + declaredIn(item, QStringLiteral("Result")))
-        , m_known(m_all.cbegin(), m_all.cend())
+        , m_all(m_parameters.names() + declaredIn(item, QStringLiteral("Result")))
+        , m_knownParameters(m_parameters.names().cbegin(), m_parameters.names().cend())
+        , m_known(m_all.names().cbegin(), m_all.names().cend())
     {
     }
 
@@ -181,13 +182,13 @@ public:
             || name.contains(QLatin1Char('/')))
             return;
         const bool isForParameters = key.section == describing.constFirst();
-        if (isForParameters ? m_parameters.contains(name) : m_known.contains(name))
+        if ((isForParameters ? m_knownParameters : m_known).contains(name))
             return;
         const QString text = isForParameters
             ? Command::tr("there is no parameter \"%1\".")
             : Command::tr("there is neither a parameter nor a result \"%1\".");
-        const QStringList candidates = isForParameters ? m_parameters : m_all;
-        const QString nearest = didYouMean(name, candidates);
+        const NearestNames &candidates = isForParameters ? m_parameters : m_all;
+        const QString nearest = didYouMean(candidates.nearest(name));
         findings->add("undeclared-key", key.key->position,
                       nearest.isEmpty() ? text.arg(name).chopped(1) : text.arg(name) + nearest);
     }
@@ -202,8 +203,9 @@ private:
         return names;
     }
 
-    const QStringList m_parameters;
-    const QStringList m_all;
+    const NearestNames m_parameters;
+    const NearestNames m_all;
+    const QSet<QString> m_knownParameters;
     const QSet<QString> m_known;
 };
 

@@ -26,13 +26,22 @@ public:
     explicit DeclaredKeys(const LintItem &item)
         : m_parameters(lastParts(item.namesIn(QStringLiteral("Attribute"))))
         , m_results(lastParts(item.namesIn(QStringLiteral("Result"))))
+        , m_all(m_parameters + m_results.names())
+        , m_knownParameters(m_parameters.cbegin(), m_parameters.cend())
+        , m_knownResults(m_results.names().cbegin(), m_results.names().cend())
     {
+    }
+
+    bool contain(const QString &key) const
+    {
+        return m_knownParameters.contains(key) || m_knownResults.contains(key);
     }
 
     /// Whether the unknown @p part of a hint is one of them, with or without "@" and a mode behind.
     bool explain(const Problem &problem) const
     {
-        return areIn(m_results, problem) || (!isOfResult(problem) && areIn(m_parameters, problem));
+        return isIn(m_knownResults, problem.part)
+            || (!isOfResult(problem) && isIn(m_knownParameters, problem.part));
     }
     /// Whether a condition begins with one of them that is not in @p item.
     bool explainCondition(const Problem &problem, const AUTH_INF &item) const
@@ -41,13 +50,13 @@ public:
             return problem.value.startsWith(key) && !item.inner_mode_contains(key);
         });
     }
-    bool areEmpty() const { return m_parameters.isEmpty() && m_results.isEmpty(); }
+    bool areEmpty() const { return m_all.names().isEmpty(); }
 
     /// The one that was most likely meant. Behind "@" there is a mode.
     QString suggestionFor(const Problem &problem) const
     {
         const QString key = problem.part.section(QLatin1Char('@'), 0, 0);
-        return didYouMean(key, isOfResult(problem) ? m_results : m_parameters + m_results);
+        return didYouMean((isOfResult(problem) ? m_results : m_all).nearest(key));
     }
 
 private:
@@ -61,15 +70,22 @@ private:
     {
         return problem.extraKey.startsWith(QLatin1String("Belong."));
     }
-    static bool areIn(const QStringList &keys, const Problem &problem)
+    /// Whether @p part is one of @p keys, with or without "@" and a mode behind it.
+    static bool isIn(const QSet<QString> &keys, const QString &part)
     {
-        return std::any_of(keys.cbegin(), keys.cend(), [&](const QString &key) {
-            return problem.part == key || problem.part.startsWith(key + QLatin1Char('@'));
-        });
+        for (int at = part.indexOf(QLatin1Char('@')); at >= 0;
+             at = part.indexOf(QLatin1Char('@'), at + 1)) {
+            if (keys.contains(part.left(at)))
+                return true;
+        }
+        return keys.contains(part);
     }
 
-    QStringList m_parameters;
-    QStringList m_results;
+    const QStringList m_parameters;
+    const NearestNames m_results;
+    const NearestNames m_all;
+    const QSet<QString> m_knownParameters;
+    const QSet<QString> m_knownResults;
 };
 
 /// What has another cause, which is a finding of its own.
@@ -121,6 +137,72 @@ void findProblems(const ItemFile &file, Findings *findings)
     }
 }
 
+const QStringList &hintWords()
+{
+    static const QStringList words { QStringLiteral("Default"),  QStringLiteral("Min"),
+                                     QStringLiteral("Max"),      QStringLiteral("Choices"),
+                                     QStringLiteral("When"),     QStringLiteral("Optional"),
+                                     QStringLiteral("Advanced"), QStringLiteral("Help"),
+                                     QStringLiteral("Label"),    QStringLiteral("Files"),
+                                     QStringLiteral("Belong") };
+    return words;
+}
+
+/// The word of a hint that @p word most likely stands for; empty when there is none. Of short words
+/// only swapped letters count: one wrong letter makes another word of them.
+QString meantHint(const QString &word)
+{
+    static const QHash<QString, QString> longForms {
+        { QStringLiteral("minimum"), QStringLiteral("Min") },
+        { QStringLiteral("maximum"), QStringLiteral("Max") },
+    };
+    const QString small = word.simplified().toLower();
+    const QString meant = longForms.value(small, nearestName(word, hintWords()));
+    if (meant.size() > 3 || longForms.contains(small))
+        return meant;
+    QString letters = small;
+    QString meantLetters = meant.toLower();
+    std::sort(letters.begin(), letters.end());
+    std::sort(meantLetters.begin(), meantLetters.end());
+    return letters == meantLetters ? meant : QString();
+}
+
+/// The hint that the extra key @p name most likely stands for; empty when it is one, or belongs to
+/// the host. Keys may hold a "." or a blank, as may what divides them from the word.
+QString meantExtraKey(const QString &name, const DeclaredKeys &keys)
+{
+    for (int at = 1; at < name.size(); ++at) {
+        const bool isDot = name.at(at) == QLatin1Char('.');
+        if (!isDot && !name.at(at).isSpace())
+            continue;
+        const QString word = name.left(at);
+        const QString rest = name.mid(at + 1);
+        if (!keys.contain(rest) && !keys.contain(rest.section(QLatin1Char('@'), 0, -2)))
+            continue;
+        const QString meant = meantHint(word);
+        if (!meant.isEmpty())
+            return isDot && meant == word ? QString() : meant + QLatin1Char('.') + rest;
+    }
+    return {};
+}
+
+void findMisspeltHints(const ItemFile &file, Findings *findings)
+{
+    const DeclaredKeys keys { LintItem(file) };
+    if (keys.areEmpty())
+        return;
+    for (const ItemFileKey &key : file.keys()) {
+        if (key.section != QLatin1String("ExtraKey"))
+            continue;
+        const QString meant = meantExtraKey(key.name, keys);
+        if (meant.isEmpty())
+            continue;
+        FileFindings(file, findings)
+            .add("misspelt-hint", key.position,
+                 Command::tr("the extra key \"%1\" is no hint.").arg(key.name) + didYouMean(meant));
+    }
+}
+
 /// What forms and hints know, and what the words of a text or a choice mean to a person.
 const QStringList &knownObjectNames()
 {
@@ -168,6 +250,7 @@ void findObjectNames(const ItemFile &file, Findings *findings)
 void check(const ItemFile &file, Findings *findings)
 {
     findProblems(file, findings);
+    findMisspeltHints(file, findings);
     findObjectNames(file, findings);
 }
 
@@ -186,6 +269,16 @@ RuleArea hintRules()
                                 "another one does not count."),
               EXAMPLE_ITEM EXAMPLE_LENGTH "[ExtraKey]\nDefault.Length=5\nMin.Length=10\n",
               EXAMPLE_ITEM EXAMPLE_LENGTH "[ExtraKey]\nDefault.Length=10\nMin.Length=10\n" },
+            { "misspelt-hint", Severity::Warning,
+              QT_TRANSLATE_NOOP("Command", "An extra key is nearly a hint"),
+              QT_TRANSLATE_NOOP(
+                  "Command",
+                  "The word in front of the key of a parameter or a result is similar "
+                  "to one of a hint, and nothing is read from it. Capital letters "
+                  "count, and a \".\" stands behind the word. Switch this off where "
+                  "the host has words like these."),
+              EXAMPLE_ITEM EXAMPLE_LENGTH "[ExtraKey]\nDefualt.Length=5\n",
+              EXAMPLE_ITEM EXAMPLE_LENGTH "[ExtraKey]\nDefault.Length=5\n" },
             { "unknown-object-name", Severity::Warning,
               QT_TRANSLATE_NOOP("Command", "An object name is none of the known words"),
               QT_TRANSLATE_NOOP("Command",

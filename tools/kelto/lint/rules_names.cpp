@@ -91,6 +91,7 @@ void findLikeModes(const ItemFile &file, Findings *findings)
 {
     QHash<QString, QString> firsts;
     const QStringList modes = file.item().inner_mode_nameList;
+    const ModePositions positions(file);
     for (int i = 0; i < modes.size(); ++i) {
         const QString &mode = modes.at(i);
         const QString name = comparableName(mode);
@@ -98,7 +99,7 @@ void findLikeModes(const ItemFile &file, Findings *findings)
         firsts.insert(name, first);
         if (first != mode) {
             FileFindings(file, findings)
-                .add("like-modes", modePosition(file, i),
+                .add("like-modes", positions.at(i),
                      Command::tr("the inner modes \"%1\" and \"%2\" differ only in case or white "
                                  "space")
                          .arg(first, mode));
@@ -117,11 +118,12 @@ void findColons(const ItemFile &file, Findings *findings)
          Command::tr("the name \"%1\" of the module holds a \":\""));
     look(item.group, fieldPosition(file, "group"),
          Command::tr("the name \"%1\" of the group holds a \":\""));
+    const ModePositions positions(file);
     for (int i = 0; i < item.inner_mode_nameList.size(); ++i) {
         // A mode that is called like its module is the same mistake.
         const QString &mode = item.inner_mode_nameList.at(i);
         if (mode != item.name)
-            look(mode, modePosition(file, i),
+            look(mode, positions.at(i),
                  Command::tr("the name \"%1\" of the inner mode holds a \":\""));
     }
 }

@@ -89,11 +89,28 @@ inline bool isDeclared(const ItemFile &file, const QString &name)
         || file.find(QStringLiteral("Result"), name);
 }
 
-/// Where the name of the mode at @p index begins.
-inline IniPosition modePosition(const ItemFile &file, int index)
+/// Where the names of modes begin. The list is read once, since it can be long.
+class ModePositions
 {
-    return elementPosition(
-        file, file.find(QStringLiteral("KeltoItem"), QStringLiteral("inner_mode_nameList")), index);
-}
+public:
+    explicit ModePositions(const ItemFile &file)
+        : m_file(file)
+        , m_key(file.find(QStringLiteral("KeltoItem"), QStringLiteral("inner_mode_nameList")))
+        , m_spelt(m_key ? speltValueOf(rawValueOf(file, *m_key)) : SpeltValue())
+    {
+    }
+
+    IniPosition at(int index) const
+    {
+        if (index >= 0 && index < m_spelt.size())
+            return m_file.positionAt(m_spelt.at(index).text.data());
+        return m_key ? m_key->valuePosition : IniPosition();
+    }
+
+private:
+    const ItemFile &m_file;
+    const ItemFileKey *const m_key;
+    const SpeltValue m_spelt;
+};
 
 #endif

@@ -18,11 +18,12 @@ void findModesTwice(const ItemFile &file, Findings *findings)
 {
     QHash<QString, int> counts;
     const QStringList modes = file.item().inner_mode_nameList;
+    const ModePositions positions(file);
     for (int i = 0; i < modes.size(); ++i) {
         const QString &mode = modes.at(i);
         if (++counts[mode] == 2 && !mode.isEmpty()) {
             FileFindings(file, findings)
-                .add("mode-twice", modePosition(file, i),
+                .add("mode-twice", positions.at(i),
                      Command::tr("two inner modes are named \"%1\"").arg(mode));
         }
     }
@@ -63,6 +64,7 @@ void findModesOfSeveralModules(const QVector<ItemFile> &files, Findings *finding
         const AUTH_INF &item = file.item();
         if (!groups.contains(item.group))
             continue;
+        const ModePositions positions(file);
         for (int i = 0; i < item.inner_mode_nameList.size(); ++i) {
             const QString &mode = item.inner_mode_nameList.at(i);
             const ItemFile *&first = firsts[{ item.group, mode }];
@@ -70,7 +72,7 @@ void findModesOfSeveralModules(const QVector<ItemFile> &files, Findings *finding
                 first = &file;
             } else if (first->item().name != item.name && !mode.isEmpty()) {
                 FileFindings(file, findings)
-                    .add("mode-twice", modePosition(file, i),
+                    .add("mode-twice", positions.at(i),
                          Command::tr("the group \"%1\" has an inner mode \"%2\" already: %3")
                              .arg(item.group, mode, first->path()));
             }

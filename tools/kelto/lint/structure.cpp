@@ -38,8 +38,12 @@ public:
         : m_findings(findings)
         , m_item(findings->file())
         , m_modes(LintItem::elements(m_item.field("inner_mode_nameList")))
+        , m_knownModes(m_modes.cbegin(), m_modes.cend())
+        , m_nearestModes(m_modes)
         , m_parameters(m_item.namesIn(attribute()))
     {
+        for (const QString &mode : m_modes)
+            m_modesInSmallLetters.insert(mode.toLower(), mode);
     }
 
     void check()
@@ -63,12 +67,6 @@ private:
                 return section.position;
         }
         return {};
-    }
-
-    const char *elementPlace(const ItemFileKey &key, int index) const
-    {
-        const SpeltValue spelt = speltValueOf(rawValueOf(m_findings->file(), key));
-        return spelt.at(qMin(index, spelt.size() - 1)).text.data();
     }
 
     /// A line behind that of @p key.
@@ -192,46 +190,47 @@ private:
     {
         QSet<QString> meant;
         const QStringList names = m_item.namesIn(belong());
+        const NearestNames parameters(m_parameters);
         for (const QString &name : names) {
             if (!m_item.find(attribute(), name))
-                meant.insert(nearestName(name, m_parameters));
+                meant.insert(parameters.nearest(name));
         }
         return meant;
     }
 
     bool checkModes(const ItemFileKey &key, const QStringList &modes)
     {
-        bool isRight = true;
+        QVector<int> unknown;
         for (int i = 0; i < modes.size(); ++i) {
-            const QString &mode = modes.at(i);
-            if (m_modes.contains(mode)) {
-                m_used.insert(mode);
-                continue;
-            }
-            isRight = false;
-            const QString nearest = didYouMean(mode, m_modes);
-            const QString text = Command::tr("there is no mode \"%1\".").arg(mode);
-            m_findings->add("unknown-mode", elementPlace(key, i),
-                            nearest.isEmpty() ? text.chopped(1) : text + nearest,
-                            fixOfMode(key, i));
+            if (m_knownModes.contains(modes.at(i)))
+                m_used.insert(modes.at(i));
+            else
+                unknown.append(i);
         }
-        return isRight;
+        if (!unknown.isEmpty())
+            addUnknownModes(key, modes, unknown);
+        return unknown.isEmpty();
+    }
+
+    void addUnknownModes(const ItemFileKey &key, const QStringList &modes,
+                         const QVector<int> &unknown)
+    {
+        const SpeltValue spelt = speltValueOf(rawValueOf(m_findings->file(), key));
+        for (const int i : unknown) {
+            const QString nearest = didYouMean(m_nearestModes.nearest(modes.at(i)));
+            const QString text = Command::tr("there is no mode \"%1\".").arg(modes.at(i));
+            const std::string_view place = spelt.at(qMin(i, spelt.size() - 1)).text;
+            m_findings->add("unknown-mode", place.data(),
+                            nearest.isEmpty() ? text.chopped(1) : text + nearest,
+                            i < spelt.size() ? fixOfMode(modes.at(i), place) : QVector<TextEdit>());
+        }
     }
 
     /// Another spelling of one mode only, as far as it is not in quotes.
-    QVector<TextEdit> fixOfMode(const ItemFileKey &key, int index) const
+    QVector<TextEdit> fixOfMode(const QString &mode, std::string_view text) const
     {
-        const SpeltValue spelt = speltValueOf(rawValueOf(m_findings->file(), key));
-        const QString mode = key.value.at(index);
-        QStringList alike;
-        for (const QString &each : m_modes) {
-            if (each.compare(mode, Qt::CaseInsensitive) == 0)
-                alike.append(each);
-        }
-        if (alike.size() != 1 || index >= spelt.size())
-            return {};
-        const std::string_view text = spelt.at(index).text;
-        if (QByteArray(text.data(), int(text.size())) != mode.toUtf8())
+        const QStringList alike = m_modesInSmallLetters.values(mode.toLower());
+        if (alike.size() != 1 || QByteArray(text.data(), int(text.size())) != mode.toUtf8())
             return {};
         return { m_findings->edit(text, alike.constFirst().toUtf8()) };
     }
@@ -242,11 +241,15 @@ private:
         if (m_parameters.isEmpty()
             && LintItem::elements(m_item.field("name")) == QStringList(QStringLiteral("Update")))
             return;
+        if (m_modes.isEmpty())
+            return;
+        const SpeltValue spelt
+            = speltValueOf(rawValueOf(m_findings->file(), *m_item.field("inner_mode_nameList")));
         for (int i = 0; i < m_modes.size(); ++i) {
             if (m_used.contains(m_modes.at(i)))
                 continue;
             m_findings->add("mode-without-parameters",
-                            elementPlace(*m_item.field("inner_mode_nameList"), i),
+                            spelt.at(qMin(i, spelt.size() - 1)).text.data(),
                             Command::tr("no parameter belongs to the mode \"%1\", and values for "
                                         "it are never complete")
                                 .arg(m_modes.at(i)));
@@ -297,6 +300,9 @@ private:
     FileFindings *const m_findings;
     const LintItem m_item;
     const QStringList m_modes;
+    const QSet<QString> m_knownModes;
+    const NearestNames m_nearestModes;
+    QMultiHash<QString, QString> m_modesInSmallLetters;
     const QStringList m_parameters;
     QSet<QString> m_used;
 };

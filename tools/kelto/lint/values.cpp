@@ -69,7 +69,10 @@ private:
     void checkSpelling()
     {
         // The bytes of other types than text are written in escapes.
-        const bool isBinary = m_key.value.constFirst().startsWith(QLatin1Char('@'));
+        const bool isBinary
+            = std::any_of(m_key.value.cbegin(), m_key.value.cend(), [](const QString &element) {
+                  return isTyped(element) || isUnsafe(element) || isDamaged(element);
+              });
         for (const char *const place : isBinary ? QVector<const char *>() : m_spelt.escapes) {
             m_findings->add("unquoted-escape", place,
                             Command::tr("the backslash and what follows are read as another "

@@ -2034,5 +2034,17 @@ rule and its value one of error, warning and off:
         <source>The same, with their Chinese names.</source>
         <translation>同上，带有中文译名。</translation>
     </message>
+    <message>
+        <source>the extra key &quot;%1&quot; is no hint.</source>
+        <translation>附加键“%1”不是提示。</translation>
+    </message>
+    <message>
+        <source>An extra key is nearly a hint</source>
+        <translation>附加键与提示相近</translation>
+    </message>
+    <message>
+        <source>The word in front of the key of a parameter or a result is similar to one of a hint, and nothing is read from it. Capital letters count, and a &quot;.&quot; stands behind the word. Switch this off where the host has words like these.</source>
+        <translation>参数或结果的键之前的词与提示的词相近，但不会从中读取任何内容。大小写有区别，词后须有“.”。宿主自身使用这类词时，请关闭此规则。</translation>
+    </message>
 </context>
 </TS>
