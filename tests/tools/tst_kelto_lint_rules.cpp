@@ -14,8 +14,6 @@
 #include <QRegularExpression>
 #include <QTest>
 
-#include <algorithm>
-
 class TestKeltoLintRules : public DirectoryTest
 {
     Q_OBJECT
@@ -23,10 +21,6 @@ class TestKeltoLintRules : public DirectoryTest
 private Q_SLOTS:
     void finds_data();
     void finds();
-    void findsInOneFile_data();
-    void findsInOneFile();
-    void findsInLargeFiles_data();
-    void findsInLargeFiles();
 };
 
 namespace {
@@ -336,79 +330,6 @@ void TestKeltoLintRules::finds()
     const QVector<RuleArea> areas { nameRules(), registryRules(), codeRules(), hintRules(),
                                     unitRules() };
     QCOMPARE(linesOf(findingsIn(writeFiles(files), areas)), lines);
-}
-
-void TestKeltoLintRules::findsInOneFile_data()
-{
-    QTest::addColumn<QByteArray>("file");
-    QTest::addColumn<QStringList>("lines");
-
-    const auto row = [](const char *name, const QByteArray &file, const QStringList &lines) {
-        QTest::newRow(name) << file << lines;
-    };
-
-    row("escapes behind an \"@\"", "[KeltoItem]\nname=Beam\nicon=@home\\new\\x41.png\n",
-        { "3:11 unquoted-escape the backslash and what follows are read as another character; "
-          "write a backslash as \\\\, or put quotes around the text where the other character is "
-          "meant",
-          "3:15 unquoted-escape the backslash and what follows are read as another character; "
-          "write a backslash as \\\\, or put quotes around the text where the other character is "
-          "meant" });
-}
-
-void TestKeltoLintRules::findsInOneFile()
-{
-    QFETCH(QByteArray, file);
-    QFETCH(QStringList, lines);
-
-    writeFile("first.ini", file);
-    Findings findings;
-    for (const RuleArea &area : { damageRules(), keyRules(), structureRules(), valueRules() })
-        area.checkFile(ItemFile("first.ini"), &findings);
-    QStringList found = linesOf(findings);
-    QCOMPARE(found.replaceInStrings(QRegularExpression("^first.ini:"), {}), lines);
-}
-
-void TestKeltoLintRules::findsInLargeFiles_data()
-{
-    QTest::addColumn<QByteArray>("file");
-    QTest::addColumn<QString>("rule");
-    QTest::addColumn<int>("count");
-
-    // Comparing each of these with each other takes minutes.
-    QByteArray parameters = "[KeltoItem]\nname=Beam\n[Attribute]\n";
-    QByteArray belong = "[Belong]\n";
-    QByteArrayList modes;
-    for (int i = 0; i < 20000; ++i) {
-        const QByteArray letters
-            = "key" + QByteArray::number(i).replace('0', 'a').replace('1', 'b');
-        parameters += letters + "=\n";
-        belong += 'x' + letters + "=Mode\n";
-    }
-    for (int i = 0; i < 100000; ++i)
-        modes.append("mode" + QByteArray::number(i));
-    const QByteArray list = modes.join(',');
-    QTest::newRow("parameters") << parameters + belong << QString("undeclared-key") << 20000;
-    QTest::newRow("quotes") << "[KeltoItem]\nname=a" + QByteArray(5000000, '"') + '\n'
-                            << QString("stray-quote") << 1;
-    QTest::newRow("unknown modes") << "[KeltoItem]\ninner_mode_nameList=" + list
-            + "\n[Attribute]\na=\n[Belong]\na=X" + modes.join(",X") + '\n'
-                                   << QString("unknown-mode") << 100000;
-    QTest::newRow("modes without parameters") << "[KeltoItem]\ninner_mode_nameList=First," + list
-            + "\n[Attribute]\na=\n" + "[Belong]\na=First\n"
-                                              << QString("mode-without-parameters") << 100000;
-}
-
-void TestKeltoLintRules::findsInLargeFiles()
-{
-    QFETCH(QByteArray, file);
-    QFETCH(QString, rule);
-    QFETCH(int, count);
-
-    writeFile("first.ini", file);
-    const Findings findings = findingsIn({ "first.ini" });
-    const auto isOfRule = [&rule](const Finding &finding) { return finding.rule == rule; };
-    QCOMPARE(int(std::count_if(findings.cbegin(), findings.cend(), isOfRule)), count);
 }
 
 QTEST_GUILESS_MAIN(TestKeltoLintRules)

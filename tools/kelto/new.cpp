@@ -42,7 +42,7 @@ ExitCode run(const QCommandLineParser &line, Console &console)
     NewItem item { line.positionalArguments().constFirst(), line.value(QStringLiteral("group")),
                    !line.isSet(QStringLiteral("no-exclusive")) };
     if (!line.isSet(QStringLiteral("group")))
-        item.group = QStringLiteral("Modules");
+        item.group = item.name;
     for (const QString &name : { item.name, item.group }) {
         const QString complaint = complaintOnName(name);
         if (!complaint.isEmpty()) {
@@ -74,7 +74,7 @@ Command newCommand()
                  QT_TRANSLATE_NOOP("Command", "Write this file.") },
                { { QStringLiteral("group") },
                  "GROUP",
-                 QT_TRANSLATE_NOOP("Command", "The group of the module; else \"Modules\".") },
+                 QT_TRANSLATE_NOOP("Command", "The group of the module; else its name.") },
                { { QStringLiteral("no-exclusive") },
                  nullptr,
                  QT_TRANSLATE_NOOP("Command",

@@ -23,15 +23,22 @@ bool areAlike(const QString &a, const QString &b)
 
 // --- Sections ----------------------------------------------------------------------
 
-bool hasSection(const ItemFile &file, const QString &name)
+/// The names of the sections, each once, by their small letters.
+QMultiHash<QString, QString> sectionSpellings(const ItemFile &file)
 {
-    return std::any_of(file.sections().cbegin(), file.sections().cend(),
-                       [&name](const ItemFileSection &each) { return each.name == name; });
+    QSet<QString> names;
+    for (const ItemFileSection &section : file.sections())
+        names.insert(section.name);
+    QMultiHash<QString, QString> spellings;
+    for (const QString &name : qAsConst(names))
+        spellings.insert(name.toLower(), name);
+    return spellings;
 }
 
 void checkSections(FileFindings *findings)
 {
     const ItemFile &file = findings->file();
+    const auto spellings = sectionSpellings(file);
     for (const ItemFileSection &section : file.sections()) {
         if (knownSections().contains(section.name)
             || areAlike(section.name, QStringLiteral("General")))
@@ -43,7 +50,9 @@ void checkSections(FileFindings *findings)
             findings->add("unknown-section", section.position, text.chopped(1));
             continue;
         }
-        const bool isClear = areAlike(nearest, section.name) && !hasSection(file, nearest);
+        // Of several that would become one, which other text comes before which is not known.
+        const bool isClear
+            = areAlike(nearest, section.name) && spellings.count(nearest.toLower()) == 1;
         findings->add("misspelt-section", section.position,
                       text + didYouMean(section.name, knownSections()),
                       isClear
@@ -116,12 +125,17 @@ void checkSpelling(const ItemFileKey &key, FileFindings *findings)
         findings->add("nameless-key", key.position, Command::tr("no key stands before the \"=\""));
     } else if (foreign != key.spelt.cend()) {
         const QByteArray spelt = respelt(key.spelt);
+        const auto isTaken = [&](const QByteArray &other) {
+            const std::string_view view(other.constData(), std::size_t(other.size()));
+            return findings->file().find(key.section, SettingsKey { {}, view }.text());
+        };
         findings->add("non-ascii-key", &*foreign,
                       Command::tr("the key is read as \"%1\": other letters than ASCII are "
                                   "written as %U and four hexadecimal digits in a key")
                           .arg(key.name),
-                      spelt.isEmpty() ? QVector<TextEdit>()
-                                      : QVector<TextEdit> { findings->edit(key.spelt, spelt) });
+                      spelt.isEmpty() || isTaken(spelt)
+                          ? QVector<TextEdit>()
+                          : QVector<TextEdit> { findings->edit(key.spelt, spelt) });
     } else if (const char *const escape = oddEscapeIn(key.spelt)) {
         findings->add("escape-in-key", escape,
                       Command::tr("the key is read as \"%1\"; write \"%\" as %25").arg(key.name));
@@ -152,8 +166,13 @@ void checkField(const LintItem &item, const ItemFileKey &key, FileFindings *find
         findings->add("unknown-key", key.position, text.chopped(1));
         return;
     }
-    const bool isClear
-        = areAlike(nearest, key.name) && item.field(nearest.toLatin1().constData()) == &key;
+    const auto isAnother = [&](const LintKey &each) {
+        return each.section == knownSections().constFirst() && areAlike(each.key->name, nearest)
+            && each.key->name != key.name;
+    };
+    const bool isClear = areAlike(nearest, key.name)
+        && item.field(nearest.toLatin1().constData()) == &key
+        && std::none_of(item.keys().cbegin(), item.keys().cend(), isAnother);
     findings->add("misspelt-key", key.position, text + didYouMean(key.name, knownFields()),
                   isClear ? QVector<TextEdit> { findings->edit(key.spelt, nearest.toUtf8()) }
                           : QVector<TextEdit>());
@@ -163,15 +182,16 @@ void checkField(const LintItem &item, const ItemFileKey &key, FileFindings *find
 class UndeclaredKeys
 {
 public:
-    explicit UndeclaredKeys(const LintItem &item)
+    UndeclaredKeys(const ItemFile &file, const LintItem &item)
         : m_parameters(declaredIn(item, QStringLiteral("Attribute")))
         , m_all(m_parameters.names() + declaredIn(item, QStringLiteral("Result")))
         , m_knownParameters(m_parameters.names().cbegin(), m_parameters.names().cend())
         , m_known(m_all.names().cbegin(), m_all.names().cend())
+        , m_explained(explainedIn(file, item))
     {
     }
 
-    void check(const LintKey &key, FileFindings *findings) const
+    void check(const LintKey &key, FileFindings *findings)
     {
         static const QStringList describing {
             QStringLiteral("Belong"), QStringLiteral("Group"), QStringLiteral("ObjectName"),
@@ -184,6 +204,9 @@ public:
         const bool isForParameters = key.section == describing.constFirst();
         if ((isForParameters ? m_knownParameters : m_known).contains(name))
             return;
+        if (m_explained.contains(name) && m_reported.contains(name))
+            return;
+        m_reported.insert(name);
         const QString text = isForParameters
             ? Command::tr("there is no parameter \"%1\".")
             : Command::tr("there is neither a parameter nor a result \"%1\".");
@@ -194,6 +217,26 @@ public:
     }
 
 private:
+    /// The names whose declaration is there, and another finding says why it is not read.
+    static QSet<QString> explainedIn(const ItemFile &file, const LintItem &item)
+    {
+        QSet<QString> names;
+        for (const LintKey &key : item.keys()) {
+            if (!knownSections().contains(key.section))
+                names.insert(key.key->name);
+            const QStringList parts = key.key->name.split(QLatin1Char('/'));
+            if (parts.size() > 1)
+                names += QSet<QString>(parts.cbegin(), parts.cend());
+        }
+        IniReader reader(file.bytes());
+        while (reader.next()) {
+            const std::string_view text = reader.line().text;
+            if (reader.line().kind == IniLine::Other)
+                names.insert(SettingsKey { {}, text }.text().trimmed());
+        }
+        return names;
+    }
+
     /// Of a key with a "/" the last part is what is looked up.
     static QStringList declaredIn(const LintItem &item, const QString &section)
     {
@@ -207,6 +250,8 @@ private:
     const NearestNames m_all;
     const QSet<QString> m_knownParameters;
     const QSet<QString> m_known;
+    const QSet<QString> m_explained;
+    QSet<QString> m_reported;
 };
 
 // --- Keys that are given twice -----------------------------------------------------
@@ -259,7 +304,7 @@ void check(const ItemFile &file, Findings *findings)
 {
     FileFindings added(file, findings);
     const LintItem item(file);
-    const UndeclaredKeys undeclared(item);
+    UndeclaredKeys undeclared(file, item);
     checkSections(&added);
     for (const LintKey &key : item.keys()) {
         if (key.key->section.isEmpty()) {

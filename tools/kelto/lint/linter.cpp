@@ -48,6 +48,13 @@ std::vector<CheckedFile> checkedFiles(const QStringList &paths, Console &console
     return checked;
 }
 
+/// As some editors save it. Read as UTF-8 such a file would be nothing but findings.
+bool isUtf16(const ItemFile &file)
+{
+    const QByteArray start = file.bytes().left(2);
+    return start == "\xff\xfe" || start == "\xfe\xff" || start.contains('\0');
+}
+
 bool standsBefore(const Finding &a, const Finding &b)
 {
     return std::tie(a.path, a.position.line, a.position.column)
@@ -58,6 +65,13 @@ bool standsBefore(const Finding &a, const Finding &b)
 
 Findings findingsIn(const ItemFile &file)
 {
+    if (isUtf16(file)) {
+        return { { QStringLiteral("not-utf8"),
+                   file.path(),
+                   {},
+                   Command::tr("the file is UTF-16; save it as UTF-8"),
+                   {} } };
+    }
     Findings findings;
     for (const RuleArea &area : ruleAreas()) {
         if (area.checkFile)
@@ -80,15 +94,17 @@ Findings findingsAmong(const QVector<ItemFile> &files)
 LintResult lint(const QStringList &paths, const LintConfig &config, Console &console)
 {
     LintResult result;
+    QVector<ItemFile> others; // What is wrong with them is known.
     for (CheckedFile &checked : checkedFiles(paths, console)) {
         if (!checked.file->error().isEmpty()) {
             result.unreadable.append(checked.file->error());
             continue;
         }
         result.findings += checked.findings;
-        result.files.append(std::move(*checked.file));
+        (isUtf16(*checked.file) ? others : result.files).append(std::move(*checked.file));
     }
     result.findings += findingsAmong(result.files);
+    result.files += others;
     const auto isOff = [&config](const Finding &finding) {
         return config.severity(finding.path, finding.rule) == Severity::Off;
     };

@@ -163,7 +163,15 @@ void checkDeclaration(const ItemFileKey &key, FileFindings *findings)
     }
 }
 
-void checkUnits(const ItemFileKey &key, FileFindings *findings)
+bool isConverted(const LintKey &key)
+{
+    const QStringList units = LintItem::elements(key.key);
+    return key.value == ItemValue::Units && units.size() > 1
+        && units.constFirst() != units.constLast();
+}
+
+/// A module that converts other units most likely means to convert this one, too.
+void checkUnits(const ItemFileKey &key, bool areOthersConverted, FileFindings *findings)
 {
     const int count = LintItem::elements(&key).size();
     if (count > 2) {
@@ -175,7 +183,9 @@ void checkUnits(const ItemFileKey &key, FileFindings *findings)
         const QByteArray text(key.speltValue.data(), int(key.speltValue.size()));
         findings->add("single-unit", key.valuePosition,
                       Command::tr("a unit has two texts; the only one here is read as both"),
-                      { findings->edit(key.speltValue, text + ", " + text) });
+                      areOthersConverted ? QVector<TextEdit>()
+                                         : QVector<TextEdit> {
+                                             findings->edit(key.speltValue, text + ", " + text) });
     }
 }
 
@@ -220,6 +230,8 @@ void check(const ItemFile &file, Findings *findings)
 {
     FileFindings added(file, findings);
     const LintItem item(file);
+    const bool areUnitsConverted
+        = std::any_of(item.keys().cbegin(), item.keys().cend(), isConverted);
     for (const LintKey &key : item.keys()) {
         if (key.value == ItemValue::Nothing) {
             checkDeclaration(*key.key, &added);
@@ -227,7 +239,7 @@ void check(const ItemFile &file, Findings *findings)
         }
         ValueCheck(key, &added).check();
         if (key.value == ItemValue::Units)
-            checkUnits(*key.key, &added);
+            checkUnits(*key.key, areUnitsConverted, &added);
         else if (key.value == ItemValue::Flag)
             checkFlag(*key.key, &added);
         else if (key.value == ItemValue::Number)

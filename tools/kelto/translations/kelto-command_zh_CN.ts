@@ -1803,8 +1803,8 @@ rule and its value one of error, warning and off:
         <translation>写入此文件。</translation>
     </message>
     <message>
-        <source>The group of the module; else &quot;Modules&quot;.</source>
-        <translation>模块的组；未给出时为“Modules”。</translation>
+        <source>The group of the module; else its name.</source>
+        <translation>模块的组；未给出时为模块的名称。</translation>
     </message>
     <message>
         <source>The group has no selected mode; its modes are not offered.</source>
@@ -2045,6 +2045,10 @@ rule and its value one of error, warning and off:
     <message>
         <source>The word in front of the key of a parameter or a result is similar to one of a hint, and nothing is read from it. Capital letters count, and a &quot;.&quot; stands behind the word. Switch this off where the host has words like these.</source>
         <translation>参数或结果的键之前的词与提示的词相近，但不会从中读取任何内容。大小写有区别，词后须有“.”。宿主自身使用这类词时，请关闭此规则。</translation>
+    </message>
+    <message>
+        <source>the file is UTF-16; save it as UTF-8</source>
+        <translation>文件是 UTF-16；请另存为 UTF-8</translation>
     </message>
 </context>
 </TS>

@@ -1,0 +1,200 @@
+// SPDX-FileCopyrightText: The Kelto developers
+// SPDX-License-Identifier: MIT
+
+// Findings about how one file is written, and what is mended in it.
+
+#include "lint/linter.h"
+
+#include "console.h"
+#include "itemfile.h"
+#include "lint/lintconfig.h"
+#include "support/directorytest.h"
+#include "support/testfiles.h"
+
+#include <QRegularExpression>
+#include <QTest>
+
+#include <algorithm>
+
+class TestKeltoLintFiles : public DirectoryTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void findsInOneFile_data();
+    void findsInOneFile();
+    void mendsWithOneRightAnswerOnly_data();
+    void mendsWithOneRightAnswerOnly();
+    void findsNothingButUtf16();
+    void findsInLargeFiles_data();
+    void findsInLargeFiles();
+};
+
+namespace {
+
+/// "file:line:column rule" and the text.
+QStringList linesOf(const Findings &findings)
+{
+    QStringList lines;
+    for (const Finding &finding : findings) {
+        lines += QString("%1:%2:%3 %4 %5")
+                     .arg(finding.path)
+                     .arg(finding.position.line)
+                     .arg(finding.position.column)
+                     .arg(finding.rule, finding.text);
+    }
+    return lines;
+}
+
+} // namespace
+
+void TestKeltoLintFiles::findsInOneFile_data()
+{
+    QTest::addColumn<QByteArray>("file");
+    QTest::addColumn<QStringList>("lines");
+
+    const auto row = [](const char *name, const QByteArray &file, const QStringList &lines) {
+        QTest::newRow(name) << file << lines;
+    };
+
+    row("escapes behind an \"@\"", "[KeltoItem]\nname=Beam\nicon=@home\\new\\x41.png\n",
+        { "3:11 unquoted-escape the backslash and what follows are read as another character; "
+          "write a backslash as \\\\, or put quotes around the text where the other character is "
+          "meant",
+          "3:15 unquoted-escape the backslash and what follows are read as another character; "
+          "write a backslash as \\\\, or put quotes around the text where the other character is "
+          "meant" });
+    row("a declaration without \"=\" is one more finding for each key",
+        "[KeltoItem]\nname=Beam\n[Attribute]\nLength\n[Unit]\nLength=\n[Symbol]\nLength=l\n"
+        "[Group]\nWidth=\n[Multi]\nWidth=false\n",
+        { "3:1 empty-section the section has no keys",
+          "4:1 no-equals-sign the line has no \"=\" and is ignored",
+          "6:1 undeclared-key there is neither a parameter nor a result \"Length\"",
+          "10:1 undeclared-key there is neither a parameter nor a result \"Width\"",
+          "12:1 undeclared-key there is neither a parameter nor a result \"Width\"" });
+    row("parameters in an unknown section",
+        "[KeltoItem]\nname=Beam\n[Params]\nLength=\n[Unit]\nLength=\n[Symbol]\nLength=l\n",
+        { "3:1 unknown-section nothing is read from the section \"Params\"",
+          "6:1 undeclared-key there is neither a parameter nor a result \"Length\"" });
+}
+
+void TestKeltoLintFiles::mendsWithOneRightAnswerOnly_data()
+{
+    QTest::addColumn<QByteArray>("file");
+    QTest::addColumn<QString>("rule");
+    QTest::addColumn<int>("fixes");
+
+    const QByteArray item = "[KeltoItem]\nname=Beam\n";
+    const auto row = [](const char *name, const QByteArray &file, const char *rule, int fixes) {
+        QTest::newRow(name) << file << QString(rule) << fixes;
+    };
+    row("a key in other letters",
+        item
+            + "[ExtraKey]\nGr\xc3\xb6\xc3\x9f"
+              "e=1\n",
+        "non-ascii-key", 1);
+    row("a key in other letters that is there already",
+        item
+            + "[ExtraKey]\nGr\xc3\xb6\xc3\x9f"
+              "e=1\nGr%F6%DF"
+              "e=2\n",
+        "non-ascii-key", 0);
+    row("a field in capital letters", item + "DESCRIPTION=a\n", "misspelt-key", 1);
+    row("two fields that would become one", item + "DESCRIPTION=a\nDescription=b\n", "misspelt-key",
+        0);
+    row("a section in small letters", item + "[belong]\nLength=a\n", "misspelt-section", 1);
+    row("two sections that would become one", item + "[belong]\nLength=a\n[BELONG]\nLength=b\n",
+        "misspelt-section", 0);
+    row("one unit", item + "[Unit]\nPower=kW\n", "single-unit", 1);
+    row("one unit beside others that are converted", item + "[Unit]\nPower=kW\nLength=mm, m\n",
+        "single-unit", 0);
+}
+
+void TestKeltoLintFiles::mendsWithOneRightAnswerOnly()
+{
+    QFETCH(QByteArray, file);
+    QFETCH(QString, rule);
+    QFETCH(int, fixes);
+
+    writeFile("first.ini", file);
+    const Findings findings = findingsIn(ItemFile("first.ini"));
+    int found = 0;
+    int fixable = 0;
+    for (const Finding &finding : findings) {
+        found += finding.rule == rule ? 1 : 0;
+        fixable += finding.rule == rule && !finding.fix.isEmpty() ? 1 : 0;
+    }
+    QVERIFY(found > 0);
+    QCOMPARE(fixable, fixes);
+}
+
+void TestKeltoLintFiles::findsNothingButUtf16()
+{
+    const QByteArray text("\xff\xfe[\0K\0]\0\n\0", 10);
+    writeFile("first.ini", text);
+    writeFile("second.ini", text.mid(2));
+    const QStringList paths { "first.ini", "second.ini" };
+    Console console;
+    QCOMPARE(linesOf(lint(paths, LintConfig(paths), console).findings),
+             QStringList({ "first.ini:1:1 not-utf8 the file is UTF-16; save it as UTF-8",
+                           "second.ini:1:1 not-utf8 the file is UTF-16; save it as UTF-8" }));
+}
+
+void TestKeltoLintFiles::findsInOneFile()
+{
+    QFETCH(QByteArray, file);
+    QFETCH(QStringList, lines);
+
+    writeFile("first.ini", file);
+    Findings findings;
+    for (const RuleArea &area : { damageRules(), keyRules(), structureRules(), valueRules() })
+        area.checkFile(ItemFile("first.ini"), &findings);
+    QStringList found = linesOf(findings);
+    QCOMPARE(found.replaceInStrings(QRegularExpression("^first.ini:"), {}), lines);
+}
+
+void TestKeltoLintFiles::findsInLargeFiles_data()
+{
+    QTest::addColumn<QByteArray>("file");
+    QTest::addColumn<QString>("rule");
+    QTest::addColumn<int>("count");
+
+    // Comparing each of these with each other takes minutes.
+    QByteArray parameters = "[KeltoItem]\nname=Beam\n[Attribute]\n";
+    QByteArray belong = "[Belong]\n";
+    QByteArrayList modes;
+    for (int i = 0; i < 20000; ++i) {
+        const QByteArray letters
+            = "key" + QByteArray::number(i).replace('0', 'a').replace('1', 'b');
+        parameters += letters + "=\n";
+        belong += 'x' + letters + "=Mode\n";
+    }
+    for (int i = 0; i < 100000; ++i)
+        modes.append("mode" + QByteArray::number(i));
+    const QByteArray list = modes.join(',');
+    QTest::newRow("parameters") << parameters + belong << QString("undeclared-key") << 20000;
+    QTest::newRow("quotes") << "[KeltoItem]\nname=a" + QByteArray(5000000, '"') + '\n'
+                            << QString("stray-quote") << 1;
+    QTest::newRow("unknown modes") << "[KeltoItem]\ninner_mode_nameList=" + list
+            + "\n[Attribute]\na=\n[Belong]\na=X" + modes.join(",X") + '\n'
+                                   << QString("unknown-mode") << 100000;
+    QTest::newRow("modes without parameters") << "[KeltoItem]\ninner_mode_nameList=First," + list
+            + "\n[Attribute]\na=\n" + "[Belong]\na=First\n"
+                                              << QString("mode-without-parameters") << 100000;
+}
+
+void TestKeltoLintFiles::findsInLargeFiles()
+{
+    QFETCH(QByteArray, file);
+    QFETCH(QString, rule);
+    QFETCH(int, count);
+
+    writeFile("first.ini", file);
+    const Findings findings = findingsIn(ItemFile("first.ini"));
+    const auto isOfRule = [&rule](const Finding &finding) { return finding.rule == rule; };
+    QCOMPARE(int(std::count_if(findings.cbegin(), findings.cend(), isOfRule)), count);
+}
+
+QTEST_GUILESS_MAIN(TestKeltoLintFiles)
+
+#include "tst_kelto_lint_files.moc"
