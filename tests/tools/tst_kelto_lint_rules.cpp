@@ -253,10 +253,10 @@ void TestKeltoLintRules::finds_data()
     row("words that are nearly those of hints",
         item
             + "[Attribute]\nFlow rate=\n[Belong]\nFlow rate=Bending\n[ExtraKey]\n"
-              "Defualt.Flow rate=1\nMni.Flow rate=1\nmin.Flow rate@Bending=1\n"
+              "Devault.Flow rate=1\nMni.Flow rate=1\nmin.Flow rate@Bending=1\n"
               "Default Flow rate=1\nDefaults.Flow rate=1\nHelp.Flow rate=a\nHelper.Flow=a\n"
               "Price.Flow rate=1\nMid.Flow rate=1\nMinimum Flow rate=1\n",
-        { "first.ini:13:1 misspelt-hint the extra key \"Defualt.Flow rate\" is no hint. Did you "
+        { "first.ini:13:1 misspelt-hint the extra key \"Devault.Flow rate\" is no hint. Did you "
           "mean \"Default.Flow rate\"?",
           "first.ini:14:1 misspelt-hint the extra key \"Mni.Flow rate\" is no hint. Did you mean "
           "\"Min.Flow rate\"?",

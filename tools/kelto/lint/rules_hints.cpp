@@ -277,7 +277,7 @@ RuleArea hintRules()
                   "to one of a hint, and nothing is read from it. Capital letters "
                   "count, and a \".\" stands behind the word. Switch this off where "
                   "the host has words like these."),
-              EXAMPLE_ITEM EXAMPLE_LENGTH "[ExtraKey]\nDefualt.Length=5\n",
+              EXAMPLE_ITEM EXAMPLE_LENGTH "[ExtraKey]\nDevault.Length=5\n",
               EXAMPLE_ITEM EXAMPLE_LENGTH "[ExtraKey]\nDefault.Length=5\n" },
             { "unknown-object-name", Severity::Warning,
               QT_TRANSLATE_NOOP("Command", "An object name is none of the known words"),
