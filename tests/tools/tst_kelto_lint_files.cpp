@@ -10,6 +10,7 @@
 #include "lint/lintconfig.h"
 #include "support/directorytest.h"
 #include "support/testfiles.h"
+#include "terminaltext.h"
 
 #include <QRegularExpression>
 #include <QTest>
@@ -26,6 +27,7 @@ private Q_SLOTS:
     void mendsWithOneRightAnswerOnly_data();
     void mendsWithOneRightAnswerOnly();
     void findsNothingButUtf16();
+    void printsNoChangeOfDirection();
     void findsInLargeFiles_data();
     void findsInLargeFiles();
 };
@@ -72,6 +74,10 @@ void TestKeltoLintFiles::findsInOneFile_data()
           "6:1 undeclared-key there is neither a parameter nor a result \"Length\"",
           "10:1 undeclared-key there is neither a parameter nor a result \"Width\"",
           "12:1 undeclared-key there is neither a parameter nor a result \"Width\"" });
+    row("a flag without a text is as good as none",
+        "[KeltoItem]\nname=Beam\n[Result]\nLength=\n[Multi]\nLength=\n",
+        { "4:1 results-not-read no result is read, since \"output_results\" is missing under "
+          "[KeltoItem]" });
     row("parameters in an unknown section",
         "[KeltoItem]\nname=Beam\n[Params]\nLength=\n[Unit]\nLength=\n[Symbol]\nLength=l\n",
         { "3:1 unknown-section nothing is read from the section \"Params\"",
@@ -151,6 +157,12 @@ void TestKeltoLintFiles::findsInOneFile()
         area.checkFile(ItemFile("first.ini"), &findings);
     QStringList found = linesOf(findings);
     QCOMPARE(found.replaceInStrings(QRegularExpression("^first.ini:"), {}), lines);
+}
+
+void TestKeltoLintFiles::printsNoChangeOfDirection()
+{
+    QCOMPARE(printable(QString::fromUtf8("a\u202eb\u2067c\u200fd\u200be")),
+             QString::fromUtf8("a\ufffdb\ufffdc\ufffdd\u200be"));
 }
 
 void TestKeltoLintFiles::findsInLargeFiles_data()

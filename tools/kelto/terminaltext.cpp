@@ -30,6 +30,14 @@ bool isWide(uint character)
     });
 }
 
+/// Whether the character turns what follows around, so that a line reads as another one.
+bool isDirection(ushort character)
+{
+    return character == 0x061c || character == 0x200e || character == 0x200f
+        || (character >= 0x202a && character <= 0x202e)
+        || (character >= 0x2066 && character <= 0x2069);
+}
+
 int columnsOf(uint character)
 {
     switch (QChar::category(character)) {
@@ -170,7 +178,7 @@ QString printable(QString text)
         if (character == QLatin1Char('\n') || character == QLatin1Char('\r')
             || character == QLatin1Char('\t'))
             character = QLatin1Char(' ');
-        else if (character.category() == QChar::Other_Control)
+        else if (character.category() == QChar::Other_Control || isDirection(character.unicode()))
             character = QChar::ReplacementCharacter;
     }
     return text;

@@ -196,7 +196,8 @@ void checkMulti(const ItemFileKey &key, FileFindings *findings)
     const QString text = key.value.constFirst();
     const QString word = text.toLower();
     const bool isWord = word == QLatin1String("true") || word == QLatin1String("false");
-    if (isWord && text == word)
+    // An empty text is what a key that is missing is read as, too.
+    if (text.isEmpty() || (isWord && text == word))
         return;
     findings->add("multi-word", key.valuePosition,
                   Command::tr("\"%1\" is neither \"true\" nor \"false\" and is ignored").arg(text),
