@@ -44,8 +44,9 @@ QStringList linesOf(const QVector<ItemChange> &changes, bool isBackwards)
         QStringList modes = change.modes;
         modes.sort();
         lines.append(QString("%1 %2 %3 %4 %5: %6")
-                         .arg(change.subject, name, kind, change.property ? change.property : "",
-                              modes.join('+'), texts.join(" -> ")));
+                         .arg(QString::number(change.subject), name, QString::number(kind),
+                              change.property ? change.property : "", modes.join('+'),
+                              texts.join(" -> ")));
     }
     lines.sort();
     return lines;
