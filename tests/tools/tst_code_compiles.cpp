@@ -101,6 +101,8 @@ void TestCodeCompiles::itemsEqualTheirFiles()
                       "QVector<AUTH_INF> generatedItems()\n{\n"
                       "return compiled::allItems() + embedded::allItems()\n"
                       "<< compiled::QObject() << embedded::inf();\n}\n"));
+    // What rcc writes is not measured by what clazy asks of this project.
+    qputenv("CLAZY_CHECKS", "level0");
     outputOf(KELTO_COMPILER,
              { "items.cpp", "compiled.cpp", "sub/embedded.cpp", "resources.cpp", "-o", "host",
                "-Wpedantic", "-Wshadow", "-DQT_NO_CAST_FROM_ASCII", "-DQT_NO_KEYWORDS",

@@ -219,8 +219,10 @@ ExitCode run(const QCommandLineParser &line, Console &console)
                                      "with a directory."));
         return WrongUsage;
     }
+    // First, so that complaints are in the order of the arguments with every compiler.
+    const QVector<ItemFile> old = QFileInfo(before).isDir() ? distinct(first, console) : first;
     const QVector<ModuleDiff> modules = QFileInfo(before).isDir()
-        ? comparedByName(distinct(first, console), distinct(second, console))
+        ? comparedByName(old, distinct(second, console))
         : QVector<ModuleDiff> { compared(first.constFirst(), second.constFirst()) };
     if (line.isSet(QStringLiteral("json")))
         console.print(asJson(modules));
