@@ -86,8 +86,9 @@ void TestCodeCompiles::itemsEqualTheirFiles()
     tool.save_ini("tool.ini");
     tool.load_ini("tool.ini");
     items.append(tool);
-    const QStringList files { "a b.ini", "静力.ini", "'$(x)'&<%1>.ini", "nameless.ini",
-                              "tool.ini" };
+    items.append(savedItem("capitals", itemOf("FEM", "CFD")));
+    const QStringList files { "a b.ini",      "静力.ini", "'$(x)'&<%1>.ini",
+                              "nameless.ini", "tool.ini", "capitals.ini" };
     runKelto(QStringList { "code", "-o", ".", "--name", "compiled", "--context", "QObjectContext" }
              + files);
     QVERIFY(QDir().mkpath("lies/deeper/sub") && QFile::link("lies/deeper/sub", "sub"));
@@ -147,7 +148,7 @@ void TestCodeCompiles::stopsAtMacros_data()
 {
     QTest::addColumn<QString>("macro");
 
-    for (const char *macro : { "beam", "Host", "Texts", "compiled" })
+    for (const char *macro : { "beam", "Host", "TEXTS", "compiled" })
         QTest::newRow(macro) << QString(macro);
 }
 
@@ -155,7 +156,7 @@ void TestCodeCompiles::stopsAtMacros_data()
 void TestCodeCompiles::stopsAtMacros()
 {
     QFETCH(QString, macro);
-    itemOf("Host::Texts", "beam").save_ini("beam.ini");
+    itemOf("Host::TEXTS", "beam").save_ini("beam.ini");
     runKelto({ "code", "-o", ".", "--name", "compiled", "beam.ini" });
     QProcess process;
     process.start(KELTO_COMPILER,

@@ -247,7 +247,7 @@ void TestSourceText::takesNames_data()
     QTest::addColumn<bool>("isContext");
 
     for (const char *text : { "beam", "B2_x", "_b", "_", "inf", "main", "QObject", "Quantity", "A",
-                              "Q", "qBeam", "Literal", "PRIme" })
+                              "Q", "qBeam", "Literal", "PRIme", "FEM", "SIGMA", "LOAD_MAX" })
         QTest::newRow(text) << text << true << true;
     for (const char *text : { "A::B", "Host::Module::Texts" })
         QTest::newRow(text) << text << false << true;
@@ -279,6 +279,8 @@ void TestSourceText::takesNames_data()
                               "$a",
                               "AUTH_INF",
                               "BUFSIZ",
+                              "EOF",
+                              "TRUE",
                               "M_PI",
                               "Q_OBJECT",
                               "Q_emitted",

@@ -29,13 +29,22 @@ const char *const macros
       "sa_sigaction sched_priority setjmp sigmask signals sigsetjmp slots st_atime st_ctime "
       "st_mtime stderr stdin stdout strdupa strndupa unix va_arg va_copy va_end va_start";
 
+// Macros of C, C++ and POSIX whose names could be those of modules. Source text stops at the others
+// with an error.
+const char *const capitalMacros
+    = "BUFSIZ CHAR_MAX CHAR_MIN CLOCKS_PER_SEC DBL_MAX DBL_MIN EDOM EILSEQ EOF ERANGE EXIT_FAILURE "
+      "EXIT_SUCCESS FALSE FLT_MAX FLT_MIN HUGE_VAL INFINITY INT_MAX INT_MIN LONG_MAX LONG_MIN M_E "
+      "M_LN2 M_LN10 M_PI M_SQRT2 NAN NDEBUG NULL RAND_MAX SEEK_CUR SEEK_END SEEK_SET SIGABRT "
+      "SIGFPE "
+      "SIGILL SIGINT SIGSEGV SIGTERM TRUE UINT_MAX";
+
 // What the source text of an item is made of.
-const char *const ownWords = "KeltoItem QString QStringList QVector VDataItem";
+const char *const ownWords = "AUTH_INF AUTH_SET KeltoItem QString QStringList QVector VDataItem";
 
 QSet<QString> allWords()
 {
     QSet<QString> all;
-    for (const char *words : { keywords, macros, ownWords }) {
+    for (const char *words : { keywords, macros, capitalMacros, ownWords }) {
         const QStringList list = QString::fromLatin1(words).split(QLatin1Char(' '));
         all.unite(QSet<QString>(list.cbegin(), list.cend()));
     }
@@ -47,9 +56,9 @@ QSet<QString> allWords()
 bool isReservedWord(const QString &identifier)
 {
     static const QSet<QString> words = allWords();
-    // Macros are called so by custom, and by Qt and Kelto.
+    // So Qt, Kelto and C call macros. Other capitals are names like any: "FEM", "CFD".
     static const QRegularExpression macro(
-        QStringLiteral("\\A(?:[A-Z][A-Z0-9_]+|(?:Q|QT|KELTO|GL)_.*|Q[A-Z].*(?:Literal|_iid)|"
+        QStringLiteral("\\A(?:(?:Q|QT|KELTO|GL)_.*|Q[A-Z].*(?:Literal|_iid)|"
                        "(?:PRI|SCN)[diouxX][A-Z0-9]+)\\z"));
     return words.contains(identifier) || macro.match(identifier).hasMatch()
         || identifier.contains(QLatin1String("__"))
