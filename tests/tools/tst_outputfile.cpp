@@ -23,7 +23,7 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("before");
 
         QTest::newRow("a new file") << "new.txt" << QByteArray();
-        QTest::newRow("in new directories") << "a/b c/ü.txt" << QByteArray();
+        QTest::newRow("in a directory") << "directory/ü.txt" << QByteArray();
         QTest::newRow("a changed file") << "old.txt" << QByteArray("old");
         QTest::newRow("a changed file of equal length") << "old.txt" << QByteArray("New\n");
     }
@@ -31,6 +31,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, path);
         QFETCH(QByteArray, before);
+        QVERIFY(QDir().mkpath("directory"));
         if (!before.isEmpty())
             QVERIFY(writeFile(path, before));
         QCOMPARE(writeOutputFile(path, "new\n"), QString());
@@ -60,15 +61,31 @@ private Q_SLOTS:
         QTest::newRow("a device") << "/dev/null"
                                   << "/dev/null: is not a file.";
         QTest::newRow("below a file") << "file/new.txt"
-                                      << "file: this directory cannot be made.";
+                                      << "file: there is no such directory; make it first.";
+        QTest::newRow("in no directory") << "a/b/new.txt"
+                                         << "a/b: there is no such directory; make it first.";
+        QTest::newRow("a link to nothing")
+            << "link"
+            << "link: is a link to a file that does not exist; remove it first.";
     }
     void complains()
     {
         QFETCH(QString, path);
         QVERIFY(QDir().mkpath("directory"));
         QVERIFY(writeFile("file", "old"));
+        QVERIFY(QFile::link("nothing", "link"));
         QTEST(writeOutputFile(path, "new"), "expected");
         QCOMPARE(fileContent("file"), QByteArray("old"));
+        QVERIFY(!QFileInfo::exists("a") && !QFileInfo::exists("nothing"));
+    }
+
+    void makesDirectories()
+    {
+        QCOMPARE(makeOutputDirectory("a/b c"), QString());
+        QVERIFY(QFileInfo("a/b c").isDir());
+        QCOMPARE(makeOutputDirectory("a/b c"), QString());
+        QVERIFY(writeFile("file", "old"));
+        QCOMPARE(makeOutputDirectory("file/a"), QString("file/a: this directory cannot be made."));
     }
 
     void followsALink()

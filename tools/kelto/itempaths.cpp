@@ -70,6 +70,8 @@ QString whyUnreadable(const QString &path)
     const QFileInfo info(path);
     if (!info.exists())
         return noSuchFile(path);
+    if (info.isDir())
+        return Command::tr("%1: is a directory; a file is expected.").arg(path);
     if (!info.isFile())
         return Command::tr("%1: is not a regular file.").arg(path);
     QFile file(path);

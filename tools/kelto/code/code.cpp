@@ -259,6 +259,11 @@ bool CodeCommand::writeFile(const char *ending, const QByteArray &bytes)
 
 bool CodeCommand::write()
 {
+    const QString complaint = makeOutputDirectory(m_directory);
+    if (!complaint.isEmpty()) {
+        m_console.complain(complaint);
+        return false;
+    }
     const QByteArray source = m_isEmbedding ? embeddingSourceText(m_items) : sourceText(m_items);
     return areForeignFilesSafe() && writeFile(".h", headerText(m_items))
         && writeFile(".cpp", source)

@@ -185,6 +185,9 @@ bool Run::areForeignFilesSafe() const
 
 bool Run::write() const
 {
+    const QString complaint = makeOutputDirectory(m_directory);
+    if (!complaint.isEmpty())
+        return complain(complaint);
     for (auto file = m_files.cbegin(); file != m_files.cend(); ++file) {
         const QString problem
             = writeOutputFile(QDir(m_directory).filePath(file.key()), file.value());

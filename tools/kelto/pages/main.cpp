@@ -20,6 +20,8 @@ int main(int argc, char *argv[])
     // What is left of a command that is gone would be installed.
     QDir(directory.filePath(QStringLiteral("man1"))).removeRecursively();
     QStringList problems {
+        makeOutputDirectory(directory.filePath(QStringLiteral("completions"))),
+        makeOutputDirectory(directory.filePath(QStringLiteral("man1"))),
         writeOutputFile(directory.filePath(QStringLiteral("completions/kelto")), bashCompletion()),
         writeOutputFile(directory.filePath(QStringLiteral("man1/kelto.1")), overviewPage()),
     };
