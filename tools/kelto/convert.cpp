@@ -13,6 +13,7 @@
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QRegularExpression>
 
 namespace {
 
@@ -49,6 +50,16 @@ void readJson(const QByteArray &bytes, Source *source)
             + error.text;
 }
 
+/// As a word for a shell, quoted where it needs that.
+QString quotedForShell(QString path)
+{
+    static const QRegularExpression special(QStringLiteral("[^\\w@%+=:,./-]"));
+    if (!path.contains(special))
+        return path;
+    path.replace(QLatin1Char('\''), QLatin1String("'\\''"));
+    return QLatin1Char('\'') + path + QLatin1Char('\'');
+}
+
 Source sourceIn(const ItemFile &file)
 {
     Source source { formatOf(file.bytes()), {}, {}, {} };
@@ -59,7 +70,9 @@ Source sourceIn(const ItemFile &file)
         source.error = model.error;
         source.item = itemOf(model, &source.leftOut);
     } else if (source.format == QLatin1String("fmu")) {
-        source.error = Command::tr("take modelDescription.xml out of this archive first.");
+        source.error = Command::tr("is an archive; unpack the description of its model with "
+                                   "\"unzip %1 modelDescription.xml\", and convert that.")
+                           .arg(quotedForShell(file.path()));
     } else {
         source.item = file.item();
     }

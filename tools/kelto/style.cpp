@@ -11,6 +11,19 @@
 
 namespace {
 
+/// A text is made of every file. Whoever names one that describes no style has named the wrong one.
+QString whyNoStyle(const VIniSettings &settings)
+{
+    const QStringList groups = settings.allGroups();
+    const bool hasClass = !settings.value(QStringLiteral("ID/QtClassName")).toString().isEmpty();
+    if (!hasClass && !groups.contains(QStringLiteral("normal")))
+        return Command::tr("describes no style: there is neither \"QtClassName\" in a section "
+                           "\"ID\" nor a section \"normal\".");
+    return groups == QStringList(QStringLiteral("ID"))
+        ? Command::tr("describes no style: there is no section but \"ID\".")
+        : QString();
+}
+
 ExitCode run(const QCommandLineParser &line, Console &console)
 {
     const QString path = line.positionalArguments().constFirst();
@@ -20,7 +33,13 @@ ExitCode run(const QCommandLineParser &line, Console &console)
         console.complain(complaint);
         return Found;
     }
-    const QString sheet = VIniSettings(path).styleSheetFormat();
+    const VIniSettings settings(path);
+    const QString problem = whyNoStyle(settings);
+    if (!problem.isEmpty()) {
+        console.complain(path + QLatin1String(": ") + problem);
+        return Found;
+    }
+    const QString sheet = settings.styleSheetFormat();
     if (line.isSet(QStringLiteral("json"))) {
         console.print(QJsonObject { { QStringLiteral("file"), path },
                                     { QStringLiteral("styleSheet"), sheet } });
@@ -41,7 +60,10 @@ Command styleCommand()
              QT_TRANSLATE_NOOP("Command", "Write the style sheet that an INI file describes"),
              QT_TRANSLATE_NOOP("Command",
                                "Writes the style sheet text that VIniSettings::styleSheetFormat() "
-                               "makes of the file."),
+                               "makes of the file. \"QtClassName\" in the section \"ID\" is the "
+                               "class of the widgets, the section \"normal\" their style, and "
+                               "every other section the style of a state, such as \"hover\". A "
+                               "file without a class and without \"normal\" is an error."),
              {},
              { { "kelto style button.ini",
                  QT_TRANSLATE_NOOP("Command", "The style sheet of a button.") } },

@@ -302,10 +302,14 @@ AUTH_INF itemIn(const QJsonObject &object, JsonError *error)
 
 AUTH_INF itemInJson(const QByteArray &bytes, JsonError *error)
 {
+    // Qt drops the mark in front of a text; the one in front of the file is no text.
+    const QByteArray mark("\xef\xbb\xbf");
+    QByteArray json = bytes.mid(bytes.startsWith(mark) ? mark.size() : 0);
+    json.replace(mark, "\\ufeff");
     QJsonParseError parseError;
-    const QJsonDocument document = QJsonDocument::fromJson(bytes, &parseError);
+    const QJsonDocument document = QJsonDocument::fromJson(json, &parseError);
     if (parseError.error != QJsonParseError::NoError) {
-        const QByteArray before = bytes.left(parseError.offset);
+        const QByteArray before = json.left(parseError.offset);
         error->text = Command::tr("line %1: this is no JSON: %2.")
                           .arg(before.count('\n') + 1)
                           .arg(parseError.errorString());
