@@ -8,8 +8,6 @@
 #include "nearestname.h"
 
 #include <QCommandLineParser>
-#include <QJsonArray>
-#include <QJsonObject>
 
 #include <algorithm>
 
@@ -131,21 +129,18 @@ ExitCode runCommand(const Command &command, const QStringList &arguments, Consol
         console.print(QStringLiteral("kelto " KELTO_VERSION_TEXT "\n"));
         return Done;
     }
+    if (parser.isSet(QStringLiteral("json")))
+        console.useJson();
     const QString complaint = complaintAbout(parser, command);
-    if (!complaint.isEmpty()) {
-        console.complain(complaint + tryHelp(QLatin1String(command.name)));
-        return WrongUsage;
-    }
-    const ExitCode code = command.run(parser, console);
-    // A program that reads JSON gets some also where there is no result.
-    if (code != Done && parser.isSet(QStringLiteral("json")) && !console.hasPrinted())
-        console.print(QJsonObject {
-            { QStringLiteral("errors"), QJsonArray::fromStringList(console.complaints()) } });
-    return code;
+    if (complaint.isEmpty())
+        return command.run(parser, console);
+    console.complain(complaint + tryHelp(QLatin1String(command.name)));
+    return WrongUsage;
 }
 
-ExitCode withoutCommand(const QString &first, Console &console)
+ExitCode withoutCommand(const QStringList &arguments, Console &console)
 {
+    const QString first = arguments.value(0);
     if (QStringList { QStringLiteral("--help"), QStringLiteral("-h"), QStringLiteral("help") }
             .contains(first)) {
         console.print(overview());
@@ -155,6 +150,8 @@ ExitCode withoutCommand(const QString &first, Console &console)
         console.print(QStringLiteral("kelto " KELTO_VERSION_TEXT "\n"));
         return Done;
     }
+    if (arguments.contains(QStringLiteral("--json")))
+        console.useJson();
     const QString complaint = first.isEmpty()
         ? Command::tr("a command is missing.")
         : Command::tr("there is no command \"%1\".").arg(first) + didYouMean(first, commandNames());
@@ -174,6 +171,6 @@ ExitCode runCommandLine(const QStringList &arguments, Console &console)
         = std::find_if(commands().cbegin(), commands().cend(),
                        [&name](const Command &each) { return QLatin1String(each.name) == name; });
     // The parser leaves out the first argument, which is the name of a program.
-    return command == commands().cend() ? withoutCommand(name, console)
+    return command == commands().cend() ? withoutCommand(rest, console)
                                         : runCommand(*command, rest, console);
 }

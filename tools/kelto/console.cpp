@@ -6,8 +6,8 @@
 #include "terminaltext.h"
 
 #include <QDateTime>
+#include <QJsonArray>
 #include <QJsonDocument>
-#include <QJsonObject>
 
 #include <cstdio>
 
@@ -49,15 +49,9 @@ void Console::print(const QString &text)
 void Console::print(const QByteArray &bytes)
 {
     showProgress(QString());
-    m_hasPrinted = true;
     const auto size = std::size_t(bytes.size());
     if (std::fwrite(bytes.constData(), 1, size, stdout) != size)
         m_hasFailed = true;
-}
-
-void Console::print(const QJsonObject &result)
-{
-    print(QJsonDocument(result).toJson());
 }
 
 void Console::complain(const QString &sentence)
@@ -83,5 +77,10 @@ void Console::showProgress(const QString &text)
 
 bool Console::flush()
 {
+    if (m_isJson) {
+        if (!m_complaints.isEmpty())
+            m_result.insert(QStringLiteral("errors"), QJsonArray::fromStringList(m_complaints));
+        print(QJsonDocument(m_result).toJson());
+    }
     return std::fflush(stdout) == 0 && !m_hasFailed;
 }

@@ -5,10 +5,9 @@
 #define CONSOLE_H
 
 #include <QByteArray>
+#include <QJsonObject>
 #include <QString>
 #include <QStringList>
-
-class QJsonObject;
 
 /// Where the program writes: results on the standard output, complaints on the standard error, both
 /// in UTF-8.
@@ -20,13 +19,14 @@ public:
     /// A result, as it is.
     void print(const QString &text);
     void print(const QByteArray &bytes);
-    /// A result as indented JSON.
-    void print(const QJsonObject &result);
+    /// From now on the standard output is one object of JSON: the result and, under "errors", the
+    /// complaints. flush() writes it, also where there is no result.
+    void useJson() { m_isJson = true; }
+    void print(const QJsonObject &result) { m_result = result; }
 
     /// A sentence that says what is wrong, where, and what to do.
     void complain(const QString &sentence);
 
-    bool hasPrinted() const { return m_hasPrinted; }
     const QStringList &complaints() const { return m_complaints; }
 
     /// Replaces the line that shows how far the program has come. Shown on a terminal only, and
@@ -36,14 +36,15 @@ public:
     /// Whether results may be coloured: on a terminal, and not with NO_COLOR.
     bool isColoured() const { return m_isColoured; }
 
-    /// Whether everything was written so far.
+    /// Writes what is left; whether everything was written so far.
     bool flush();
 
 private:
     bool m_isColoured;
     bool m_showsProgress;
     bool m_hasFailed = false;
-    bool m_hasPrinted = false;
+    bool m_isJson = false;
+    QJsonObject m_result;
     QStringList m_complaints;
     qint64 m_start;
     int m_progressWidth = 0;

@@ -13,6 +13,7 @@
 
 #include <QCommandLineParser>
 #include <QJsonArray>
+#include <QJsonDocument>
 
 namespace {
 
@@ -56,7 +57,8 @@ void print(const Findings &findings, const Findings &fixed, const LintConfig &co
 {
     const bool isColoured = console.isColoured();
     if (line.isSet(QStringLiteral("sarif"))) {
-        console.print(findingsAsSarif(findings, config));
+        console.print(
+            QJsonDocument(findingsAsSarif(findings, config, console.complaints())).toJson());
     } else if (line.isSet(QStringLiteral("json"))) {
         console.print(findingsAsJson(findings, fixed, config));
     } else {
@@ -103,8 +105,34 @@ ExitCode lintFiles(const QCommandLineParser &line, Console &console)
     return areAllFound && complaints.isEmpty() && result.findings.isEmpty() ? Done : Found;
 }
 
+/// What of the arguments would go unheard beside others.
+QString contradictionIn(const QCommandLineParser &line)
+{
+    const QString paths = line.positionalArguments().value(0);
+    const QString complaint = Command::tr("\"--%1\" takes no \"%2\": leave one of the two out.");
+    for (const char *option : { "explain", "rules" }) {
+        if (!line.isSet(QLatin1String(option)))
+            continue;
+        for (const char *other : { "fix", "sarif" }) {
+            if (line.isSet(QLatin1String(other)))
+                return complaint.arg(QLatin1String(option), dashed(QLatin1String(other)));
+        }
+        if (!paths.isEmpty())
+            return complaint.arg(QLatin1String(option), paths);
+    }
+    const bool isJson = line.isSet(QStringLiteral("json"));
+    return isJson && line.isSet(QStringLiteral("sarif"))
+        ? complaint.arg(QStringLiteral("sarif"), QStringLiteral("--json"))
+        : QString();
+}
+
 ExitCode run(const QCommandLineParser &line, Console &console)
 {
+    const QString contradiction = contradictionIn(line);
+    if (!contradiction.isEmpty()) {
+        console.complain(contradiction);
+        return WrongUsage;
+    }
     const bool asJson = line.isSet(QStringLiteral("json"));
     if (line.isSet(QStringLiteral("explain")))
         return explain(line.value(QStringLiteral("explain")), asJson, console);

@@ -85,6 +85,7 @@ QJsonObject sarifRule(const Rule &rule)
     return { { QStringLiteral("id"), QLatin1String(rule.id) },
              { QStringLiteral("shortDescription"), message(Command::tr(rule.summary)) },
              { QStringLiteral("fullDescription"), message(Command::tr(rule.explanation)) },
+             { QStringLiteral("help"), message(ruleAsText(rule)) },
              { QStringLiteral("defaultConfiguration"), configuration } };
 }
 
@@ -114,6 +115,17 @@ QJsonObject sarifLocation(const Finding &finding)
     return { { QStringLiteral("physicalLocation"),
                QJsonObject { { QStringLiteral("artifactLocation"), artifact },
                              { QStringLiteral("region"), region } } } };
+}
+
+QJsonObject sarifInvocation(const QStringList &complaints)
+{
+    QJsonArray notifications;
+    for (const QString &complaint : complaints) {
+        notifications.append(QJsonObject { { QStringLiteral("level"), QStringLiteral("error") },
+                                           { QStringLiteral("message"), message(complaint) } });
+    }
+    return { { QStringLiteral("executionSuccessful"), complaints.isEmpty() },
+             { QStringLiteral("toolExecutionNotifications"), notifications } };
 }
 
 } // namespace
@@ -157,7 +169,8 @@ QJsonObject findingsAsJson(const Findings &findings, const Findings &fixed,
              { QStringLiteral("fixed"), asJson(fixed, config) } };
 }
 
-QJsonObject findingsAsSarif(const Findings &findings, const LintConfig &config)
+QJsonObject findingsAsSarif(const Findings &findings, const LintConfig &config,
+                            const QStringList &complaints)
 {
     QJsonArray results;
     for (const Finding &finding : findings) {
@@ -175,6 +188,7 @@ QJsonObject findingsAsSarif(const Findings &findings, const LintConfig &config)
         { QStringLiteral("tool"), QJsonObject { { QStringLiteral("driver"), driver } } },
         // The reader counts characters, not the halves in which Qt keeps some of them.
         { QStringLiteral("columnKind"), QStringLiteral("unicodeCodePoints") },
+        { QStringLiteral("invocations"), QJsonArray { sarifInvocation(complaints) } },
         { QStringLiteral("results"), results },
     };
     return { { QStringLiteral("$schema"),

@@ -23,8 +23,10 @@ QString fixedAsText(const Findings &fixed, bool isColoured);
 QJsonObject findingsAsJson(const Findings &findings, const Findings &fixed,
                            const LintConfig &config);
 
-/// The log of a run in the Static Analysis Results Interchange Format 2.1.0.
-QJsonObject findingsAsSarif(const Findings &findings, const LintConfig &config);
+/// The log of a run in the Static Analysis Results Interchange Format 2.1.0; the complaints say
+/// what could not be looked at.
+QJsonObject findingsAsSarif(const Findings &findings, const LintConfig &config,
+                            const QStringList &complaints);
 
 /// What is to be known of a rule.
 QString ruleAsText(const Rule &rule);

@@ -1,7 +1,5 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<!-- SPDX-FileCopyrightText: The Kelto developers -->
-<!-- SPDX-License-Identifier: MIT -->
 <TS version="2.1" language="zh_CN" sourcelanguage="en_US">
 <context>
     <name>Command</name>
@@ -260,10 +258,6 @@ Files are written only when they change. An item that source text cannot carry i
     <message>
         <source>an object is expected, not an array.</source>
         <translation>此处应为对象，而不是数组。</translation>
-    </message>
-    <message>
-        <source>take modelDescription.xml out of this archive first.</source>
-        <translation>请先从此压缩文件中取出 modelDescription.xml。</translation>
     </message>
     <message>
         <source>translated texts</source>
@@ -1939,10 +1933,6 @@ rule and its value one of error, warning and off:
         <translation>写出 INI 文件所描述的样式表</translation>
     </message>
     <message>
-        <source>Writes the style sheet text that VIniSettings::styleSheetFormat() makes of the file.</source>
-        <translation>写出 VIniSettings::styleSheetFormat() 由该文件生成的样式表文本。</translation>
-    </message>
-    <message>
         <source>The style sheet of a button.</source>
         <translation>按钮的样式表。</translation>
     </message>
@@ -2049,6 +2039,38 @@ rule and its value one of error, warning and off:
     <message>
         <source>the file is UTF-16; save it as UTF-8</source>
         <translation>文件是 UTF-16；请另存为 UTF-8</translation>
+    </message>
+    <message>
+        <source>is an archive; unpack the description of its model with &quot;unzip %1 modelDescription.xml&quot;, and convert that.</source>
+        <translation>是压缩包；请用“unzip %1 modelDescription.xml”取出模型描述，再转换该文件。</translation>
+    </message>
+    <message>
+        <source>%1: is a directory; a file is expected.</source>
+        <translation>%1：是目录；这里需要文件。</translation>
+    </message>
+    <message>
+        <source>&quot;--%1&quot; takes no &quot;%2&quot;: leave one of the two out.</source>
+        <translation>“--%1”不能与“%2”同时使用：请去掉其中一个。</translation>
+    </message>
+    <message>
+        <source>%1: is a link to a file that does not exist; remove it first.</source>
+        <translation>%1：是指向不存在的文件的链接；请先删除它。</translation>
+    </message>
+    <message>
+        <source>%1: there is no such directory; make it first.</source>
+        <translation>%1：没有此目录；请先创建它。</translation>
+    </message>
+    <message>
+        <source>describes no style: there is neither &quot;QtClassName&quot; in a section &quot;ID&quot; nor a section &quot;normal&quot;.</source>
+        <translation>没有描述样式：既没有节“ID”中的“QtClassName”，也没有节“normal”。</translation>
+    </message>
+    <message>
+        <source>describes no style: there is no section but &quot;ID&quot;.</source>
+        <translation>没有描述样式：除“ID”外没有其他节。</translation>
+    </message>
+    <message>
+        <source>Writes the style sheet text that VIniSettings::styleSheetFormat() makes of the file. &quot;QtClassName&quot; in the section &quot;ID&quot; is the class of the widgets, the section &quot;normal&quot; their style, and every other section the style of a state, such as &quot;hover&quot;. A file without a class and without &quot;normal&quot; is an error.</source>
+        <translation>输出 VIniSettings::styleSheetFormat() 由此文件生成的样式表文本。节“ID”中的“QtClassName”是部件的类，节“normal”是其样式，其他每个节是一种状态的样式，例如“hover”。既没有类也没有“normal”的文件是错误。</translation>
     </message>
 </context>
 </TS>
