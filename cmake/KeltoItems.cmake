@@ -3,6 +3,9 @@
 
 # Module items in the build of a host. docs/build-items.md explains the functions.
 
+# Whatever version of CMake the host was written for.
+cmake_policy(VERSION 3.16)
+
 # kelto_add_items(<target> ITEMS <file>... [NAME <name>] [CONTEXT <context>]
 #                 [TRANSLATIONS <language or .ts file>...] [EMBED])
 # Checks the items and compiles them into the target, as source text or, with EMBED, as resources.
@@ -21,6 +24,11 @@ function(kelto_add_items target)
     _kelto_check_name(NAME "${name}" "^${identifier}$")
     _kelto_check_name(CONTEXT "${arg_CONTEXT}" "^(${identifier}(::${identifier})*)?$")
     set(directory ${CMAKE_CURRENT_BINARY_DIR}/${name})
+    get_property(names DIRECTORY PROPERTY KELTO_ITEM_NAMES)
+    if(name IN_LIST names)
+        message(FATAL_ERROR "kelto_add_items: the name ${name} is taken; give another NAME.")
+    endif()
+    set_property(DIRECTORY APPEND PROPERTY KELTO_ITEM_NAMES ${name})
     # Without a locale, Qt's tools would not find files with other than English letters.
     set(utf8)
     if(UNIX)
@@ -52,8 +60,7 @@ function(kelto_lint_test name)
         get_filename_component(path "${path}" ABSOLUTE)
         list(APPEND paths "${path}")
     endforeach()
-    _kelto_command(kelto)
-    add_test(NAME ${name} COMMAND ${kelto} lint -- ${paths})
+    add_test(NAME ${name} COMMAND Kelto::kelto lint -- ${paths})
 endfunction()
 
 # --- Private -------------------------------------------------------------------
@@ -61,8 +68,8 @@ endfunction()
 function(_kelto_require_command function)
     if(NOT TARGET Kelto::kelto)
         message(FATAL_ERROR "${function} needs the command kelto, which was not found. Install the "
-            "component Tools of Kelto or, where Kelto is a part of this project, set "
-            "KELTO_BUILD_TOOLS to ON.")
+            "component Tools of Kelto, and call find_package(Kelto) in this directory or above. "
+            "Where Kelto is a part of this project, set KELTO_BUILD_TOOLS to ON.")
     endif()
 endfunction()
 
@@ -96,20 +103,6 @@ function(_kelto_check_name argument value pattern)
     if(NOT value MATCHES "${pattern}")
         message(FATAL_ERROR "kelto_add_items: ${argument} cannot be \"${value}\" in C++.")
     endif()
-endfunction()
-
-# The beginning of a command line. An installed tree may lie anywhere, and nothing in it says where.
-function(_kelto_command variable)
-    set(command $<TARGET_FILE:Kelto::kelto>)
-    get_target_property(is_imported Kelto::kelto IMPORTED)
-    if(is_imported AND UNIX)
-        set(library_path $<TARGET_FILE_DIR:Kelto::Kelto>)
-        if(DEFINED ENV{LD_LIBRARY_PATH})
-            string(APPEND library_path ":$ENV{LD_LIBRARY_PATH}")
-        endif()
-        set(command ${CMAKE_COMMAND} -E env "LD_LIBRARY_PATH=${library_path}" ${command})
-    endif()
-    set(${variable} ${command} PARENT_SCOPE)
 endfunction()
 
 # Files that the target is compiled from as they are.
@@ -157,14 +150,13 @@ macro(_kelto_generate_items)
     set(list ${directory}/items.txt)
     string(REPLACE ";" "\n" lines "${items};${settings};${options}")
     file(GENERATE OUTPUT "${list}" CONTENT "${lines}\n")
-    _kelto_command(kelto)
     set(resources)
     if(arg_EMBED)
         set(resources ${directory}/${name}.qrc)
     endif()
     add_custom_command(OUTPUT "${stamp}"
         BYPRODUCTS ${generated} ${resources}
-        COMMAND ${kelto} code -o "${directory}" --name ${name} ${options} -- ${items}
+        COMMAND Kelto::kelto code -o "${directory}" --name ${name} ${options} -- ${items}
         COMMAND ${CMAKE_COMMAND} -E touch "${stamp}"
         DEPENDS ${items} ${settings} "${list}" Kelto::kelto
         COMMENT "Checking the module items of ${target}"
@@ -176,12 +168,25 @@ endmacro()
 
 # The file list for rcc, the name that it gives the resources, and what they are made from.
 macro(_kelto_compile_resources resource_list resource_name)
+    # A Kelto that is a part of the project finds Qt for itself alone.
+    find_package(Qt5Core 5.15 REQUIRED QUIET)
     set(compiled ${directory}/qrc_${resource_name}.cpp)
     add_custom_command(OUTPUT "${compiled}"
         COMMAND ${utf8} $<TARGET_FILE:Qt5::rcc> --name ${resource_name} --output "${compiled}" "${resource_list}"
         DEPENDS ${ARGN} Qt5::rcc
         VERBATIM)
     _kelto_add_sources("${compiled}")
+endmacro()
+
+# rcc warns of resources without a file. Q_INIT_RESOURCE finds these, too.
+macro(_kelto_add_empty_resources resource_name)
+    set(lines "// No translation exists yet.\n")
+    foreach(function IN ITEMS qInitResources qCleanupResources)
+        set(signature "int ${function}_${resource_name}()")
+        string(APPEND lines "${signature};\n${signature}\n{\n    return 1;\n}\n")
+    endforeach()
+    file(GENERATE OUTPUT "${directory}/qrc_${resource_name}.cpp" CONTENT "${lines}")
+    _kelto_add_sources("${directory}/qrc_${resource_name}.cpp")
 endmacro()
 
 macro(_kelto_translate_items)
@@ -222,9 +227,13 @@ macro(_kelto_translate_items)
         string(APPEND files "<file>${language}.qm</file>")
     endforeach()
     set(translations ${directory}/${name}_translations.qrc)
-    file(GENERATE OUTPUT "${translations}"
-        CONTENT "<RCC><qresource prefix=\"/translations\">${files}</qresource></RCC>\n")
-    _kelto_compile_resources("${translations}" ${name}_translations ${qm_files} "${translations}")
+    if(qm_files)
+        file(GENERATE OUTPUT "${translations}"
+            CONTENT "<RCC><qresource prefix=\"/translations\">${files}</qresource></RCC>\n")
+        _kelto_compile_resources("${translations}" ${name}_translations ${qm_files} "${translations}")
+    else()
+        _kelto_add_empty_resources(${name}_translations)
+    endif()
     _kelto_add_lupdate()
 endmacro()
 
@@ -234,7 +243,9 @@ macro(_kelto_add_lupdate)
     set(stamps "$<TARGET_PROPERTY:${target},KELTO_ITEM_STAMPS>")
     set(pattern "\\.(c|cc|cpp|cxx|h|hh|hpp|hxx|qml|ui)$")
     set(sources "$<FILTER:$<TARGET_PROPERTY:${target},SOURCES>,INCLUDE,${pattern}>")
-    file(GENERATE OUTPUT "${directory}/sources.cmake" CONTENT "set(lines)
+    # The sources can be others in each configuration.
+    set(script ${directory}/sources-$<CONFIG>.cmake)
+    file(GENERATE OUTPUT "${script}" CONTENT "set(lines)
 foreach(source IN ITEMS [[$<JOIN:${sources},]] [[>]])
     get_filename_component(source \"\${source}\" ABSOLUTE BASE_DIR [[${CMAKE_CURRENT_SOURCE_DIR}]])
     string(FIND \"\${source}\" [[${CMAKE_CURRENT_BINARY_DIR}/]] place)
@@ -255,7 +266,7 @@ file(WRITE [[${directory}/sources.txt]] \"\${lines}\")
     # Places in generated files would change with every item.
     add_custom_target(${name}_lupdate
         ${make_directories}
-        COMMAND ${CMAKE_COMMAND} -P "${directory}/sources.cmake"
+        COMMAND ${CMAKE_COMMAND} -P "${script}"
         COMMAND ${utf8} $<TARGET_FILE:Qt5::lupdate> "@${directory}/sources.txt" -locations none -ts ${ts_files}
         DEPENDS "${stamps}"
         WORKING_DIRECTORY "${CMAKE_CURRENT_SOURCE_DIR}"

@@ -261,6 +261,8 @@ check_mistakes() {
     expect_refused 'CONTEXT cannot be "A::"' 'ITEMS "items/beam 梁.ini" CONTEXT A::'
     mkdir one two
     echo '<TS version="2.1"/>' | tee one/same.ts >two/same.ts
+    expect_refused 'the name keltoitems is taken' 'ITEMS "items/beam 梁.ini")' $'\n' \
+        'kelto_add_items(host NAME keltoitems ITEMS "items/beam 梁.ini"'
     expect_refused 'called "same.ts"' 'ITEMS "items/beam 梁.ini" TRANSLATIONS one/same.ts two/same.ts'
     expect_refused 'at least one file or directory' 'ITEMS "items/beam 梁.ini")' \
         $'\n' 'kelto_lint_test(items'
@@ -293,13 +295,87 @@ check_lint_test() {
     fi
 }
 
+# write_library DIRECTORY KIND: a library of this kind that has items in two ways and is installed.
+write_library() {
+    mkdir -p "$1/items"
+    write_item "$1/items/beam.ini" "$2 beam"
+    write_item "$1/items/spring.ini" "$2 spring"
+    cat >"$1/CMakeLists.txt" <<END
+add_library($2_items $2 library.cpp)
+target_link_libraries($2_items PUBLIC Kelto::Kelto)
+target_sources($2_items PRIVATE \$<\$<CONFIG:Debug>:debug.cpp>)
+kelto_add_items($2_items NAME $2_first ITEMS items/beam.ini EMBED TRANSLATIONS zh_CN)
+kelto_add_items($2_items NAME $2_second ITEMS items/spring.ini TRANSLATIONS)
+install(TARGETS $2_items EXPORT hostTargets DESTINATION lib)
+END
+    cat >"$1/library.cpp" <<END
+#include "$2_first.h"
+#include "$2_second.h"
+QVector<AUTH_INF> $2Items();
+QVector<AUTH_INF> $2Items()
+{
+    Q_INIT_RESOURCE($2_first_translations);
+    return $2_first::allItems() + $2_second::allItems();
+}
+END
+    echo 'extern int onlyToDebug;' >"$1/debug.cpp"
+}
+
+# Libraries of all kinds in subdirectories, and several configurations.
+check_libraries() {
+    local kind configuration
+    for kind in STATIC OBJECT; do
+        write_library "$kind" $kind
+    done
+    cat >CMakeLists.txt <<END
+cmake_minimum_required(VERSION 3.5...3.16)
+project(host LANGUAGES CXX)
+set(CMAKE_CXX_STANDARD 17)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+find_package(Kelto 1.1 REQUIRED CONFIG)
+add_subdirectory(STATIC)
+add_subdirectory(OBJECT)
+add_executable(host main.cpp)
+target_link_libraries(host PRIVATE STATIC_items OBJECT_items)
+install(EXPORT hostTargets DESTINATION lib/cmake/host)
+END
+    cat >main.cpp <<END
+#include <AUTH_INF>
+#include <cstdio>
+QVector<AUTH_INF> STATICItems();
+QVector<AUTH_INF> OBJECTItems();
+int main()
+{
+    for (const AUTH_INF &item : STATICItems() + OBJECTItems())
+        std::puts(item.name.toUtf8().constData());
+}
+END
+    quietly cmake -S . -B build -G "Ninja Multi-Config" -DCMAKE_PREFIX_PATH="$prefix"
+    for configuration in Debug Release; do
+        quietly cmake --build build --config $configuration
+        if grep -i warning log; then
+            fail "the build warns of the above."
+        fi
+        host=build/$configuration/host
+        expect "STATIC beam" "STATIC spring" "OBJECT beam" "OBJECT spring"
+    done
+    quietly cmake --build build --target STATIC_first_lupdate
+    grep -q '<source>STATIC spring</source>' STATIC/translations/STATIC_items_zh_CN.ts ||
+        fail "a text of the second call was not collected."
+    quietly cmake -S . -B build
+    quietly cmake --build build --config Debug
+    cmake --install build --config Debug --prefix installed >/dev/null
+    if grep -rn "$PWD" installed/lib/cmake; then
+        fail "the exported targets hold the directories of the build above."
+    fi
+}
+
 # --- Other tools --------------------------------------------------------------------
 
 use_package() {
     PKG_CONFIG_PATH=$library_dir/pkgconfig
     PATH=$prefix/bin:$PATH
-    LD_LIBRARY_PATH=$library_dir
-    export PKG_CONFIG_PATH PATH LD_LIBRARY_PATH
+    export PKG_CONFIG_PATH PATH
 }
 
 check_qmake() {
@@ -376,6 +452,10 @@ END
 }
 
 case $what in
+libraries)
+    need ninja
+    check_libraries
+    ;;
 life | embed | translations)
     need ninja
     generator=Ninja
