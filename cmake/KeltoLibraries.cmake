@@ -107,6 +107,27 @@ function(kelto_install_library target)
         COMPONENT Development)
 endfunction()
 
+# kelto_find_libraries_from(<target> <directory>)
+# What is installed in the directory finds the libraries without being told, and still does when the
+# installed tree is moved as a whole. Packages of a system set CMAKE_SKIP_INSTALL_RPATH.
+function(kelto_find_libraries_from target directory)
+    get_target_property(library_type Kelto TYPE)
+    if(NOT library_type STREQUAL "SHARED_LIBRARY" OR DEFINED CMAKE_INSTALL_RPATH)
+        return()
+    endif()
+    set(origin "\$ORIGIN")
+    if(APPLE)
+        set(origin "@loader_path")
+    endif()
+    # Directories outside of the prefix stay where they are.
+    set(path "${CMAKE_INSTALL_FULL_LIBDIR}")
+    if(NOT IS_ABSOLUTE "${directory}" AND NOT IS_ABSOLUTE "${CMAKE_INSTALL_LIBDIR}")
+        file(RELATIVE_PATH path "/prefix/${directory}" "/prefix/${CMAKE_INSTALL_LIBDIR}")
+        string(REGEX REPLACE "/$" "" path "${origin}/${path}")
+    endif()
+    set_property(TARGET ${target} APPEND PROPERTY INSTALL_RPATH "${path}")
+endfunction()
+
 # kelto_install_package_file(<name>)
 # Makes <name>.pc for pkg-config from cmake/<name>.pc.in. The prefix is worked out from where the
 # file lies, so that an installed tree can be moved as a whole. A library directory outside the

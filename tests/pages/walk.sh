@@ -14,7 +14,6 @@ library_dir=$(dirname "$(find "$KELTO_PREFIX" -name libkelto.so)")
 export PATH=$KELTO_PREFIX/bin:$PATH
 export CMAKE_PREFIX_PATH=$KELTO_PREFIX
 export PKG_CONFIG_PATH=$library_dir/pkgconfig
-export LD_LIBRARY_PATH=$library_dir
 export QT_QPA_PLATFORM=offscreen
 export LC_ALL=C.UTF-8
 unset LANGUAGE
