@@ -48,6 +48,9 @@ int main(int argc, char **argv)
     addFileRows();
     addItemRows();
     addHintRows();
+#ifdef KELTO_BENCHMARK_TOOLS
+    addLintRows();
+#endif
 #ifdef KELTO_BENCHMARK_FORMS
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");

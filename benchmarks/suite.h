@@ -130,6 +130,8 @@ void addFileRows();
 void addItemRows();
 /// The hints of module items, their translation, and what is missing.
 void addHintRows();
+/// The lint of module item files.
+void addLintRows();
 /// Forms for parameters. They need a QApplication.
 void addFormRows();
 

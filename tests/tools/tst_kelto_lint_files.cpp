@@ -8,6 +8,7 @@
 #include "console.h"
 #include "itemfile.h"
 #include "lint/lintconfig.h"
+#include "lint/lintitem.h"
 #include "support/directorytest.h"
 #include "support/testfiles.h"
 #include "terminaltext.h"
@@ -153,8 +154,9 @@ void TestKeltoLintFiles::findsInOneFile()
 
     writeFile("first.ini", file);
     Findings findings;
+    const ItemFile item("first.ini");
     for (const RuleArea &area : { damageRules(), keyRules(), structureRules(), valueRules() })
-        area.checkFile(ItemFile("first.ini"), &findings);
+        area.checkFile(LintItem(item), &findings);
     QStringList found = linesOf(findings);
     QCOMPARE(found.replaceInStrings(QRegularExpression("^first.ini:"), {}), lines);
 }

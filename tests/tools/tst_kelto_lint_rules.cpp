@@ -6,6 +6,7 @@
 #include "lint/rules.h"
 
 #include "itemfile.h"
+#include "lint/lintitem.h"
 #include "support/directorytest.h"
 #include "support/testfiles.h"
 #include "units/unit.h"
@@ -50,7 +51,7 @@ Findings findingsIn(const QStringList &paths, const QVector<RuleArea> &areas = r
     for (const RuleArea &area : areas) {
         for (const ItemFile &file : qAsConst(files)) {
             if (area.checkFile)
-                area.checkFile(file, &findings);
+                area.checkFile(LintItem(file), &findings);
         }
         if (area.checkAll)
             area.checkAll(files, &findings);

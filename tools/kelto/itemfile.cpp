@@ -85,7 +85,10 @@ void ItemFile::readKeys()
                             SettingsKey { {}, key.name }.text(), elementsOfValue(line.value),
                             line.key, value, position, reader.positionAt(value.data()) });
             const ItemFileKey &added = m_keys.constLast();
-            m_positions.insert(added.section + QLatin1Char('/') + added.name, m_keys.size() - 1);
+            const QString prefix = added.section + QLatin1Char('/');
+            m_positions.insert(prefix + added.name, m_keys.size() - 1);
+            if (const int slash = added.name.lastIndexOf(QLatin1Char('/')); slash >= 0)
+                m_positionsByLastPart.insert(prefix + added.name.mid(slash + 1), m_keys.size() - 1);
         }
     }
 }
@@ -94,6 +97,14 @@ const ItemFileKey *ItemFile::find(const QString &section, const QString &name) c
 {
     const auto position = m_positions.constFind(section + QLatin1Char('/') + name);
     return position == m_positions.cend() ? nullptr : &m_keys.at(*position);
+}
+
+const ItemFileKey *ItemFile::findReadAs(const QString &section, const QString &name) const
+{
+    if (const ItemFileKey *key = find(section, name))
+        return key;
+    const auto position = m_positionsByLastPart.constFind(section + QLatin1Char('/') + name);
+    return position == m_positionsByLastPart.cend() ? nullptr : &m_keys.at(*position);
 }
 
 IniPosition ItemFile::positionAt(const char *place) const

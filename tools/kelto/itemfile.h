@@ -51,8 +51,13 @@ public:
     const QVector<ItemFileKey> &keys() const { return m_keys; }
     const QVector<ItemFileSection> &sections() const { return m_sections; }
 
+    /// Whether a key is there twice.
+    bool hasDuplicates() const { return m_positions.size() < m_keys.size(); }
+
     /// The last key of this name, which is the one that counts; null when there is none.
     const ItemFileKey *find(const QString &section, const QString &name) const;
+    /// The key that the library reads as @p name: this one, or the last with it behind a "/".
+    const ItemFileKey *findReadAs(const QString &section, const QString &name) const;
 
     /// Where @p place, which points into the bytes or behind their end, is.
     IniPosition positionAt(const char *place) const;
@@ -72,6 +77,7 @@ private:
     QVector<ItemFileKey> m_keys;
     QVector<ItemFileSection> m_sections;
     QHash<QString, int> m_positions;
+    QHash<QString, int> m_positionsByLastPart; ///< Of keys with a "/".
 };
 
 #endif

@@ -8,14 +8,17 @@
 NearestNames::NearestNames(const QStringList &names)
     : m_names(names)
 {
-    for (const QString &candidate : names)
-        m_similar.append(comparableName(candidate));
 }
 
 QString NearestNames::nearest(const QString &name) const
 {
+    if (!m_similar) {
+        m_similar.emplace();
+        for (const QString &candidate : m_names)
+            m_similar->append(comparableName(candidate));
+    }
     const QString wanted = comparableName(name);
-    const QVector<int> nearest = m_similar.nearest(wanted, tolerableEdits(wanted.size()));
+    const QVector<int> nearest = m_similar->nearest(wanted, tolerableEdits(wanted.size()));
     return nearest.isEmpty() ? QString() : m_names.at(nearest.constFirst());
 }
 

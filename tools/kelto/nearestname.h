@@ -8,10 +8,13 @@
 
 #include <QStringList>
 
+#include <optional>
+
 /// The one of @p names that a mistyped @p name most likely stands for; empty when none is similar.
 QString nearestName(const QString &name, const QStringList &names);
 
-/// The same for many mistyped names, each compared with the same names.
+/// The same for many mistyped names, each compared with the same names. Costs nothing as long as
+/// there are none.
 class NearestNames
 {
 public:
@@ -22,7 +25,7 @@ public:
 
 private:
     const QStringList m_names;
-    SimilarNames m_similar;
+    mutable std::optional<SimilarNames> m_similar; ///< Made when the first name is sought.
 };
 
 /// " Did you mean "..."?" for the nearest of @p names, to be put behind a sentence; empty when none

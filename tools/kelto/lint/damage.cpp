@@ -6,6 +6,7 @@
 #include "command.h"
 #include "core/iniproblems_p.h"
 #include "lint/filefindings.h"
+#include "lint/lintitem.h"
 
 namespace {
 
@@ -152,9 +153,9 @@ void checkComments(FileFindings *findings)
     }
 }
 
-void check(const ItemFile &file, Findings *findings)
+void check(const LintItem &item, Findings *findings)
 {
-    FileFindings added(file, findings);
+    FileFindings added(item.file(), findings);
     checkProblems(&added);
     checkComments(&added);
 }

@@ -182,12 +182,12 @@ void checkField(const LintItem &item, const ItemFileKey &key, FileFindings *find
 class UndeclaredKeys
 {
 public:
-    UndeclaredKeys(const ItemFile &file, const LintItem &item)
+    explicit UndeclaredKeys(const LintItem &item)
         : m_parameters(declaredIn(item, QStringLiteral("Attribute")))
         , m_all(m_parameters.names() + declaredIn(item, QStringLiteral("Result")))
         , m_knownParameters(m_parameters.names().cbegin(), m_parameters.names().cend())
         , m_known(m_all.names().cbegin(), m_all.names().cend())
-        , m_explained(explainedIn(file, item))
+        , m_explained(explainedIn(item))
     {
     }
 
@@ -218,7 +218,7 @@ public:
 
 private:
     /// The names whose declaration is there, and another finding says why it is not read.
-    static QSet<QString> explainedIn(const ItemFile &file, const LintItem &item)
+    static QSet<QString> explainedIn(const LintItem &item)
     {
         QSet<QString> names;
         for (const LintKey &key : item.keys()) {
@@ -228,7 +228,7 @@ private:
             if (parts.size() > 1)
                 names += QSet<QString>(parts.cbegin(), parts.cend());
         }
-        IniReader reader(file.bytes());
+        IniReader reader(item.file().bytes());
         while (reader.next()) {
             const std::string_view text = reader.line().text;
             if (reader.line().kind == IniLine::Other)
@@ -289,6 +289,8 @@ void addDuplicate(const LintItem &item, const LintKey &key, const ItemFileKey &f
 
 void checkDuplicates(const LintItem &item, FileFindings *findings)
 {
+    if (!item.file().hasDuplicates())
+        return;
     QHash<QString, const ItemFileKey *> firsts;
     for (const LintKey &key : item.keys()) {
         const QString name = key.key->section + QLatin1Char('/') + key.key->name;
@@ -300,11 +302,10 @@ void checkDuplicates(const LintItem &item, FileFindings *findings)
     }
 }
 
-void check(const ItemFile &file, Findings *findings)
+void check(const LintItem &item, Findings *findings)
 {
-    FileFindings added(file, findings);
-    const LintItem item(file);
-    UndeclaredKeys undeclared(file, item);
+    FileFindings added(item.file(), findings);
+    UndeclaredKeys undeclared(item);
     checkSections(&added);
     for (const LintKey &key : item.keys()) {
         if (key.key->section.isEmpty()) {

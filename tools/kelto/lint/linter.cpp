@@ -6,6 +6,7 @@
 #include "command.h"
 #include "console.h"
 #include "lint/lintconfig.h"
+#include "lint/lintitem.h"
 
 #include <QThreadPool>
 
@@ -73,9 +74,10 @@ Findings findingsIn(const ItemFile &file)
                    {} } };
     }
     Findings findings;
+    const LintItem item(file);
     for (const RuleArea &area : ruleAreas()) {
         if (area.checkFile)
-            area.checkFile(file, &findings);
+            area.checkFile(item, &findings);
     }
     std::stable_sort(findings.begin(), findings.end(), standsBefore);
     return findings;

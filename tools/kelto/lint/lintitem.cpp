@@ -90,6 +90,7 @@ bool isTranslatedField(const QString &name)
 }
 
 LintItem::LintItem(const ItemFile &file)
+    : m_file(file)
 {
     QHash<QString, QString> meantSections;
     m_keys.reserve(file.keys().size());

@@ -37,12 +37,15 @@ struct LintKey
     ItemValue value;
 };
 
-/// The keys of a file by what they are meant to be: sections and fields that are misspelt count as
-/// what they are similar to, so that one wrong letter is one finding and not many.
+/// The keys of a file, which has to outlive it, by what they are meant to be: sections and fields
+/// that are misspelt count as what they are similar to, so that one wrong letter is one finding and
+/// not many.
 class LintItem
 {
 public:
     explicit LintItem(const ItemFile &file);
+
+    const ItemFile &file() const { return m_file; }
 
     /// In the order of the file, duplicates included.
     const QVector<LintKey> &keys() const { return m_keys; }
@@ -57,6 +60,7 @@ public:
     static QStringList elements(const ItemFileKey *key);
 
 private:
+    const ItemFile &m_file;
     QVector<LintKey> m_keys;
     QHash<QString, QHash<QString, const ItemFileKey *>> m_sections;
     QHash<QString, QStringList> m_names;

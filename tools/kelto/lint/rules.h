@@ -10,6 +10,7 @@
 #include <QVector>
 
 class ItemFile;
+class LintItem;
 
 enum class Severity { Off, Warning, Error };
 
@@ -49,7 +50,7 @@ struct RuleArea
 {
     QVector<Rule> rules;
     /// Called for each file, from several threads at a time.
-    void (*checkFile)(const ItemFile &file, Findings *findings);
+    void (*checkFile)(const LintItem &item, Findings *findings);
     /// Called once for all files, for what concerns several of them.
     void (*checkAll)(const QVector<ItemFile> &files, Findings *findings);
 };

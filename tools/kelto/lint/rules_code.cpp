@@ -44,10 +44,10 @@ const char *ruleFor(Problem::Reason reason)
 }
 
 /// Whether the type stands in the file under a name that only resembles the right one.
-bool isTypeMisspelt(const ItemFile &file)
+bool isTypeMisspelt(const LintItem &item)
 {
-    return !file.find(QStringLiteral("KeltoItem"), QStringLiteral("type"))
-        && LintItem(file).field("type");
+    return !item.file().find(QStringLiteral("KeltoItem"), QStringLiteral("type"))
+        && item.field("type");
 }
 
 bool isAscii(std::string_view text)
@@ -55,13 +55,53 @@ bool isAscii(std::string_view text)
     return std::all_of(text.begin(), text.end(), [](char c) { return (c & 0x80) == 0; });
 }
 
+/// Where the elements of a value are. Problems come key by key, and lists of modes can be long.
+class ElementPlaces
+{
+public:
+    explicit ElementPlaces(const ItemFile &file)
+        : m_file(file)
+    {
+    }
+
+    IniPosition of(const QString &text, const ItemFileKey &key)
+    {
+        read(key);
+        const int index = m_indexes.value(text, m_spelt.size());
+        return index < m_spelt.size() ? m_file.positionAt(m_spelt.at(index).text.data())
+                                      : key.valuePosition;
+    }
+    bool hasEscapes(const ItemFileKey &key)
+    {
+        read(key);
+        return !m_spelt.escapes.isEmpty();
+    }
+
+private:
+    void read(const ItemFileKey &key)
+    {
+        if (m_key == &key)
+            return;
+        m_key = &key;
+        m_spelt = speltValueOf(rawValueOf(m_file, key));
+        m_indexes.clear();
+        for (int i = key.value.size() - 1; i >= 0; --i)
+            m_indexes.insert(key.value.at(i), i);
+    }
+
+    const ItemFile &m_file;
+    const ItemFileKey *m_key = nullptr;
+    SpeltValue m_spelt;
+    QHash<QString, int> m_indexes; ///< Of the first of each text.
+};
+
 /// Whether the problem comes of how a key or a value is spelt, which is a finding of its own: a key
 /// with letters that are none of ASCII, a list where a text should be, an escape without quotes.
-bool isConsequence(const Problem &problem, const ItemFile &file)
+bool isConsequence(const Problem &problem, const LintItem &item, ElementPlaces *places)
 {
     if (problem.reason == Problem::NoCalculation)
-        return isTypeMisspelt(file);
-    const ItemFileKey *key = keyReadAs(file, problem.section, problem.key);
+        return isTypeMisspelt(item);
+    const ItemFileKey *key = item.file().findReadAs(problem.section, problem.key);
     if (!key)
         return false;
     if (problem.text == problem.key && !isAscii(key->spelt))
@@ -70,29 +110,31 @@ bool isConsequence(const Problem &problem, const ItemFile &file)
         return key->value.size() > 1;
     const bool isEscape
         = problem.reason == Problem::LineBreak || problem.reason == Problem::ControlCharacter;
-    return isEscape && !speltValueOf(rawValueOf(file, *key)).escapes.isEmpty();
+    return isEscape && places->hasEscapes(*key);
 }
 
-IniPosition placeOf(const Problem &problem, const ItemFile &file)
+IniPosition placeOf(const Problem &problem, const ItemFile &file, ElementPlaces *places)
 {
-    const ItemFileKey *key = keyReadAs(file, problem.section, problem.key);
+    const ItemFileKey *key = file.findReadAs(problem.section, problem.key);
     if (!key)
         return sectionPosition(file, problem.section);
     const bool isKey = problem.text == problem.key
         && (problem.section == QLatin1String("Attribute")
             || problem.section == QLatin1String("Result")
             || problem.section == QLatin1String("ExtraKey"));
-    return isKey ? key->position : elementPosition(file, key, key->value.indexOf(problem.text));
+    return isKey ? key->position : places->of(problem.text, *key);
 }
 
-void check(const ItemFile &file, Findings *findings)
+void check(const LintItem &item, Findings *findings)
 {
+    const ItemFile &file = item.file();
+    ElementPlaces places(file);
     const QVector<Problem> problems = sourceTextProblems(file.item());
     for (const Problem &problem : problems) {
         const char *rule = ruleFor(problem.reason);
-        if (rule && !isConsequence(problem, file)) {
+        if (rule && !isConsequence(problem, item, &places)) {
             FileFindings(file, findings)
-                .add(rule, placeOf(problem, file),
+                .add(rule, placeOf(problem, file, &places),
                      QStringLiteral("\"%1\" %2")
                          .arg(shortened(problem.text), reasonText(problem.reason)));
         }

@@ -9,6 +9,7 @@
 #include "nearestname.h"
 
 #include <KeltoItemHints>
+#include <KeltoParameterEntry>
 
 #include <QSet>
 
@@ -29,7 +30,12 @@ public:
         , m_all(m_parameters + m_results.names())
         , m_knownParameters(m_parameters.cbegin(), m_parameters.cend())
         , m_knownResults(m_results.names().cbegin(), m_results.names().cend())
+        , m_hiddenParameters(m_knownParameters)
     {
+        for (const QVector<QStringList> &entries : item.file().item().inner_mode_parameterList) {
+            for (const QStringList &entry : entries)
+                m_hiddenParameters.remove(entry.value(KeltoParameterEntry::Key));
+        }
     }
 
     bool contain(const QString &key) const
@@ -43,12 +49,15 @@ public:
         return isIn(m_knownResults, problem.part)
             || (!isOfResult(problem) && isIn(m_knownParameters, problem.part));
     }
-    /// Whether a condition begins with one of them that is not in @p item.
-    bool explainCondition(const Problem &problem, const AUTH_INF &item) const
+    /// Whether a condition begins with a parameter that is not in the item.
+    bool explainCondition(const Problem &problem) const
     {
-        return std::any_of(m_parameters.cbegin(), m_parameters.cend(), [&](const QString &key) {
-            return problem.value.startsWith(key) && !item.inner_mode_contains(key);
-        });
+        const QString &text = problem.value;
+        for (int at = text.indexOf(u'='); at >= 0; at = text.indexOf(u'=', at + 1)) {
+            if (m_hiddenParameters.contains(text.left(at).trimmed()))
+                return true;
+        }
+        return m_hiddenParameters.contains(text.trimmed());
     }
     bool areEmpty() const { return m_all.names().isEmpty(); }
 
@@ -86,6 +95,7 @@ private:
     const NearestNames m_all;
     const QSet<QString> m_knownParameters;
     const QSet<QString> m_knownResults;
+    QSet<QString> m_hiddenParameters;
 };
 
 /// What has another cause, which is a finding of its own.
@@ -97,7 +107,7 @@ bool isConsequence(const Problem &problem, const ItemFile &file, const DeclaredK
     case Problem::UnknownMode:
         return file.item().inner_mode_nameList.isEmpty();
     case Problem::BadCondition:
-        return keys.explainCondition(problem, file.item());
+        return keys.explainCondition(problem);
     // A comma without quotes, or a "/" in a key.
     case Problem::NotOneText:
     case Problem::DuplicateHint:
@@ -107,28 +117,24 @@ bool isConsequence(const Problem &problem, const ItemFile &file, const DeclaredK
     }
 }
 
-QString suggestionFor(const Problem &problem, const ItemFile &file, const DeclaredKeys &keys)
+QString suggestionFor(const Problem &problem, const NearestNames &modes, const DeclaredKeys &keys)
 {
     if (problem.kind == Problem::UnknownKey)
         return keys.suggestionFor(problem);
     if (problem.kind == Problem::UnknownMode)
-        return didYouMean(problem.part, file.item().inner_mode_nameList);
+        return didYouMean(modes.nearest(problem.part));
     return {};
 }
 
-void findProblems(const ItemFile &file, Findings *findings)
+void findProblems(const ItemFile &file, const DeclaredKeys &keys, Findings *findings)
 {
-    if (file.item().extraKey.isEmpty())
-        return;
+    const NearestNames modes(file.item().inner_mode_nameList);
     const QVector<Problem> problems = KeltoItemHints(file.item()).problems();
-    if (problems.isEmpty())
-        return;
-    const DeclaredKeys keys { LintItem(file) };
     for (const Problem &problem : problems) {
         if (isConsequence(problem, file, keys))
             continue;
         QString text = problem.text();
-        const QString suggestion = suggestionFor(problem, file, keys);
+        const QString suggestion = suggestionFor(problem, modes, keys);
         if (suggestion.isEmpty())
             text.chop(1);
         FileFindings(file, findings)
@@ -150,14 +156,14 @@ const QStringList &hintWords()
 
 /// The word of a hint that @p word most likely stands for; empty when there is none. Of short words
 /// only swapped letters count: one wrong letter makes another word of them.
-QString meantHint(const QString &word)
+QString meantHint(const QString &word, const NearestNames &hints)
 {
     static const QHash<QString, QString> longForms {
         { QStringLiteral("minimum"), QStringLiteral("Min") },
         { QStringLiteral("maximum"), QStringLiteral("Max") },
     };
     const QString small = word.simplified().toLower();
-    const QString meant = longForms.value(small, nearestName(word, hintWords()));
+    const QString meant = longForms.value(small, hints.nearest(word));
     if (meant.size() > 3 || longForms.contains(small))
         return meant;
     QString letters = small;
@@ -169,7 +175,7 @@ QString meantHint(const QString &word)
 
 /// The hint that the extra key @p name most likely stands for; empty when it is one, or belongs to
 /// the host. Keys may hold a "." or a blank, as may what divides them from the word.
-QString meantExtraKey(const QString &name, const DeclaredKeys &keys)
+QString meantExtraKey(const QString &name, const NearestNames &hints, const DeclaredKeys &keys)
 {
     for (int at = 1; at < name.size(); ++at) {
         const bool isDot = name.at(at) == QLatin1Char('.');
@@ -179,22 +185,22 @@ QString meantExtraKey(const QString &name, const DeclaredKeys &keys)
         const QString rest = name.mid(at + 1);
         if (!keys.contain(rest) && !keys.contain(rest.section(QLatin1Char('@'), 0, -2)))
             continue;
-        const QString meant = meantHint(word);
+        if (isDot && hints.names().contains(word))
+            return {};
+        const QString meant = meantHint(word, hints);
         if (!meant.isEmpty())
-            return isDot && meant == word ? QString() : meant + QLatin1Char('.') + rest;
+            return meant + QLatin1Char('.') + rest;
     }
     return {};
 }
 
-void findMisspeltHints(const ItemFile &file, Findings *findings)
+void findMisspeltHints(const ItemFile &file, const DeclaredKeys &keys, Findings *findings)
 {
-    const DeclaredKeys keys { LintItem(file) };
-    if (keys.areEmpty())
-        return;
+    const NearestNames hints(hintWords());
     for (const ItemFileKey &key : file.keys()) {
         if (key.section != QLatin1String("ExtraKey"))
             continue;
-        const QString meant = meantExtraKey(key.name, keys);
+        const QString meant = meantExtraKey(key.name, hints, keys);
         if (meant.isEmpty())
             continue;
         FileFindings(file, findings)
@@ -247,10 +253,14 @@ void findObjectNames(const ItemFile &file, Findings *findings)
     }
 }
 
-void check(const ItemFile &file, Findings *findings)
+void check(const LintItem &item, Findings *findings)
 {
-    findProblems(file, findings);
-    findMisspeltHints(file, findings);
+    const ItemFile &file = item.file();
+    if (!file.item().extraKey.isEmpty()) {
+        const DeclaredKeys keys(item);
+        findProblems(file, keys, findings);
+        findMisspeltHints(file, keys, findings);
+    }
     findObjectNames(file, findings);
 }
 

@@ -11,6 +11,7 @@
 #include <KeltoParameterEntry>
 #include <VParameter>
 
+#include <QHash>
 #include <QSet>
 
 #include <algorithm>
@@ -40,8 +41,11 @@ public:
         QHash<QString, QString> firsts;
         for (const QStringList &entry : entries) {
             const QString key = entry.value(KeltoParameterEntry::Key);
-            const QString first = firsts.value(looseName(key), key);
-            firsts.insert(looseName(key), first);
+            QString &loose = m_looseNames[key];
+            if (loose.isNull())
+                loose = looseName(key);
+            const QString first = firsts.value(loose, key);
+            firsts.insert(loose, first);
             if (first != key && VParameter(entry).isName(first))
                 report(section, first, key);
         }
@@ -61,6 +65,7 @@ private:
 
     const ItemFile &m_file;
     Findings *const m_findings;
+    QHash<QString, QString> m_looseNames; ///< By key, since most keys are in several modes.
     QSet<QPair<QString, QString>> m_reported;
 };
 
@@ -80,6 +85,13 @@ void findLikeNames(const ItemFile &file, Findings *findings)
         names.look(QStringLiteral("Attribute"), entries);
     Findings possible;
     LikeNames(file, &possible).look(QStringLiteral("Result"), item.output_results);
+    const auto isOfModes = [](const VDataItem &extra) {
+        return extra.key.startsWith(QLatin1String("Belong."));
+    };
+    if (!std::any_of(item.extraKey.cbegin(), item.extraKey.cend(), isOfModes)) {
+        *findings += possible;
+        return;
+    }
     if (possible.isEmpty())
         return;
     // Results can belong to some of the modes only.
@@ -146,8 +158,9 @@ void findUpdate(const ItemFile &file, Findings *findings)
     }
 }
 
-void check(const ItemFile &file, Findings *findings)
+void check(const LintItem &item, Findings *findings)
 {
+    const ItemFile &file = item.file();
     findLikeNames(file, findings);
     findLikeModes(file, findings);
     findColons(file, findings);

@@ -27,32 +27,17 @@
 /// Stands before each other file of an example of several.
 #define EXAMPLE_FILE(name) "; --- " name " ---\n"
 
-/// The key of @p file that the library reads as @p name: of a key with "/" it takes the last part.
-/// Null when there is none.
-inline const ItemFileKey *keyReadAs(const ItemFile &file, const QString &section,
-                                    const QString &name)
-{
-    if (const ItemFileKey *key = file.find(section, name))
-        return key;
-    const ItemFileKey *found = nullptr;
-    for (const ItemFileKey &key : file.keys()) {
-        if (key.section == section && key.name.endsWith(QLatin1Char('/') + name))
-            found = &key;
-    }
-    return found;
-}
-
 /// Where the key stands, or the file begins when it does not.
 inline IniPosition keyPosition(const ItemFile &file, const QString &section, const QString &name)
 {
-    const ItemFileKey *key = keyReadAs(file, section, name);
+    const ItemFileKey *key = file.findReadAs(section, name);
     return key ? key->position : IniPosition();
 }
 
 /// The same for its value.
 inline IniPosition valuePosition(const ItemFile &file, const QString &section, const QString &name)
 {
-    const ItemFileKey *key = keyReadAs(file, section, name);
+    const ItemFileKey *key = file.findReadAs(section, name);
     return key ? key->valuePosition : IniPosition();
 }
 

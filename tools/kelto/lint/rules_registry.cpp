@@ -14,8 +14,9 @@
 
 namespace {
 
-void findModesTwice(const ItemFile &file, Findings *findings)
+void findModesTwice(const LintItem &item, Findings *findings)
 {
+    const ItemFile &file = item.file();
     QHash<QString, int> counts;
     const QStringList modes = file.item().inner_mode_nameList;
     const ModePositions positions(file);

@@ -62,8 +62,9 @@ void findUnconverted(const ItemFile &file, const QVector<UnitPair> &pairs, Findi
     }
 }
 
-void check(const ItemFile &file, Findings *findings)
+void check(const LintItem &item, Findings *findings)
 {
+    const ItemFile &file = item.file();
     if (!areUnitsKnown())
         return;
     QVector<UnitPair> pairs;

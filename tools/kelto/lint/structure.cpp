@@ -34,9 +34,9 @@ QString result()
 class StructureCheck
 {
 public:
-    explicit StructureCheck(FileFindings *findings)
+    StructureCheck(const LintItem &item, FileFindings *findings)
         : m_findings(findings)
-        , m_item(findings->file())
+        , m_item(item)
         , m_modes(LintItem::elements(m_item.field("inner_mode_nameList")))
         , m_knownModes(m_modes.cbegin(), m_modes.cend())
         , m_nearestModes(m_modes)
@@ -298,7 +298,7 @@ private:
     }
 
     FileFindings *const m_findings;
-    const LintItem m_item;
+    const LintItem &m_item;
     const QStringList m_modes;
     const QSet<QString> m_knownModes;
     const NearestNames m_nearestModes;
@@ -307,10 +307,10 @@ private:
     QSet<QString> m_used;
 };
 
-void check(const ItemFile &file, Findings *findings)
+void check(const LintItem &item, Findings *findings)
 {
-    FileFindings added(file, findings);
-    StructureCheck(&added).check();
+    FileFindings added(item.file(), findings);
+    StructureCheck(item, &added).check();
 }
 
 } // namespace

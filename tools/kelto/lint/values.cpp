@@ -165,9 +165,10 @@ void checkDeclaration(const ItemFileKey &key, FileFindings *findings)
 
 bool isConverted(const LintKey &key)
 {
+    if (key.value != ItemValue::Units)
+        return false;
     const QStringList units = LintItem::elements(key.key);
-    return key.value == ItemValue::Units && units.size() > 1
-        && units.constFirst() != units.constLast();
+    return units.size() > 1 && units.constFirst() != units.constLast();
 }
 
 /// A module that converts other units most likely means to convert this one, too.
@@ -227,10 +228,9 @@ void checkNumber(const ItemFileKey &key, FileFindings *findings)
     }
 }
 
-void check(const ItemFile &file, Findings *findings)
+void check(const LintItem &item, Findings *findings)
 {
-    FileFindings added(file, findings);
-    const LintItem item(file);
+    FileFindings added(item.file(), findings);
     const bool areUnitsConverted
         = std::any_of(item.keys().cbegin(), item.keys().cend(), isConverted);
     for (const LintKey &key : item.keys()) {
