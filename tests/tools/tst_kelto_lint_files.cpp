@@ -192,6 +192,17 @@ void TestKeltoLintFiles::findsInLargeFiles_data()
     QTest::newRow("unknown modes") << "[KeltoItem]\ninner_mode_nameList=" + list
             + "\n[Attribute]\na=\n[Belong]\na=X" + modes.join(",X") + '\n'
                                    << QString("unknown-mode") << 100000;
+    const QByteArray item = "[KeltoItem]\nname=Beam\ntype=calculation\ninner_mode_count=100000\n";
+    QTest::newRow("hints for unknown modes") << item + "inner_mode_nameList=" + list
+            + "\n[Attribute]\na=\n[Belong]\na=mode1\n[ExtraKey]\n" + "Default.a@X"
+            + modes.mid(0, 20000).join("=1\nDefault.a@X")
+            + "=1\n" << QString("bad-hint") << 20000;
+    QTest::newRow("like results in many modes")
+        << item + "output_results=a,a\ninner_mode_nameList=" + list + "\n[Result]\nA b=\na_B=\n"
+        << QString("like-names") << 1;
+    QTest::newRow("modes with quotes")
+        << item + "inner_mode_nameList=\"\\\"" + modes.mid(0, 20000).join("\",\"\\\"") + "\"\n"
+        << QString("text-in-code") << 20000;
     QTest::newRow("modes without parameters") << "[KeltoItem]\ninner_mode_nameList=First," + list
             + "\n[Attribute]\na=\n" + "[Belong]\na=First\n"
                                               << QString("mode-without-parameters") << 100000;

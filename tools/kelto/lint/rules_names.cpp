@@ -85,9 +85,8 @@ void findLikeNames(const ItemFile &file, Findings *findings)
         names.look(QStringLiteral("Attribute"), entries);
     Findings possible;
     LikeNames(file, &possible).look(QStringLiteral("Result"), item.output_results);
-    const auto isOfModes = [](const VDataItem &extra) {
-        return extra.key.startsWith(QLatin1String("Belong."));
-    };
+    const auto isOfModes
+        = [](const VDataItem &extra) { return extra.key.startsWith(QLatin1String("Belong.")); };
     if (!std::any_of(item.extraKey.cbegin(), item.extraKey.cend(), isOfModes)) {
         *findings += possible;
         return;
