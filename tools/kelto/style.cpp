@@ -9,18 +9,29 @@
 #include <QJsonObject>
 #include <VIniSettings>
 
+#include <algorithm>
+
 namespace {
 
+bool isNoText(QChar c)
+{
+    return c == QChar::ReplacementCharacter
+        || (c.category() == QChar::Other_Control && c != QLatin1Char('\n')
+            && c != QLatin1Char('\t'));
+}
+
 /// A text is made of every file. Whoever names one that describes no style has named the wrong one.
-QString whyNoStyle(const VIniSettings &settings)
+QString whyNoStyle(const VIniSettings &settings, const QString &sheet)
 {
     const QStringList groups = settings.allGroups();
     const bool hasClass = !settings.value(QStringLiteral("ID/QtClassName")).toString().isEmpty();
     if (!hasClass && !groups.contains(QStringLiteral("normal")))
         return Command::tr("describes no style: there is neither \"QtClassName\" in a section "
                            "\"ID\" nor a section \"normal\".");
-    return groups == QStringList(QStringLiteral("ID"))
-        ? Command::tr("describes no style: there is no section but \"ID\".")
+    if (groups == QStringList(QStringLiteral("ID")))
+        return Command::tr("describes no style: there is no section but \"ID\".");
+    return std::any_of(sheet.cbegin(), sheet.cend(), isNoText)
+        ? Command::tr("holds bytes that are no text; save it as UTF-8.")
         : QString();
 }
 
@@ -34,12 +45,12 @@ ExitCode run(const QCommandLineParser &line, Console &console)
         return Found;
     }
     const VIniSettings settings(path);
-    const QString problem = whyNoStyle(settings);
+    const QString sheet = settings.styleSheetFormat();
+    const QString problem = whyNoStyle(settings, sheet);
     if (!problem.isEmpty()) {
         console.complain(path + QLatin1String(": ") + problem);
         return Found;
     }
-    const QString sheet = settings.styleSheetFormat();
     if (line.isSet(QStringLiteral("json"))) {
         console.print(QJsonObject { { QStringLiteral("file"), path },
                                     { QStringLiteral("styleSheet"), sheet } });

@@ -2072,5 +2072,9 @@ rule and its value one of error, warning and off:
         <source>Writes the style sheet text that VIniSettings::styleSheetFormat() makes of the file. &quot;QtClassName&quot; in the section &quot;ID&quot; is the class of the widgets, the section &quot;normal&quot; their style, and every other section the style of a state, such as &quot;hover&quot;. A file without a class and without &quot;normal&quot; is an error.</source>
         <translation>输出 VIniSettings::styleSheetFormat() 由此文件生成的样式表文本。节“ID”中的“QtClassName”是部件的类，节“normal”是其样式，其他每个节是一种状态的样式，例如“hover”。既没有类也没有“normal”的文件是错误。</translation>
     </message>
+    <message>
+        <source>holds bytes that are no text; save it as UTF-8.</source>
+        <translation>含有不是文本的字节；请另存为 UTF-8。</translation>
+    </message>
 </context>
 </TS>
