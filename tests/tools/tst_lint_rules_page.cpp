@@ -15,12 +15,13 @@ const char *const introduction
     = "# The rules of `kelto lint`\n\n"
       "<!-- Made of the texts of the command by tests/tools/tst_lint_rules_page.cpp. -->\n\n"
       "A finding ends with the rule in brackets, and `kelto lint --explain RULE` says what stands\n"
-      "here. The severity is the one without settings: a file `.kelto-lint.ini` beside the items "
-      "or\n"
-      "above them makes it another one, and `off` switches a rule off.\n\n"
+      "here. `--fix` mends what has one right answer. For programs, `--json` writes the findings "
+      "in\n"
+      "the command's own way, and `--sarif` as SARIF 2.1.0, which code hosts and editors show.\n\n"
+      "The severity below is the one without settings: a file `.kelto-lint.ini` beside the items\n"
+      "or above them makes it another one, and `off` switches a rule off.\n\n"
       "```ini\n[Rules]\ncomment=warning\nmode-without-parameters=off\n```\n\n"
-      "`kelto lint --fix` mends what has one right answer. In the examples a line\n"
-      "`; --- second.ini ---` begins another file.\n\n"
+      "In the examples a line `; --- second.ini ---` begins another file.\n\n"
       "| rule | severity | what is wrong |\n|---|---|---|\n";
 
 /// As it is, in a page in Markdown.

@@ -106,7 +106,7 @@ QString complaintAbout(const QCommandLineParser &parser, const Command &command)
         return parser.errorText();
     const int count = parser.positionalArguments().size();
     if (count < command.leastArguments)
-        return Command::tr("\"%1\" needs %2.")
+        return Command::tr("\"%1\" needs \"%2\".")
             .arg(QLatin1String(command.name), QLatin1String(command.arguments));
     if (command.mostArguments >= 0 && count > command.mostArguments)
         return Command::tr("\"%1\" takes no \"%2\".")

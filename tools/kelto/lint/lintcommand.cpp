@@ -141,7 +141,7 @@ ExitCode run(const QCommandLineParser &line, Console &console)
     if (!line.positionalArguments().isEmpty())
         return lintFiles(line, console);
     console.complain(
-        Command::tr("\"%1\" needs %2.").arg(QStringLiteral("lint"), QStringLiteral("PATH..."))
+        Command::tr("\"%1\" needs \"%2\".").arg(QStringLiteral("lint"), QStringLiteral("PATH..."))
         + Command::tr(" Try \"kelto %1\".").arg(QStringLiteral("lint --help")));
     return WrongUsage;
 }

@@ -140,8 +140,8 @@ Files are written only when they change. An item that source text cannot carry i
         <translation>没有选项“%1”。</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; needs %2.</source>
-        <translation>“%1”需要 %2。</translation>
+        <source>&quot;%1&quot; needs &quot;%2&quot;.</source>
+        <translation>“%1”需要“%2”。</translation>
     </message>
     <message>
         <source>&quot;%1&quot; takes no &quot;%2&quot;.</source>
