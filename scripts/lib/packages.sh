@@ -24,6 +24,7 @@ test_packages=(
     make pkg-config          # hosts built with qmake and pkg-config
     meson pre-commit         # hosts with module items in their build
     clazy libclang-rt-14-dev # Clang with the checks of Qt code, and its sanitizers
+    qtdeclarative5-dev qml-module-qtquick2 # a form in QML
     libbenchmark-dev clang-format-14 shellcheck codespell
     python3       # plants faults
     python3-jsonschema # compares what the command writes with its schemas
