@@ -229,7 +229,12 @@ VParameter KeltoParameterModel::parameter(int row) const
 
 QVector<QPair<QString, QVariant>> KeltoParameterModel::values() const
 {
-    return d->values();
+    return d->values(d->counting);
+}
+
+QVector<QPair<QString, QVariant>> KeltoParameterModel::enteredValues() const
+{
+    return d->values(QVector<bool>(d->rows.size(), true));
 }
 
 void KeltoParameterModel::setValues(QVector<QPair<QString, QVariant>> values)

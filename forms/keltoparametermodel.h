@@ -131,6 +131,9 @@ public:
      * not count, its value is an empty text.
      */
     QVector<QPair<QString, QVariant>> values() const;
+    /// The same with what was entered for parameters that do not count at present, in place of the
+    /// empty texts: for a file, which setValues() reads again, as they may count later.
+    QVector<QPair<QString, QVariant>> enteredValues() const;
     /// Replaces all values, also by none where a key is missing, and forgets what can be undone. Of
     /// a key that comes again the first counts. A unit that differs from the parameter's is kept
     /// and shown. Takes no default: those fill in what is empty at the start only. The list that

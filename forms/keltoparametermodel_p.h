@@ -36,7 +36,8 @@ public:
     QVariant roleData(int row, int role);
     QVariant columnData(int row, int column, int role) const;
 
-    Entries values() const;
+    /// With an empty text for each row that does not count according to @p isCounting.
+    Entries values(const QVector<bool> &isCounting) const;
     void load(const Entries &values);
 
     /// One step to undo, unless nothing changes. Steps of one @p session in a row become one if

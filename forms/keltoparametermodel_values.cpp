@@ -137,14 +137,14 @@ bool KeltoParameterModelPrivate::isMissing(int row) const
     return rows.at(row).isEmpty() && !rows.at(row).isOptional && counting.at(row);
 }
 
-KeltoParameterModelPrivate::Entries KeltoParameterModelPrivate::values() const
+KeltoParameterModelPrivate::Entries KeltoParameterModelPrivate::values(
+    const QVector<bool> &isCounting) const
 {
     Entries values;
     values.reserve(2 * rows.size() + otherValues.size());
     for (int i = 0; i < rows.size(); ++i) {
         const ParameterRow &row = rows.at(i);
-        const bool isCounting = counting.at(i);
-        if (!isCounting || (row.isEmpty() && row.isOptional))
+        if (!isCounting.at(i) || (row.isEmpty() && row.isOptional))
             values.append({ valuePrefix + row.key, QString() });
         else if (!row.isEmpty())
             values.append({ valuePrefix + row.key, row.value });
@@ -158,7 +158,7 @@ KeltoParameterModelPrivate::Entries KeltoParameterModelPrivate::values() const
 void KeltoParameterModelPrivate::load(const Entries &values)
 {
     // Values that are entered, but do not count at present, are not among them and stay.
-    if (areSameValues(values, this->values()))
+    if (areSameValues(values, this->values(counting)))
         return;
     ValueReader reader(&rows, rowOfKey);
     for (const auto &entry : values)
@@ -229,7 +229,7 @@ void KeltoParameterModelPrivate::gatherFindings()
     if (!areFindingsOutdated)
         return;
     areFindingsOutdated = false;
-    const Entries all = values();
+    const Entries all = values(counting);
     findings = KeltoItemParameterVerify::explain(&mode.item, &all, mode.mode());
     findingTexts = QVector<QString>(rows.size());
     for (const KeltoItemFinding &finding : std::as_const(findings)) {

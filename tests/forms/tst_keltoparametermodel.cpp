@@ -372,8 +372,17 @@ void tst_KeltoParameterModel::keepsWhatDoesNotCountForLater()
     QCOMPARE(stored(model, "Force"), QVariant(""));
     model.setValues(values);
     QCOMPARE(model.undoStack()->count(), 3);
+    const Entries entered = model.enteredValues();
     QVERIFY(type(&model, "Case", "end"));
     QCOMPARE(stored(model, "Force"), QVariant("5"));
+    // In a file it would be lost with the model.
+    Model later(&registry, "Statics", "Bend");
+    later.setValues(entered);
+    QCOMPARE(later.values(), values);
+    QVERIFY(type(&later, "Case", "end"));
+    QCOMPARE(later.values(), model.values());
+    // What counts is the same in both lists.
+    QCOMPARE(later.enteredValues(), later.values());
 }
 
 void tst_KeltoParameterModel::findsWhatIsWrong()
