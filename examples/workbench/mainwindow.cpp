@@ -99,7 +99,7 @@ void MainWindow::newProject()
     if (!mayGoOn())
         return;
     const auto last = tasksNamed(*m_registry, m_registry->value_set(lastTask).toString());
-    const Task task = confirmedTask(last.isEmpty() ? allTasks(*m_registry).value(0) : last.first());
+    const Task task = confirmedTask(last.value(0));
     if (!task.isNull())
         startProject(task);
 }
@@ -161,7 +161,7 @@ bool MainWindow::saveAs()
 
 bool MainWindow::saveTo(const QString &path)
 {
-    m_project.setTask(m_task, ui->form->values(), m_registry->value_group(m_task.id()));
+    m_project.setTask(m_task, m_model->enteredValues(), m_registry->value_group(m_task.id()));
     const QString problem = m_project.save(path);
     if (!problem.isEmpty()) {
         tell(problem);
@@ -230,15 +230,15 @@ Task MainWindow::confirmedTask(const Task &preselected)
     const QVector<Task> tasks = tasksNamed(*m_registry,
                                            m_registry->stdModeNameForm(m_registry->current_group,
                                                                        m_registry->current_mode));
+    if (tasks.size() < 2)
+        return tasks.value(0);
     QStringList modules;
     for (const Task &task : tasks)
         modules.append(task.module.name_tr);
-    QString chosen;
-    if (tasks.size() > 1)
-        chosen = QInputDialog::getItem(this, tr("Confirm task"),
-                                       tr("Several modules have this task. Which one?"), modules, 0,
-                                       false);
-    return tasks.value(qMax(modules.indexOf(chosen), 0));
+    return tasks.value(
+        modules.indexOf(QInputDialog::getItem(this, tr("Confirm task"),
+                                              tr("Several modules have this task. Which one?"),
+                                              modules, 0, false)));
 }
 
 void MainWindow::chooseTask()
@@ -247,7 +247,7 @@ void MainWindow::chooseTask()
     if (task.isNull() || task.id() == m_task.id())
         return;
     // What was entered is kept for other tasks with the same parameters.
-    m_project.setTask(m_task, ui->form->values(), m_registry->value_group(m_task.id()));
+    m_project.setTask(m_task, m_model->enteredValues(), m_registry->value_group(m_task.id()));
     showTask(task, false);
     m_model->undoStack()->resetClean();
 }
@@ -258,20 +258,10 @@ void MainWindow::showTask(const Task &task, bool isSaved)
 {
     m_task = task;
     selectTask(*m_registry, task);
-    Values defaults;
-    for (const VParameter &parameter : task.parameters) {
-        const QString key = parameter.name().first;
-        defaults.append({ attributeGroup + key, task.hints.defaultValue(key) });
-    }
-    m_registry->setDefaultSettings(task.id(), defaults);
-    Values values = isSaved ? m_project.values(task) : m_project.startValues(task, defaults);
-    for (const auto &value : qAsConst(defaults)) {
-        // What does not count may count later. Of a key that comes again the first counts.
-        if (!task.hints.counts(value.first.section('/', 1), &values))
-            values.append(value);
-    }
     auto model = std::make_unique<KeltoParameterModel>(m_registry, task.group.first, task.position);
-    model->setValues(values);
+    const Values defaults = model->enteredValues(); // with which a model starts
+    m_registry->setDefaultSettings(task.id(), defaults);
+    model->setValues(isSaved ? m_project.values(task) : m_project.startValues(task, defaults));
     connect(model->undoStack(), &QUndoStack::cleanChanged, this,
             [this](bool isClean) { setWindowModified(!isClean); });
     ui->form->setModel(model.get());
@@ -368,6 +358,7 @@ void MainWindow::changeEvent(QEvent *event)
     if (event->type() == QEvent::LanguageChange) {
         ui->retranslateUi(this);
         m_task = taskAt(*m_registry, m_task.group.first, m_task.position);
+        selectTask(*m_registry, m_task);
         retranslate();
     }
 }

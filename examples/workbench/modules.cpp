@@ -17,31 +17,22 @@
 
 Outcome<QVector<AUTH_INF>> modulesFromFiles(const QString &directory)
 {
-    const QFileInfo info(directory);
-    if (!info.isDir())
-        return { {}, QString("There is no directory \"%1\".").arg(directory) };
-    // Without the right to search it, Qt still lists the names, but not the files behind them.
-    if (!info.isReadable() || !info.isExecutable())
-        return { {}, QString("The directory \"%1\" cannot be read.").arg(directory) };
+    QVector<AUTH_INF> modules;
     // The build takes the same files.
     const auto files
         = QDir(directory).entryInfoList({ "*.ini" }, QDir::Files | QDir::CaseSensitive, QDir::Name);
-    if (files.isEmpty())
-        return { {}, QString("The directory \"%1\" holds no files *.ini.").arg(directory) };
-    QVector<AUTH_INF> modules;
     for (const QFileInfo &file : files) {
-        // Kelto treats a file that it cannot read as an empty one.
-        if (!file.isReadable())
-            return { {}, QString("The file \"%1\" cannot be read.").arg(file.filePath()) };
         AUTH_INF module;
         module.load_ini(file.filePath());
-        if (module.name.isEmpty())
+        if (module.name.isEmpty()) // also for a file that Kelto cannot read
             return { {},
-                     QString("The file \"%1\" holds no module: the section \"KeltoItem\" with a "
-                             "\"name\" is missing.")
+                     QString("The file \"%1\" cannot be read, or holds no module: a section "
+                             "\"KeltoItem\" with a \"name\".")
                          .arg(file.filePath()) };
         modules.append(module);
     }
+    if (modules.isEmpty())
+        return { {}, QString("\"%1\" is no directory with files *.ini to read.").arg(directory) };
     return { modules, {} };
 }
 
@@ -76,11 +67,5 @@ void useLanguage(const QLocale &locale, AUTH_SET *registry, QVector<AUTH_INF> mo
     installTranslations(locale);
     for (AUTH_INF &module : modules)
         KeltoItemTranslation::translate(&module);
-    QVector<QPair<QString, int>> selected;
-    const QStringList groups = registry->exclusive_group_namelist();
-    for (const QString &group : groups)
-        selected.append({ group, registry->exclusive_group_select(group) });
     registry->acquire(modules);
-    for (const auto &selection : qAsConst(selected))
-        registry->exclusive_group_set_mode(selection.first, selection.second);
 }

@@ -6,7 +6,6 @@
 
 #include "calculations/outcome.h"
 
-#include <QCoreApplication>
 #include <QString>
 #include <QVector>
 
@@ -24,18 +23,12 @@ Outcome<QVector<AUTH_INF>> modulesFromFiles(const QString &directory);
 /// The modules of the files that the program was built with.
 QVector<AUTH_INF> compiledModules();
 
-/// The translation context of the modules: the name that their files hold as "Tr_ObjectName".
-class ModuleTexts
-{
-    Q_DECLARE_TR_FUNCTIONS(ModuleTexts)
-};
-
 /// Installs the translations for the language of @p locale in place of those installed before;
 /// texts without one stay English. Windows are told by an event QEvent::LanguageChange.
 void installTranslations(const QLocale &locale);
 
-/// Does that, and gives @p registry the modules @p modules with their texts in the language; what
-/// is selected stays selected.
+/// Does that, and gives @p registry the modules @p modules with their texts in the language. Which
+/// modes were selected is lost.
 void useLanguage(const QLocale &locale, AUTH_SET *registry, QVector<AUTH_INF> modules);
 
 #endif

@@ -3,8 +3,6 @@
 
 #include "plotview.h"
 
-#include "modules.h"
-
 #include <QApplication>
 #include <QPainter>
 
@@ -34,14 +32,9 @@ QPen penOf(int curve)
              lines[curve % int(std::size(lines))] };
 }
 
-QString translated(const QString &name)
-{
-    return ModuleTexts::tr(name.toUtf8().constData());
-}
-
 QwtText axisTitle(const Quantity &quantity)
 {
-    QwtText title(withUnit(translated(quantity.name), quantity.unit));
+    QwtText title(heading(quantity));
     title.setFont(QApplication::font());
     return title;
 }

@@ -103,24 +103,20 @@ Values Project::values(const Task &task) const
     return values + m_settings.data(); // of a key that comes again the first counts
 }
 
-Values Project::startValues(const Task &task, Values defaults) const
+Values Project::startValues(const Task &task, const Values &defaults) const
 {
-    const Values all = values(task);
+    const Values saved = values(task);
+    Values start;
     const QStringList entered = m_settings.value(enteredKey).toStringList();
-    for (auto &value : defaults) {
-        if (entered.contains(value.first))
-            value.second = valueOf(all, value.first);
-    }
-    return defaults;
+    for (const QString &key : entered)
+        start.append({ key, valueOf(saved, key) });
+    return start + defaults; // of a key that comes again the first counts
 }
 
 void Project::setTask(const Task &task, const Values &values, const Values &defaults)
 {
     QStringList entered = m_settings.value(enteredKey).toStringList();
     for (const auto &value : values) {
-        // What does not count is empty now, but it may count again.
-        if (value.second == QString() && !task.hints.counts(value.first.section('/', 1), &values))
-            continue;
         m_settings.setValue(value.first, value.second);
         if (value.first.startsWith(attributeGroup) && !entered.contains(value.first)
             && value.second != valueOf(defaults, value.first))
@@ -145,16 +141,14 @@ QStringList Project::differences(const AUTH_SET &registry, const Task &task) con
             || (finding.isAbsence() && finding.expected.isEmpty()))
             sentences.append(finding.text());
     }
-    QStringList known;
+    QStringList unknown = m_settings.allKeys("Attribute");
     const auto parameters = registry.defaultParameterList();
     for (const VParameter &parameter : parameters)
-        known.append(attributeGroup + parameter.name().first);
-    for (const auto &value : all) {
-        if (value.first.startsWith(attributeGroup) && !known.contains(value.first))
-            sentences.append(
-                tr("The value \"%1\" = %2 is not used by any task. It is kept in the project.")
-                    .arg(value.first.section('/', 1), value.second.toStringList().join("; ")));
-    }
+        unknown.removeAll(attributeGroup + parameter.name().first);
+    for (const QString &key : qAsConst(unknown))
+        sentences.append(
+            tr("The value \"%1\" = %2 is not used by any task. It is kept in the project.")
+                .arg(key.section('/', 1), m_settings.value(key).toStringList().join("; ")));
     for (const VParameter &parameter : task.parameters) {
         const QString unit = m_settings.value(unitGroup + parameter.name().first).toString();
         if (isInOtherUnit(m_settings, parameter))

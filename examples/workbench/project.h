@@ -39,13 +39,12 @@ public:
     /// a unit that is not one of the parameter's becomes a text with that unit behind it, which is
     /// no number, so that the user has to decide.
     Values values(const Task &task) const;
-    /// The values with which @p task starts: @p defaults, and in their place what the user entered
-    /// for this or another task.
-    Values startValues(const Task &task, Values defaults) const;
+    /// The values with which @p task starts: what the user entered for this or another task, and
+    /// behind that @p defaults.
+    Values startValues(const Task &task, const Values &defaults) const;
 
-    /// Takes over @p task and replaces the values of the keys that are in @p values, though not by
-    /// the empty texts of parameters that do not count. Those that differ from @p defaults count as
-    /// entered by the user from then on.
+    /// Takes over @p task and replaces the values of the keys that are in @p values. Those that
+    /// differ from @p defaults count as entered by the user from then on.
     void setTask(const Task &task, const Values &values, const Values &defaults = {});
 
     /// What differs between the project as it was opened and @p task, as it may when the project

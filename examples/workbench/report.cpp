@@ -31,6 +31,26 @@ QString textOf(const QVector<VParameter> &parameters, const Values &values,
     return view.text().toHtmlEscaped();
 }
 
+/// Smaller where it would need more than its share of the page. Returns the height that it takes.
+double drawText(const QString &html, QPainter *painter)
+{
+    QTextDocument document;
+    document.documentLayout()->setPaintDevice(painter->device());
+    document.setHtml(html);
+    const int width = painter->device()->width();
+    document.setTextWidth(width);
+    double scale = 1;
+    // Smaller text has longer lines and so needs less than in proportion.
+    while (document.size().height() * scale > painter->device()->height() * 0.7) {
+        scale *= 0.9;
+        document.setTextWidth(width / scale);
+    }
+    painter->scale(scale, scale);
+    document.drawContents(painter);
+    painter->resetTransform();
+    return document.size().height() * scale;
+}
+
 } // namespace
 
 QString Report::html() const
@@ -62,33 +82,11 @@ bool Report::save(const QString &path) const
     writer.setTitle(task.title());
     writer.setPageSize(QPageSize(QPageSize::A4));
     writer.setPageMargins({ 18, 15, 18, 15 }, QPageLayout::Millimeter);
-    return print(&writer) && file.commit();
-}
-
-bool Report::print(QPagedPaintDevice *device) const
-{
-    QPainter painter;
-    if (!painter.begin(device))
-        return false;
-    QTextDocument document;
-    document.documentLayout()->setPaintDevice(device);
-    document.setHtml(html());
-    const QSizeF page(device->width(), device->height());
-    document.setTextWidth(page.width());
-    double scale = 1;
-    // Smaller text has longer lines and so needs less than in proportion.
-    while (document.size().height() * scale > page.height() * 0.7) {
-        scale *= 0.9;
-        document.setTextWidth(page.width() / scale);
-    }
-    painter.save();
-    painter.scale(scale, scale);
-    document.drawContents(&painter);
-    painter.restore();
+    QPainter painter(&writer);
+    const double used = drawText(html(), &painter);
     PlotView plots;
     plots.setPalette(QPalette(Qt::white));
     plots.setCurves(computation.curves);
-    const double used = document.size().height() * scale;
-    plots.render(&painter, QRectF(0, used, page.width(), page.height() - used));
-    return painter.end();
+    plots.render(&painter, QRectF(0, used, writer.width(), writer.height() - used));
+    return painter.end() && file.commit();
 }

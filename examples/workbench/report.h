@@ -6,8 +6,6 @@
 
 #include "task.h"
 
-class QPagedPaintDevice;
-
 /// What a report tells.
 struct Report
 {
@@ -23,7 +21,6 @@ struct Report
 
 private:
     QString html() const;
-    bool print(QPagedPaintDevice *device) const;
 };
 
 #endif

@@ -21,6 +21,8 @@ StudyDialog::StudyDialog(AUTH_SET *registry, const Task &task, const Values &val
     , ui(std::make_unique<Ui::StudyDialog>())
 {
     ui->setupUi(this);
+    for (const VParameter &result : task.results)
+        m_results.append(quantityOf(result));
     offerParameters();
 }
 
@@ -33,8 +35,7 @@ void StudyDialog::offerParameters()
         const VParameter &parameter = m_task.parameters.at(i);
         if (parameter.parameterObjectName() == "double" && !parameter.isMulti()
             && m_task.hints.counts(parameter.name().first, &m_values))
-            ui->studyParameter->addItem(withUnit(parameter.name().second, parameter.unit().first),
-                                        i);
+            ui->studyParameter->addItem(heading(quantityOf(parameter)), i);
     }
     ui->studyRun->setEnabled(ui->studyParameter->count() > 0);
     recallRange();
@@ -71,8 +72,8 @@ bool StudyDialog::readRange()
         const double number = locale().toDouble(edit->text(), &isNumber);
         return isNumber ? number : qQNaN(); // "inf" and "nan" are numbers for Qt
     };
-    m_range
-        = { parameter(), numberIn(ui->studyFrom), numberIn(ui->studyTo), ui->studySteps->value() };
+    m_range = { quantityOf(parameter()), parameter().symbol(), numberIn(ui->studyFrom),
+                numberIn(ui->studyTo), ui->studySteps->value() };
     if (qIsFinite(m_range.from) && qIsFinite(m_range.to) && m_range.from != m_range.to) {
         m_registry->set_temp(place(),
                              QStringList { ui->studyFrom->text(), ui->studyTo->text(),
@@ -93,14 +94,17 @@ void StudyDialog::run()
     QProgressDialog progress(tr("Computing..."), tr("Cancel"), 0, count, this);
     progress.setWindowModality(Qt::WindowModal); // only then it handles events
     progress.setMinimumDuration(300); // ms; a window that is gone at once would only flicker
-    m_points = study(m_task, m_values, m_range, [&](int done) {
+    const auto pointAt = [this](double value) {
+        return computedAt(value, m_range.quantity.name, m_task, m_values);
+    };
+    m_points = study(m_range, pointAt, [&](int done) {
         progress.setValue(done);
         return !progress.wasCanceled();
     });
     ui->studySave->setEnabled(true);
     showCurves();
     Q_EMIT ended(tr("Study of %1: %2 of %3 points")
-                     .arg(m_range.parameter.name().second)
+                     .arg(translated(m_range.quantity.name))
                      .arg(m_points.size())
                      .arg(count));
 }
@@ -109,14 +113,14 @@ void StudyDialog::showCurves()
 {
     const bool isFamily = ui->studyView->currentIndex() == 1;
     ui->plots->setCurves(isFamily ? familyOfCurves(m_range, m_points, 6)
-                                  : resultCurves(m_task, m_range, m_points));
+                                  : resultCurves(m_range, m_results, m_points));
     QStringList lines;
     if (m_points.size() <= m_range.steps)
         lines.append(
             tr("Canceled after %1 of %2 points.").arg(m_points.size()).arg(m_range.steps + 1));
     for (const StudyPoint &point : qAsConst(m_points)) {
-        if (!point.outcome.isValid() && lines.size() < 3)
-            lines.append(tr("Not computed at %L1: %2").arg(point.value).arg(point.outcome.problem));
+        if (!point.problem.isEmpty() && lines.size() < 3)
+            lines.append(tr("Not computed at %L1: %2").arg(point.value).arg(point.problem));
     }
     ui->studyMessage->setText(lines.join('\n'));
 }
@@ -129,7 +133,7 @@ void StudyDialog::saveCsv()
         return;
     QSaveFile file(path);
     const bool isSaved = file.open(QIODevice::WriteOnly)
-        && file.write(studyAsCsv(m_task, m_range, m_points).toUtf8()) >= 0 && file.commit();
+        && file.write(studyAsCsv(m_range, m_results, m_points).toUtf8()) >= 0 && file.commit();
     ui->studyMessage->setText(
         isSaved ? tr("Saved as \"%1\".").arg(path)
                 : tr("\"%1\" cannot be written: %2.").arg(path, file.errorString()));

@@ -4,7 +4,7 @@
 #ifndef STUDYDIALOG_H
 #define STUDYDIALOG_H
 
-#include "study.h"
+#include "task.h"
 
 #include <QDialog>
 
@@ -45,6 +45,7 @@ private:
     AUTH_SET *m_registry;
     Task m_task;
     Values m_values;
+    QVector<Quantity> m_results;
     StudyRange m_range;
     QVector<StudyPoint> m_points;
     std::unique_ptr<Ui::StudyDialog> ui;

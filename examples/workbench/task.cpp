@@ -4,6 +4,8 @@
 #include "task.h"
 
 #include <Kelto/AUTH_SET>
+#include <Kelto/KeltoItemFinding>
+#include <Kelto/KeltoItemParameterVerify>
 #include <Kelto/VIniSettings>
 
 QVariant valueOf(const Values &values, const QString &key)
@@ -78,4 +80,25 @@ QVector<Task> tasksNamed(const AUTH_SET &registry, const QString &standardName)
             named.append(task);
     }
     return named;
+}
+
+Quantity quantityOf(const VParameter &parameter)
+{
+    return Quantity::in(parameter.name().first, parameter.unit().first);
+}
+
+StudyPoint computedAt(double value, const QString &key, const Task &task, const Values &values)
+{
+    VIniSettings changed(values);
+    changed.setValue(attributeGroup + key,
+                     QVariant(value).toString()); // all digits, in no language
+    const Values input = changed.data();
+    const auto findings = KeltoItemParameterVerify::explain(&task.module, &input, task.mode.first);
+    const auto outcome = findings.isEmpty()
+        ? Calculator::calculate(task.module, task.mode.first, input)
+        : Outcome<Computation> { {}, findings.first().text() };
+    StudyPoint point { value, {}, outcome.result.curves, outcome.problem };
+    for (const VParameter &result : task.results)
+        point.results.append(valueOf(outcome.result.results, attributeGroup + result.name().first));
+    return point;
 }

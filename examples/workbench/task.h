@@ -4,6 +4,7 @@
 #ifndef TASK_H
 #define TASK_H
 
+#include "calculations/study.h"
 #include "calculator.h"
 
 #include <Kelto/AUTH_INF>
@@ -60,5 +61,12 @@ void selectTask(AUTH_SET &registry, const Task &task);
 /// The tasks with the plain or translated standard mode name @p standardName, or with @p
 /// standardName as Task::id(). Modes of several modules may share one name.
 QVector<Task> tasksNamed(const AUTH_SET &registry, const QString &standardName);
+
+/// Name and unit of a parameter or a result.
+Quantity quantityOf(const VParameter &parameter);
+
+/// What @p task gives for @p values, of which @p value replaces that of the parameter @p key. What
+/// the module does not allow is refused.
+StudyPoint computedAt(double value, const QString &key, const Task &task, const Values &values);
 
 #endif

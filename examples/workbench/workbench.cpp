@@ -7,8 +7,6 @@
 #include "task.h"
 
 #include <Kelto/AUTH_SET>
-#include <Kelto/KeltoItemFinding>
-#include <Kelto/KeltoItemParameterVerify>
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -21,15 +19,14 @@
 
 namespace {
 
-/// What is wrong with the values of the options; empty when nothing is.
-QString complaintAbout(const QCommandLineParser &parser)
+/// Ends the program for values of the options that make no sense.
+void check(const QCommandLineParser &parser)
 {
     const QString language = parser.value("language");
     if (parser.positionalArguments().size() > 1)
-        return "Unexpected argument: " + parser.positionalArguments().at(1);
+        quit(WrongUsage, "Unexpected argument: " + parser.positionalArguments().at(1));
     if (parser.isSet("language") && language != "en" && language != "zh_CN")
-        return "Unknown language: " + language;
-    return {};
+        quit(WrongUsage, "Unknown language: " + language);
 }
 
 /// Ends the program with a message when they cannot be read.
@@ -59,18 +56,7 @@ void moveToOwnDirectory(QString *project)
 /// Ends the program, and offers the tasks that there are instead of @p name.
 [[noreturn]] void quitForUnknownTask(const AUTH_SET &registry, const QString &name)
 {
-    QStringList lines { "Unknown task: " + name };
-    const Values none;
-    const auto modules = registry.AUTH_INF_DATA();
-    for (const AUTH_INF &module : modules) {
-        const auto findings
-            = KeltoItemParameterVerify::explain(&module, &none, name.section(':', -1));
-        if (findings.value(0).kind != KeltoItemFinding::UnknownMode)
-            continue;
-        for (const QString &mode : findings.first().expected)
-            lines.append("Did you mean " + registry.stdModeNameForm(module.group, mode) + '?');
-    }
-    lines.append("Known tasks:");
+    QStringList lines { "Unknown task: " + name, "Known tasks:" };
     const auto modes = registry.currentModeList();
     for (const auto &mode : modes)
         lines.append("  " + mode.first);
@@ -106,9 +92,7 @@ Options readOptions(const QStringList &arguments)
     if (!parser.parse(arguments))
         quit(WrongUsage, parser.errorText());
     parser.process(arguments); // shows the help or the version where asked to
-    const QString complaint = complaintAbout(parser);
-    if (!complaint.isEmpty())
-        quit(WrongUsage, complaint);
+    check(parser);
 
     Options options { parser.value("language"), parser.value("task"), modulesFor(parser),
                       parser.positionalArguments().value(0) };

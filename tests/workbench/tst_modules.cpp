@@ -304,12 +304,11 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("directory");
         QTest::addColumn<QString>("problem");
-        const QString noDirectory = "There is no directory \"%1\".";
-        const QString noFiles = "The directory \"%1\" holds no files *.ini.";
-        const QString noModule = "The file \"%1/2.ini\" holds no module: the section \"KeltoItem\" "
-                                 "with a \"name\" is missing.";
-        QTest::newRow("missing directory") << "missing" << noDirectory;
-        QTest::newRow("file instead of a directory") << "blank/1.ini" << noDirectory;
+        const QString noFiles = "\"%1\" is no directory with files *.ini to read.";
+        const QString noModule = "The file \"%1/2.ini\" cannot be read, or holds no module: a "
+                                 "section \"KeltoItem\" with a \"name\".";
+        QTest::newRow("missing directory") << "missing" << noFiles;
+        QTest::newRow("file instead of a directory") << "blank/1.ini" << noFiles;
         QTest::newRow("directory without files") << "empty" << noFiles;
         QTest::newRow("file with an ending in upper case") << "shouted" << noFiles;
         QTest::newRow("file that is no INI file") << "rubbish" << noModule;

@@ -4,12 +4,12 @@
 #ifndef CURVE_H
 #define CURVE_H
 
+#include <QCoreApplication>
 #include <QPointF>
 #include <QString>
 #include <QVector>
 
-/// What one axis of a plot shows. Names are plain; they are translated in the context
-/// "ModuleTexts".
+/// What one axis of a plot shows. Names are plain; see translated().
 struct Quantity
 {
     Quantity() = default;
@@ -23,6 +23,15 @@ struct Quantity
     {
     }
 
+    /// In a unit of its own.
+    static Quantity in(const QString &itsName, const QString &itsUnit)
+    {
+        Quantity quantity;
+        quantity.name = itsName;
+        quantity.unit = itsUnit;
+        return quantity;
+    }
+
     QString name;
     /// The parameter or result of the module in whose unit the quantity is shown.
     QString key;
@@ -30,10 +39,17 @@ struct Quantity
     QString unit;
 };
 
-/// A name with its unit, as it heads an axis or a column.
-inline QString withUnit(const QString &name, const QString &unit)
+/// A plain name from a module or a curve, as a person reads it.
+inline QString translated(const QString &name)
 {
-    return unit.isEmpty() ? name : QString::fromLatin1("%1 [%2]").arg(name, unit);
+    return QCoreApplication::translate("ModuleTexts", name.toUtf8().constData());
+}
+
+/// The name of a quantity with its unit, as it heads an axis or a column.
+inline QString heading(const Quantity &quantity)
+{
+    const QString name = translated(quantity.name);
+    return quantity.unit.isEmpty() ? name : QString::fromLatin1("%1 [%2]").arg(name, quantity.unit);
 }
 
 /// A line of a plot. Curves with equal quantities belong into one plot.
