@@ -148,6 +148,21 @@ void KeltoParameterForm::focusParameter(QString key)
         d->field(row)->setFocus(Qt::TabFocusReason);
 }
 
+void KeltoParameterForm::undo()
+{
+    d->step(&QUndoStack::undo);
+}
+
+void KeltoParameterForm::redo()
+{
+    d->step(&QUndoStack::redo);
+}
+
+void KeltoParameterForm::resetToDefaults()
+{
+    d->model->resetToDefaults();
+}
+
 bool KeltoParameterForm::event(QEvent *event)
 {
     // Otherwise the window's own shortcut would have these keys before an editor has.
@@ -180,9 +195,9 @@ void KeltoParameterForm::changeEvent(QEvent *event)
 void KeltoParameterForm::keyPressEvent(QKeyEvent *event)
 {
     if (event->matches(QKeySequence::Undo))
-        d->step(&QUndoStack::undo);
+        undo();
     else if (event->matches(QKeySequence::Redo))
-        d->step(&QUndoStack::redo);
+        redo();
     else
         QWidget::keyPressEvent(event);
 }

@@ -86,6 +86,12 @@ public Q_SLOTS:
     /// Brings the editor of a parameter into view, even one that is hidden as advanced, and gives
     /// it the focus. Nothing happens for an unknown key and for a parameter that does not count.
     void focusParameter(QString key);
+    /// As the shortcuts: undoes or redoes a step of the model, if there is one, and brings what it
+    /// changes into view. For the actions of a host, which stay connected when the model changes.
+    void undo();
+    void redo();
+    /// The same as of the model.
+    void resetToDefaults();
 
 Q_SIGNALS:
     /// The same as of the model.

@@ -59,9 +59,6 @@ MainWindow::MainWindow(AUTH_SET *registry, const QVector<AUTH_INF> &modules,
     ui->log->toggleViewAction()->setObjectName("showLog");
     ui->viewMenu->addAction(ui->log->toggleViewAction());
     ui->statusBar->addPermanentWidget(ui->place);
-    connect(ui->undo, &QAction::triggered, this, [this] { m_model->undoStack()->undo(); });
-    connect(ui->redo, &QAction::triggered, this, [this] { m_model->undoStack()->redo(); });
-    connect(ui->defaults, &QAction::triggered, this, [this] { m_model->resetToDefaults(); });
     connect(ui->languages, &QActionGroup::triggered, this, [this](const QAction *action) {
         m_registry->setValueInSet(languageKey, action->objectName());
         setLanguage(action->objectName());

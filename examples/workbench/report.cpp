@@ -8,7 +8,6 @@
 #include <Kelto/Forms/KeltoResultView>
 
 #include <QAbstractTextDocumentLayout>
-#include <QCoreApplication>
 #include <QDate>
 #include <QPainter>
 #include <QPdfWriter>
@@ -16,11 +15,6 @@
 #include <QTextDocument>
 
 namespace {
-
-struct Texts
-{
-    Q_DECLARE_TR_FUNCTIONS(Report)
-};
 
 QString textOf(const QVector<VParameter> &parameters, const Values &values,
                const KeltoItemHints &hints, int digits)
@@ -68,7 +62,7 @@ QString Report::html() const
                    "<tr style='white-space:pre-wrap'><td width=50%>%8</td><td>%9</td></tr></table>")
         .arg(task.title().toHtmlEscaped(), QDate::currentDate().toString(Qt::ISODate),
              project.toHtmlEscaped(), task.module.description.toHtmlEscaped(),
-             task.description.toHtmlEscaped(), Texts::tr("Input"), Texts::tr("Results"),
+             task.description.toHtmlEscaped(), tr("Input"), tr("Results"),
              textOf(entered, values, task.hints, 15),
              textOf(task.results, computation.results, task.hints, 6));
 }

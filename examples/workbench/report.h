@@ -6,9 +6,14 @@
 
 #include "task.h"
 
+#include <QCoreApplication>
+
 /// What a report tells.
-struct Report
+class Report
 {
+    Q_DECLARE_TR_FUNCTIONS(Report)
+
+public:
     QString project;
     Task task;
     Values values;

@@ -25,24 +25,16 @@ QString Task::id() const
 
 Task taskAt(const AUTH_SET &registry, const QString &group, int position)
 {
-    // The registry counts the modes of a group over all of its modules: position 3 of "Statics" is
-    // the first mode of the second module.
     const auto modes = registry.exclusive_group_mode_description(group);
     if (position < 0 || position >= modes.size())
         return {};
-    const int module = modes.at(position).first;
-    int mode = 0;
-    while (mode < position && modes.at(position - mode - 1).first == module)
-        ++mode;
-
     Task task;
     task.group = registry.findExclusiveGroupName(group);
     task.position = position;
-    task.module = registry.AUTH_INF_DATA().value(module);
-    task.mode = { task.module.inner_mode_nameList.value(mode),
-                  task.module.inner_mode_nameList_tr.value(mode) };
+    task.module = registry.AUTH_INF_DATA().value(modes.at(position).first);
     task.description = modes.at(position).second;
     task.hints = KeltoItemHints(&registry, group, position);
+    task.mode = { task.hints.mode(), task.hints.translated(task.hints.mode()) };
     task.parameters = task.hints.parameters();
     task.results = task.hints.results();
     return task;
@@ -74,9 +66,10 @@ QVector<Task> tasksNamed(const AUTH_SET &registry, const QString &standardName)
     QVector<Task> named;
     const QVector<Task> tasks = allTasks(registry);
     for (const Task &task : tasks) {
-        if (standardName == task.id()
-            || standardName == registry.stdModeNameForm(task.group.first, task.mode.first)
-            || standardName == registry.stdModeNameForm(task.group.second, task.mode.second))
+        const QStringList names { task.id(),
+                                  registry.stdModeNameForm(task.group.first, task.mode.first),
+                                  registry.stdModeNameForm(task.group.second, task.mode.second) };
+        if (names.contains(standardName))
             named.append(task);
     }
     return named;

@@ -43,6 +43,7 @@ private Q_SLOTS:
     void undoesWithinTheWholeForm();
     void undoesWhatWasTypedIntoTwoForms();
     void showsWhatIsUndone();
+    void undoesForActionsOfTheHost();
     void offersUndoOfTheFormInMenus();
 };
 
@@ -356,6 +357,35 @@ void tst_KeltoParameterFormEditors::showsWhatIsUndone()
     QCOMPARE(editorOf<QLineEdit>(*form, "Depth")->text(), "");
     QVERIFY(form->editor("Depth")->isVisible());
     QCOMPARE(search->text(), "");
+}
+
+/// By what a menu is connected to, whatever model the form shows.
+void tst_KeltoParameterFormEditors::undoesForActionsOfTheHost()
+{
+    const auto form = shownForm(caseBeam());
+    QAction undo;
+    QAction redo;
+    QAction defaults;
+    connect(&undo, &QAction::triggered, form.get(), &Form::undo);
+    connect(&redo, &QAction::triggered, form.get(), &Form::redo);
+    connect(&defaults, &QAction::triggered, form.get(), &Form::resetToDefaults);
+    const AUTH_SET registry = registryOf(caseBeam());
+    Model other(&registry, "Statics", "Bend");
+    form->setModel(&other);
+    form->setAdvancedVisible(true);
+    QTest::keyClicks(form->editor("Depth"), "5");
+    form->setAdvancedVisible(false);
+    undo.trigger();
+    QCOMPARE(stored(*form, "Depth"), QVariant(""));
+    QVERIFY(form->editor("Depth")->isVisible());
+    form->setAdvancedVisible(false);
+    redo.trigger();
+    QCOMPARE(stored(*form, "Depth"), QVariant("5"));
+    QVERIFY(form->editor("Depth")->isVisible());
+    QTest::keyClicks(form->editor("Length"), "7");
+    defaults.trigger();
+    QCOMPARE(stored(*form, "Length"), QVariant("2.5"));
+    QCOMPARE(stored(*form, "Depth"), QVariant(""));
 }
 
 void tst_KeltoParameterFormEditors::offersUndoOfTheFormInMenus()
