@@ -26,6 +26,9 @@ class VIniSettingsPrivate;
  * A list that is handed in whole may hold a key more than once; look-ups then see the first.
  * Removing a key removes it from memory only: nothing is ever removed from a file.
  *
+ * INI files know few types: a number or a flag that was stored is read again as a text. That and
+ * more of the kind is among the traps in docs/traps.md.
+ *
  * No operation reports an error. A file that cannot be read gives no keys, one that cannot be
  * written is left alone. Vectors that are passed by pointer stay the caller's and are used during
  * the call only; a null pointer stands for an empty vector.

@@ -23,24 +23,24 @@ class VParameter;
  * form starts, which values are allowed, what may stay empty, how it is called and explained, and
  * in which order things stand.
  *
- * | extra key                           | its text                                                |
- * |-------------------------------------|---------------------------------------------------------|
- * | `Default.key`                       | the value; several values are joined by ";"             |
- * | `Min.key`, `Max.key`                | a number with "." as decimal sign; the limit is allowed |
- * | `Choices.key`                       | values joined by "|", each may be "value=label"         |
- * | `Optional.key`, `Advanced.key`      | "true" or "false"                                       |
- * | `When.key`                          | "other=value|value", other is the key of a parameter    |
- * | `Help.key`, `Label.key`             | text for a person, translated                           |
- * | `Files.key`                         | name filters as QFileDialog takes them, joined by ";;"  |
- * | `Order`                             | keys joined by "|"                                      |
- * | `Belong.key`                        | of a result: inner modes joined by "|"                  |
+ * | extra key                      | its text                                                  |
+ * |--------------------------------|-----------------------------------------------------------|
+ * | `Default.key`                  | the value; several values are joined by ";"               |
+ * | `Min.key`, `Max.key`           | a number with "." as decimal sign; the limit is allowed   |
+ * | `Choices.key`                  | values joined by bars, each may be "value=label"          |
+ * | `Optional.key`, `Advanced.key` | "true" or "false"                                         |
+ * | `When.key`                     | the key of a parameter, "=", and values joined by bars    |
+ * | `Help.key`, `Label.key`        | text for a person, translated                             |
+ * | `Files.key`                    | name filters as QFileDialog takes them, joined by ";;"    |
+ * | `Order`                        | keys joined by bars                                       |
+ * | `Belong.key`                   | of a result: inner modes joined by bars                   |
  *
- * `key` is all that stands behind the first dot. "@" and the plain name of an inner mode behind it,
- * or behind `Order`, make a hint count for that mode only; it replaces the one without. Where keys
- * or modes hold "@" themselves, all behind the dot is the key if there is such a key, and else the
- * first "@" counts that has a key before it and a mode behind it. Texts are compared exactly, with
- * case; white space around the elements of a list and around "=" does not count. Extra keys of any
- * other form are the host's own.
+ * A bar is "|". `key` is all that stands behind the first dot. "@" and the plain name of an inner
+ * mode behind it, or behind `Order`, make a hint count for that mode only; it replaces the one
+ * without. Where keys or modes hold "@" themselves, all behind the dot is the key if there is such
+ * a key, and else the first "@" counts that has a key before it and a mode behind it. Texts are
+ * compared exactly, with case; white space around the elements of a list and around "=" does not
+ * count. Extra keys of any other form are the host's own.
  *
  * A value has to be one text: one that a file holds as a list was not quoted. The default of an
  * optional parameter may be empty. Of a default with several values, each has to fit the choices

@@ -24,6 +24,9 @@ public:
      * that its generated source text would give: the plain name, type, group and mode names, the
      * descriptions, and the entries' own places 7 and 8, in the context contextOf().
      *
+     * Descriptions and the places of the entries hold one text each, so that the plain one is gone
+     * then: for another language, translate the item as it was loaded.
+     *
      * Hints need no call: KeltoItemHints translates them when they are asked for. Null is ignored.
      */
     static void translate(AUTH_INF *item);

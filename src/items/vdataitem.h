@@ -10,8 +10,8 @@
 
 #include <utility>
 
-/// One extra key of a module item: a free key with its value. Kelto stores both and interprets
-/// neither.
+/// One extra key of a module item: a key with its value. Some keys are hints, see KeltoItemHints;
+/// of all others Kelto knows no meaning.
 struct VDataItem
 {
     VDataItem() = default;
