@@ -152,7 +152,9 @@ private Q_SLOTS:
         QTest::newRow("a quote and a backslash")
             << QByteArray("\\\"\\\\") << QByteArray("\\\"\\\\");
         QTest::newRow("a digit behind a number")
-            << QByteArray("\"\\x1\\x66\"") << QByteArray("\\x1\\x66");
+            << QByteArray("\"\\x1\\x66\"") << QByteArray("\"\\x1\\x66\"");
+        QTest::newRow("a line break and a tab")
+            << QByteArray("a\\nb, c\\td") << QByteArray("\"a\\nb\", \"c\\td\"");
         QTest::newRow("half of a pair") << QByteArray("\\xd83d!") << QByteArray("\"\\xd83d!\"");
         QTest::newRow("a letter by its number") << QByteArray("\\xe9") << QByteArray("é");
         QTest::newRow("a line that goes on") << QByteArray("a, \\\nb") << QByteArray("a, b");

@@ -6,6 +6,9 @@
 
 #include "lint/linter.h"
 
+#include "convert/inidocument.h"
+#include "convert/jsonitem.h"
+#include "format/format.h"
 #include "lint/fixes.h"
 #include "lint/lintconfig.h"
 #include "naiveitems.h"
@@ -14,6 +17,7 @@
 #include "support/itemjson.h"
 #include "support/testfiles.h"
 
+#include <QJsonDocument>
 #include <QRegularExpression>
 #include <QTest>
 #include <VIniSettings>
@@ -28,6 +32,8 @@ private Q_SLOTS:
     void findsNothingInWhatIsSaved();
     void fixesNothingButWhatIsWrong();
     void survivesMutations();
+    void findsNoMoreInWhatToolsWrite_data();
+    void findsNoMoreInWhatToolsWrite();
 
 private:
     const QStringList m_seldom { ", and more", "; else", " = x", " 100 %", " (长)", " #1", "'s" };
@@ -92,7 +98,49 @@ bool isInside(IniPosition position, const QByteArray &bytes)
     return position.column <= 1 + std::count_if(line.cbegin(), line.cend(), beginsCharacter);
 }
 
+/// The item as it comes back from JSON, as a file; empty where a file cannot hold it.
+QByteArray thereAndBack(const AUTH_INF &item)
+{
+    JsonError error;
+    const AUTH_INF again = itemInJson(QJsonDocument(jsonOf(item)).toJson(), &error);
+    const QByteArray text = iniOf(again);
+    return lossOf(again, text).fields.isEmpty() ? text : QByteArray();
+}
+
+/// A text in quotes that is all but plain.
+QByteArray quotedText(Dice *dice)
+{
+    static const QStringList pieces {
+        "\\t", "\\n", "\\f", "\\x1b", "\\xfeff", "\\xd83d", "\\\"", "\\\\", ",", ";",
+        " ",   "=",   "|",   "@",     "#",       "'",       "é",    "长",   "x", "z",
+    };
+    const QStringList texts = dice->someOf(pieces, dice->between(1, 4));
+    return "\"a" + texts.join("").toUtf8() + "z\"";
+}
+
+QByteArray quotedItem(unsigned seed)
+{
+    NaiveItemMaker maker(seed);
+    QByteArrayList lines = NaiveWriter::written(maker.plainItem()).split('\n');
+    for (QByteArray &line : lines) {
+        const QByteArray key = line.left(line.indexOf('=') + 1);
+        if (key == "description =" || key == "icon =" || key == "group =" || key.startsWith("Note"))
+            line = key + quotedText(&maker.dice());
+    }
+    return lines.join('\n');
+}
+
+QByteArray damagedItem(unsigned seed)
+{
+    Dice dice(seed);
+    return mutated(quotedItem(seed), &dice);
+}
+
+using FileMaker = QByteArray (*)(unsigned seed);
+
 } // namespace
+
+Q_DECLARE_METATYPE(FileMaker)
 
 void TestKeltoLintRandom::namesWhatComesBackChanged_data()
 {
@@ -202,6 +250,43 @@ void TestKeltoLintRandom::survivesMutations()
         }
         QVERIFY(QFile::remove(path));
     }
+}
+
+void TestKeltoLintRandom::findsNoMoreInWhatToolsWrite_data()
+{
+    QTest::addColumn<FileMaker>("fileOf");
+    QTest::addColumn<int>("leastWritten");
+
+    QTest::newRow("texts in quotes") << FileMaker(quotedItem) << 999;
+    QTest::newRow("damaged files") << FileMaker(damagedItem) << 80;
+}
+
+void TestKeltoLintRandom::findsNoMoreInWhatToolsWrite()
+{
+    QFETCH(FileMaker, fileOf);
+    QFETCH(int, leastWritten);
+    int written = 0;
+    for (unsigned seed = 1; seed <= 500; ++seed) {
+        const QByteArray bytes = fileOf(seed);
+        QVERIFY(writeFile("item.ini", bytes));
+        const ItemFile file("item.ini");
+        const Findings before = allFindings(file);
+        DocumentError error;
+        QByteArrayList texts { formatted(bytes, &error) };
+        // What is missing in a file with errors is missed in the item, too, by another name.
+        if (linesOf(before, Severity::Error).isEmpty())
+            texts.append(thereAndBack(file.item()));
+        texts.removeAll({});
+        for (const QByteArray &text : qAsConst(texts)) {
+            QVERIFY(writeFile("written.ini", text));
+            const Findings after = allFindings(ItemFile("written.ini"));
+            const QString why = QString::fromUtf8(bytes + '\n' + text + '\n')
+                + linesOf(after, Severity::Off).join('\n');
+            QVERIFY2(after.size() <= before.size(), qPrintable(why));
+        }
+        written += texts.size();
+    }
+    QVERIFY2(written > leastWritten, qPrintable(QString::number(written)));
 }
 
 QTEST_GUILESS_MAIN(TestKeltoLintRandom)

@@ -87,12 +87,17 @@ QByteArray escaped(const QString &text)
     return spelt + plain.toUtf8();
 }
 
-/// Texts with a meaning of their own to QSettings need quotes. So do sentences and lists that are
-/// joined by "|": a comma that somebody adds to them later would divide them.
+/// Texts with a meaning of their own to QSettings need quotes. So do characters that are escaped,
+/// which look like a mistake elsewhere, sentences, and lists that are joined by "|": a comma that
+/// somebody adds to them later would divide them.
 bool needsQuotes(const QString &text)
 {
     if (text.isEmpty())
         return false;
+    for (int i = 0; i < text.size(); ++i) {
+        if (needsNumber(text, i))
+            return true;
+    }
     const QString dividing = QStringLiteral(",;=|");
     const QString ending = QStringLiteral(".!?。！？");
     return text.startsWith(QLatin1Char(' ')) || text.endsWith(QLatin1Char(' '))
