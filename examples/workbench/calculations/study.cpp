@@ -56,7 +56,8 @@ QVector<Curve> familyOfCurves(const StudyRange &range, const QVector<StudyPoint>
         const StudyPoint &point = points.at(i * (points.size() - 1) / std::max(members - 1, 1));
         const QString value
             = QString("%1 = %L2 %3").arg(range.symbol).arg(point.value).arg(range.quantity.unit);
-        for (Curve curve : point.curves) {
+        for (const Curve &member : point.curves) {
+            Curve curve = member;
             curve.name = curve.name == curve.y.name ? value : translated(curve.name) + ", " + value;
             curves.append(curve);
         }
