@@ -5,16 +5,13 @@ import QtQuick 2.15
 
 // What docs/forms.md says about QML, as a host would write it.
 Column {
-    property alias rows: repeater
-
     Repeater {
-        id: repeater
-
         model: parameters
         delegate: TextInput {
             property string label: model.name + " [" + model.unit + "]"
             property string problem: model.finding
 
+            objectName: model.key
             enabled: model.counts
             text: model.text
             onEditingFinished: model.text = text

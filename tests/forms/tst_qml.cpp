@@ -95,10 +95,12 @@ private:
 
     QQuickItem *delegate(int row) const
     {
-        QQuickItem *item = nullptr;
-        QMetaObject::invokeMethod(m_view->rootObject()->property("rows").value<QObject *>(),
-                                  "itemAt", Q_RETURN_ARG(QQuickItem *, item), Q_ARG(int, row));
-        return item;
+        const QString key = m_model->index(row, 0).data(Model::KeyRole).toString();
+        const QList<QQuickItem *> items = m_view->rootObject()->childItems();
+        const auto found = std::find_if(items.cbegin(), items.cend(), [&](const QQuickItem *item) {
+            return item->objectName() == key;
+        });
+        return found == items.cend() ? nullptr : *found;
     }
 
     /// As the user types it.
