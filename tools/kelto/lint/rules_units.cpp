@@ -5,7 +5,9 @@
 
 #include "command.h"
 #include "lint/rules_places.h"
+#include "nearestname.h"
 #include "units/unit.h"
+#include "units/unitrespelling.h"
 
 #include <algorithm>
 
@@ -20,6 +22,60 @@ struct UnitPair
     bool areTextsEqual;
 };
 
+/// Whether both can be read, and measure the same.
+bool areAlike(const std::optional<Unit> &first, const std::optional<Unit> &second)
+{
+    return first && second && first->dimension == second->dimension;
+}
+
+/// What @p text most likely stands for beside @p other; empty when nothing is similar.
+QString meantBeside(const QString &text, const std::optional<Unit> &other)
+{
+    const QStringList candidates = unitsMeantBy(text);
+    const auto fits = [&](const QString &candidate) { return areAlike(unitOf(candidate), other); };
+    const auto found = std::find_if(candidates.cbegin(), candidates.cend(), fits);
+    return found == candidates.cend() ? QString() : *found;
+}
+
+QString unknownText(const QString &text, const QString &otherText, const std::optional<Unit> &other)
+{
+    const QStringList candidates = unitsMeantBy(text);
+    const QString fitting = meantBeside(text, other);
+    const auto known = std::find_if(candidates.cbegin(), candidates.cend(),
+                                    [](const QString &unit) { return unitOf(unit).has_value(); });
+    if (!fitting.isEmpty() || known != candidates.cend()) {
+        return Command::tr("\"%1\" is no known unit.").arg(text)
+            + didYouMean(fitting.isEmpty() ? *known : fitting);
+    }
+    return text == otherText
+        ? Command::tr("\"%1\" is no known unit").arg(text)
+        : Command::tr("\"%1\" is no known unit and not compared with \"%2\"").arg(text, otherText);
+}
+
+/// A symbol can have two meanings, of which only the one that is not read may fit the other unit.
+void addDifference(const ItemFile &file, const ItemFileKey &key, Findings *findings)
+{
+    const QString first = key.value.constFirst();
+    const QString second = key.value.constLast();
+    QString read = first;
+    QString meant = meantBeside(first, unitOf(second));
+    if (meant.isEmpty()) {
+        read = second;
+        meant = meantBeside(second, unitOf(first));
+    }
+    FileFindings added(file, findings);
+    if (meant.isEmpty()) {
+        added.add(
+            "unit-dimension", key.valuePosition,
+            Command::tr("\"%1\" and \"%2\" are units of different quantities").arg(first, second));
+    } else {
+        added.add("ambiguous-unit", elementPosition(file, &key, read == first ? 0 : 1),
+                  Command::tr("\"%1\" and \"%2\" measure the same only if \"%3\" means \"%4\"; "
+                              "then write that")
+                      .arg(first, second, read, meant));
+    }
+}
+
 /// The pair of @p key; nothing for one that is faulty, or is no pair.
 std::optional<UnitPair> pairOf(const ItemFile &file, const ItemFileKey &key, Findings *findings)
 {
@@ -31,14 +87,12 @@ std::optional<UnitPair> pairOf(const ItemFile &file, const ItemFileKey &key, Fin
     if (!units[0] || !units[1]) {
         FileFindings(file, findings)
             .add("unknown-unit", elementPosition(file, &key, units[0] ? key.value.size() - 1 : 0),
-                 Command::tr("\"%1\" is no known unit").arg(units[0] ? second : first));
+                 units[0] ? unknownText(second, first, units[0])
+                          : unknownText(first, second, units[1]));
         return std::nullopt;
     }
-    if (units[0]->dimension != units[1]->dimension) {
-        FileFindings(file, findings)
-            .add("unit-dimension", key.valuePosition,
-                 Command::tr("\"%1\" and \"%2\" are units of different quantities")
-                     .arg(first, second));
+    if (!areAlike(units[0], units[1])) {
+        addDifference(file, key, findings);
         return std::nullopt;
     }
     return UnitPair { &key, first, *units[0], first == second };
@@ -100,7 +154,8 @@ RuleArea unitRules()
                   "Capital letters count: it is \"MPa\" and \"kN\". A \"·\" or a "
                   "space multiplies, all behind a \"/\" is below it, and powers are "
                   "\"m²\", \"m^2\" or \"m2\". A parameter without a unit has an "
-                  "empty text or \"-\".")),
+                  "empty text or \"-\". Nothing is lost with a unit that is not known here; "
+                  "switch this off where a module has words of its own.")),
               EXAMPLE_ITEM EXAMPLE_LENGTH "[Unit]\nLength=Mmm, m\n",
               EXAMPLE_ITEM EXAMPLE_LENGTH "[Unit]\nLength=mm, m\n" },
             { "unit-dimension", Severity::Error,
@@ -111,6 +166,17 @@ RuleArea unitRules()
                                     "that it is converted to, which no number does here.")),
               EXAMPLE_ITEM EXAMPLE_LENGTH "[Unit]\nLength=mm, s\n",
               EXAMPLE_ITEM EXAMPLE_LENGTH "[Unit]\nLength=mm, m\n" },
+            { "ambiguous-unit", Severity::Warning,
+              QT_TRANSLATE_NOOP("Command", "The symbol of a unit has two meanings"),
+              whereAvailable(QT_TRANSLATE_NOOP(
+                  "Command",
+                  "\"g\" is the gram and the standard gravity, \"kn\" the knot, and in small "
+                  "letters the kilonewton, \"C\" the coulomb and the degree, and \"kg\" has stood "
+                  "for a force. The other text of the unit fits the meaning that is not read "
+                  "first. Write a symbol with one meaning, such as \"gn\", \"kN\", \"°C\" and "
+                  "\"kgf\".")),
+              EXAMPLE_ITEM EXAMPLE_LENGTH "[Unit]\nLength=g, m/s²\n",
+              EXAMPLE_ITEM EXAMPLE_LENGTH "[Unit]\nLength=gn, m/s²\n" },
             { "unit-not-converted", Severity::Warning,
               QT_TRANSLATE_NOOP("Command", "A unit is not converted while others are"),
               whereAvailable(QT_TRANSLATE_NOOP(

@@ -42,6 +42,38 @@ MaybeUnit product(MaybeUnit a, const MaybeUnit &b)
     return a;
 }
 
+/// Words and habits that no rule of its own is worth, as units that are read anyway.
+QString withoutHabits(QString text)
+{
+    struct Habit
+    {
+        QRegularExpression pattern;
+        QString replacement;
+    };
+    const auto habit = [](const char *pattern, const char *replacement) {
+        return Habit { QRegularExpression(QString::fromUtf8(pattern)),
+                       QString::fromUtf8(replacement) };
+    };
+    static const QVector<Habit> habits {
+        // Conductivities have kelvins, no thousandths of one.
+        habit("/mK(?![\\p{L}\\d])", "/(m·K)"),
+        // Levels are heights above something.
+        habit("^(k?m|ft)\\s*(ü\\.? ?(NN|NHN|M|A)\\.?|a\\.?s\\.?l\\.?|AMSL|NHN|NN)$", "\\1"),
+        // Columns of a liquid.
+        habit("^([mc]?m|in|ft)\\.?\\s+(H2O|W[SCG]|w\\.?[cg]\\.?)$", "\\1H2O"),
+        habit("^([mc]m|in)\\.?\\s+Hg$", "\\1Hg"),
+        habit("\\bsq\\.?\\s*([kmc]?m|in|ft|yd|mi)\\b\\.?", "\\1^2"),
+        habit("\\bcu\\.?\\s*([mc]?m|in|ft|yd)\\b\\.?", "\\1^3"),
+        // A power belongs to the last of two symbols; "Nm^3" is a cubic metre of gas.
+        habit("(?<!\\p{L})([GMkm]?N|k?g|t)([mcd]?m)(?=\\^?([245679]|-\\d))", "\\1·\\2"),
+        habit("(?<!\\p{L})(kg)([mcd]?m)(?=\\^?3)", "\\1·\\2"),
+        habit("^/\\s*(?=.)", "1/"),
+    };
+    for (const Habit &each : habits)
+        text.replace(each.pattern, each.replacement);
+    return text;
+}
+
 /// Superscripts as powers, all letters in their usual form, and without brackets around.
 QString normalised(const QString &text)
 {
@@ -61,12 +93,9 @@ QString normalised(const QString &text)
     result = result.normalized(QString::NormalizationForm_KC).trimmed();
     result.replace(QStringLiteral("−"), QStringLiteral("-"));
     result.replace(QStringLiteral("**"), QStringLiteral("^"));
-    // Conductivities have kelvins, no thousandths of one.
-    static const QRegularExpression conductivity(QStringLiteral("/mK(?![\\p{L}\\d])"));
-    result.replace(conductivity, QStringLiteral("/(m·K)"));
     if (result.startsWith(QLatin1Char('[')) && result.endsWith(QLatin1Char(']')))
         result = result.mid(1, result.size() - 2).trimmed();
-    return result;
+    return withoutHabits(result);
 }
 
 bool isLetterOfSymbol(QChar character)
@@ -262,7 +291,7 @@ MaybeUnit unitOfMeaning(const QString &meaning)
 MaybeUnit readUnit(const QString &text)
 {
     const QString plain = normalised(text);
-    if (isNoUnit(plain))
+    if (isNoUnit(text.trimmed()) || isNoUnit(plain))
         return Unit();
     MaybeUnit unit = UnitReader(plain).readAll();
     if (!unit || !std::isfinite(unit->factor) || unit->factor <= 0)
