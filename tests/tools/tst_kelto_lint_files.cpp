@@ -60,6 +60,42 @@ void TestKeltoLintFiles::findsInOneFile_data()
         QTest::newRow(name) << file << lines;
     };
 
+    const QByteArray modes = "[KeltoItem]\nname=Beam\nexclusive_group=true\ninner_mode_count=2\n"
+                             "inner_mode_nameList=";
+    const QByteArray lists = modes + "A, B\n[Attribute]\nLength=\n[Belong]\nLength=";
+    row("a full-width comma between modes", lists + "A，B\n",
+        { "9:9 other-comma the \"，\" divides no list; write a \",\" for it" });
+    row("another character between modes, and an unknown one", lists + "A | B | D\n",
+        { "9:10 other-comma the \"|\" divides no list; write a \",\" for it",
+          "9:8 unknown-mode there is no mode \"D\"" });
+    row("a full-width comma between unknown modes", lists + "C，D\n",
+        { "9:8 unknown-mode there is no mode \"C，D\"" });
+    row("a full-width comma in the list of modes",
+        modes + "A、B\n[Attribute]\nLength=\n[Belong]\nLength=A, B\n",
+        { "5:22 other-comma the \"、\" divides no list; write a \",\" for it" });
+    row("a full-width comma in the name of a mode",
+        modes + "A，a, B\n[Attribute]\nLength=\n[Belong]\nLength=\"A，a\", B\n", {});
+    row("a full-width comma between results",
+        "[KeltoItem]\nname=Beam\noutput_results=A，B\n[Result]\nA=\nB=\n",
+        { "3:17 other-comma the \"，\" divides no list; write a \",\" for it" });
+    row("a full-width comma between descriptions",
+        modes + "A, B\ninner_mode_description=a，b\n[Attribute]\nLength=\n[Belong]\nLength=A, B\n",
+        { "6:25 other-comma the \"，\" divides no list; write a \",\" for it" });
+    row("a count that is too large", modes + "A\n[Attribute]\nLength=\n[Belong]\nLength=A\n",
+        { "4:18 mode-count \"inner_mode_count\" is 2, and \"inner_mode_nameList\" has 1" });
+    row("a count that is too small",
+        modes + "A, B, C\n[Attribute]\nLength=\n[Belong]\nLength=A, B, C\n",
+        { "4:18 mode-count \"inner_mode_count\" is 2, and \"inner_mode_nameList\" has 3; a name "
+          "with "
+          "a comma needs quotes" });
+    row("fewer descriptions than modes",
+        modes + "A, B\ninner_mode_description=a\n[Attribute]\nLength=\n[Belong]\nLength=A, B\n",
+        { "6:24 list-length there are 1 descriptions for 2 modes" });
+    row("a slash in a key that stands in every section",
+        modes
+            + "A, B\n[Attribute]\nLoad/m=\n[Belong]\nLoad/m=A, B\n[Unit]\nLoad/m=N/m, N/m\n"
+              "[Symbol]\nLoad/m=q\n[ExtraKey]\nMin.Load/m=1\n",
+        { "7:1 slash-in-key of the key only \"m\" is read, what stands behind the \"/\"" });
     row("escapes behind an \"@\"", "[KeltoItem]\nname=Beam\nicon=@home\\new\\x41.png\n",
         { "3:11 unquoted-escape the backslash and what follows are read as another character; "
           "write a backslash as \\\\, or put quotes around the text where the other character is "
@@ -112,6 +148,10 @@ void TestKeltoLintFiles::mendsWithOneRightAnswerOnly_data()
     row("a section in small letters", item + "[belong]\nLength=a\n", "misspelt-section", 1);
     row("two sections that would become one", item + "[belong]\nLength=a\n[BELONG]\nLength=b\n",
         "misspelt-section", 0);
+    row("full-width commas", item + "inner_mode_count=2\ninner_mode_nameList=A ， B\n",
+        "other-comma", 1);
+    row("full-width commas in quotes", item + "inner_mode_count=2\ninner_mode_nameList=\"A，B\"\n",
+        "other-comma", 0);
     row("one unit", item + "[Unit]\nPower=kW\n", "single-unit", 1);
     row("one unit beside others that are converted", item + "[Unit]\nPower=kW\nLength=mm, m\n",
         "single-unit", 0);

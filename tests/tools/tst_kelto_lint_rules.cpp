@@ -251,6 +251,8 @@ void TestKeltoLintRules::finds_data()
           "of it can be chosen, or parameters depend on each other in a circle",
           "first.ini:27:1 misspelt-hint the extra key \"Maximum.Length\" is no hint. Did you mean "
           "\"Max.Length\"?" });
+    row("a contradiction is told once", item + length + "[ExtraKey]\nMin.Length=5\nMax.Length=1\n",
+        { "first.ini:13:1 bad-hint Min.Length: with \"5\" the minimum is above the maximum" });
     row("words that are nearly those of hints",
         item
             + "[Attribute]\nFlow rate=\n[Belong]\nFlow rate=Bending\n[ExtraKey]\n"
@@ -295,8 +297,8 @@ void TestKeltoLintRules::finds_data()
             item + letters
                 + "[Unit]\nA=mm,  Mpa\nB=Mpa,Mpa\nC=mm, s\nD=m²·K/W, W/(m²·K)\nE=mm\nF=m, m, "
                   "s\nG=%, \n",
-            { "first.ini:21:8 unknown-unit \"Mpa\" is no known unit",
-              "first.ini:22:3 unknown-unit \"Mpa\" is no known unit",
+            { "first.ini:21:8 unknown-unit \"Mpa\" is no known unit. Did you mean \"MPa\"?",
+              "first.ini:22:3 unknown-unit \"Mpa\" is no known unit. Did you mean \"MPa\"?",
               "first.ini:23:3 unit-dimension \"mm\" and \"s\" are units of different quantities",
               "first.ini:24:3 unit-dimension \"m²·K/W\" and \"W/(m²·K)\" are units of different "
               "quantities" });
@@ -306,6 +308,31 @@ void TestKeltoLintRules::finds_data()
                   "1/s\n"
                   "I=mm, m\nJ=dB(A), dB(A)\nK=HRC, HRC\n",
             {});
+        row("units with two meanings",
+            item + letters
+                + "[Unit]\nA=g, m/s²\nB=m/s, kn\nC=kn, kN\nD=kg/cm², MPa\nE=C/m, K/m\n"
+                  "F=g, kg\nG=DN, mm\nH=deg C, K\nI=KN/CM², MPa\n",
+            { "first.ini:21:3 ambiguous-unit \"g\" and \"m/s²\" measure the same only if \"g\" "
+              "means "
+              "\"gn\"; then write that",
+              "first.ini:23:3 ambiguous-unit \"kn\" and \"kN\" measure the same only if \"kn\" "
+              "means "
+              "\"kN\"; then write that",
+              "first.ini:24:3 ambiguous-unit \"kg/cm²\" and \"MPa\" measure the same only if "
+              "\"kg/cm²\" means \"kgf/cm²\"; then write that",
+              "first.ini:25:3 ambiguous-unit \"C/m\" and \"K/m\" measure the same only if \"C/m\" "
+              "means \"°C/m\"; then write that",
+              "first.ini:27:3 ambiguous-unit \"DN\" and \"mm\" measure the same only if \"DN\" "
+              "means "
+              "\"mm\"; then write that",
+              "first.ini:28:3 ambiguous-unit \"deg C\" and \"K\" measure the same only if \"deg "
+              "C\" "
+              "means \"°C\"; then write that",
+              "first.ini:29:3 unknown-unit \"KN/CM²\" is no known unit. Did you mean "
+              "\"kN/cm²\"?" });
+        row("units that nobody knows", item + letters + "[Unit]\nA=Foo, mm\nB=Foo, Foo\n",
+            { "first.ini:21:3 unknown-unit \"Foo\" is no known unit and not compared with \"mm\"",
+              "first.ini:22:3 unknown-unit \"Foo\" is no known unit" });
         row("units that are not converted",
             item + letters + "[Unit]\nA=mm, m\nB=MPa, MPa\nC=N, N\nD=°, °\nE=min, min\nF=kN\n",
             { "first.ini:22:3 unit-not-converted \"MPa\" is not converted, while other units of "

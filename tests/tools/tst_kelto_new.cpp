@@ -72,6 +72,17 @@ private Q_SLOTS:
         QCOMPARE(formatted(text, &error), text);
     }
 
+    void makesModulesThatGoTogether()
+    {
+        QVERIFY(writeFile("a.ini", newItemText({ "a", "a", true })));
+        QVERIFY(writeFile("b.ini", newItemText({ "b", "b", true })));
+        const QStringList paths { "a.ini", "b.ini" };
+        Console console;
+        const LintResult result = lint(paths, LintConfig(QStringList()), console);
+        QCOMPARE(result.files.size(), 2);
+        QCOMPARE(result.findings.size(), 0);
+    }
+
     void namesFilesAndFunctions_data()
     {
         QTest::addColumn<QString>("name");

@@ -6,6 +6,7 @@
 #include "command.h"
 #include "lint/examples.h"
 #include "lint/filefindings.h"
+#include "lint/keyspelling.h"
 #include "lint/lintitem.h"
 #include "nearestname.h"
 
@@ -61,92 +62,6 @@ void checkSections(FileFindings *findings)
     }
 }
 
-// --- The spelling of keys ----------------------------------------------------------
-
-/// Non-ASCII letters as QSettings spells them; null when the bytes are not UTF-8.
-QByteArray respelt(std::string_view key)
-{
-    if (firstInvalidByte(key) != key.data() + key.size())
-        return {};
-    QByteArray spelt;
-    const QString text = QString::fromUtf8(key.data(), static_cast<int>(key.size()));
-    for (const QChar c : text) {
-        const QByteArray number = QByteArray::number(c.unicode(), 16).toUpper();
-        if (c.unicode() < 0x80)
-            spelt += c.toLatin1();
-        else if (c.unicode() <= 0xff)
-            spelt += '%' + number;
-        else
-            spelt += "%U" + number.rightJustified(4, '0');
-    }
-    return spelt;
-}
-
-/// The first "%" in @p key that is read together with the next characters, though QSettings would
-/// write the character they stand for as it is; null when there is none.
-const char *oddEscapeIn(std::string_view key)
-{
-    for (std::size_t at = key.find('%'); at != key.npos; at = key.find('%', at + 1)) {
-        const std::size_t length = key.substr(at, 2) == "%U" ? 6 : 3;
-        const QString read = SettingsKey { {}, key.substr(at, length) }.text();
-        if (read.size() != 1 || read == QLatin1String("%"))
-            continue;
-        const bool isUsual = read.at(0).unicode() < 0x80
-            && (read.at(0).isLetterOrNumber() || QStringLiteral("_-.").contains(read.at(0)));
-        const auto isDigit = [](char c) { return std::isxdigit(static_cast<unsigned char>(c)); };
-        const std::string_view digits = key.substr(at + length / 3, length - length / 3);
-        if (isUsual || !std::all_of(digits.cbegin(), digits.cend(), isDigit))
-            return key.data() + at;
-    }
-    return nullptr;
-}
-
-bool isReadable(const QString &name)
-{
-    const QLatin1Char slash('/');
-    return !name.startsWith(slash) && !name.endsWith(slash) && !name.contains(QLatin1String("//"));
-}
-
-/// Whether lines that follow are a part of @p key.
-bool isBroken(const ItemFileKey &key)
-{
-    return key.spelt.find_first_of("\r\n") != key.spelt.npos;
-}
-
-void checkSpelling(const ItemFileKey &key, FileFindings *findings)
-{
-    const auto isAscii = [](char c) { return static_cast<signed char>(c) >= 0; };
-    const auto foreign = std::find_if_not(key.spelt.cbegin(), key.spelt.cend(), isAscii);
-    if (isBroken(key)) {
-        findings->add("quote-in-key", key.position,
-                      Command::tr("the quote in the key makes the next lines a part of the key; "
-                                  "write it as %22"));
-    } else if (key.name.isEmpty()) {
-        findings->add("nameless-key", key.position, Command::tr("no key stands before the \"=\""));
-    } else if (foreign != key.spelt.cend()) {
-        const QByteArray spelt = respelt(key.spelt);
-        const auto isTaken = [&](const QByteArray &other) {
-            const std::string_view view(other.constData(), std::size_t(other.size()));
-            return findings->file().find(key.section, SettingsKey { {}, view }.text());
-        };
-        findings->add("non-ascii-key", &*foreign,
-                      Command::tr("the key is read as \"%1\": other letters than ASCII are "
-                                  "written as %U and four hexadecimal digits in a key")
-                          .arg(key.name),
-                      spelt.isEmpty() || isTaken(spelt)
-                          ? QVector<TextEdit>()
-                          : QVector<TextEdit> { findings->edit(key.spelt, spelt) });
-    } else if (const char *const escape = oddEscapeIn(key.spelt)) {
-        findings->add("escape-in-key", escape,
-                      Command::tr("the key is read as \"%1\"; write \"%\" as %25").arg(key.name));
-    }
-    if (key.name.contains(QLatin1Char('/')) && isReadable(key.name)) {
-        findings->add("slash-in-key", key.position,
-                      Command::tr("of the key only \"%1\" is read, what stands behind the \"/\"")
-                          .arg(key.name.mid(key.name.lastIndexOf(QLatin1Char('/')) + 1)));
-    }
-}
-
 // --- What keys are for -------------------------------------------------------------
 
 void checkField(const LintItem &item, const ItemFileKey &key, FileFindings *findings)
@@ -198,7 +113,7 @@ public:
             QStringLiteral("Symbol"), QStringLiteral("Unit"),  QStringLiteral("Multi")
         };
         const QString &name = key.name;
-        if (!describing.contains(key.section) || name.isEmpty() || isBroken(*key.key)
+        if (!describing.contains(key.section) || name.isEmpty() || isBrokenKey(*key.key)
             || name.contains(QLatin1Char('/')))
             return;
         const bool isForParameters = key.section == describing.constFirst();
@@ -306,13 +221,14 @@ void check(const LintItem &item, Findings *findings)
 {
     FileFindings added(item.file(), findings);
     UndeclaredKeys undeclared(item);
+    KeySpelling spelling(&added);
     checkSections(&added);
     for (const LintKey &key : item.keys()) {
         if (key.key->section.isEmpty()) {
             added.add("key-outside-section", key.key->position,
                       Command::tr("the key stands in no section and is not read"));
         } else if (!key.section.isEmpty()) {
-            checkSpelling(*key.key, &added);
+            spelling.check(*key.key);
             undeclared.check(key, &added);
             if (key.section == knownSections().constFirst())
                 checkField(item, *key.key, &added);

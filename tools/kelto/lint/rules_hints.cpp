@@ -108,6 +108,9 @@ bool isConsequence(const Problem &problem, const ItemFile &file, const DeclaredK
         return file.item().inner_mode_nameList.isEmpty();
     case Problem::BadCondition:
         return keys.explainCondition(problem);
+    // One contradiction, which the minimum tells.
+    case Problem::EmptyLimits:
+        return problem.extraKey.startsWith(QLatin1String("Max."));
     // A comma without quotes, or a "/" in a key.
     case Problem::NotOneText:
     case Problem::DuplicateHint:

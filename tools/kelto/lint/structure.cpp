@@ -7,6 +7,7 @@
 #include "lint/examples.h"
 #include "lint/filefindings.h"
 #include "lint/lintitem.h"
+#include "lint/othercommas.h"
 #include "lint/speltvalue.h"
 #include "nearestname.h"
 
@@ -37,7 +38,7 @@ public:
     StructureCheck(const LintItem &item, FileFindings *findings)
         : m_findings(findings)
         , m_item(item)
-        , m_modes(LintItem::elements(m_item.field("inner_mode_nameList")))
+        , m_modes(modesOf(m_item))
         , m_knownModes(m_modes.cbegin(), m_modes.cend())
         , m_nearestModes(m_modes)
         , m_parameters(m_item.namesIn(attribute()))
@@ -49,6 +50,7 @@ public:
     void check()
     {
         checkName();
+        checkModeCommas();
         checkModeCount();
         checkDescriptions();
         checkFlag();
@@ -94,6 +96,13 @@ private:
         }
     }
 
+    void checkModeCommas()
+    {
+        const ItemFileKey *const names = m_item.field("inner_mode_nameList");
+        if (m_modes != LintItem::elements(names))
+            addOtherComma(*names, m_findings);
+    }
+
     void checkModeCount()
     {
         const ItemFileKey *const count = m_item.field("inner_mode_count");
@@ -115,11 +124,13 @@ private:
             return;
         // What fits the descriptions is right.
         const bool isCountRight = names && number == descriptions().size();
+        // Only a comma in a name makes more of them.
+        const QString text = number >= 0 && number < m_modes.size()
+            ? Command::tr("\"inner_mode_count\" is %1, and \"inner_mode_nameList\" has %2; a name "
+                          "with a comma needs quotes")
+            : Command::tr("\"inner_mode_count\" is %1, and \"inner_mode_nameList\" has %2");
         m_findings->add("mode-count", isCountRight ? names->valuePosition : count->valuePosition,
-                        Command::tr("\"inner_mode_count\" is %1, and \"inner_mode_nameList\" has "
-                                    "%2; a name with a comma needs quotes")
-                            .arg(number)
-                            .arg(m_modes.size()));
+                        text.arg(number).arg(m_modes.size()));
     }
 
     QStringList descriptions() const
@@ -135,11 +146,16 @@ private:
         if (size == 0 || size == m_modes.size()
             || (count && count->value.constFirst() == QString::number(size)))
             return;
-        m_findings->add("list-length", key->valuePosition,
-                        Command::tr("there are %1 descriptions for %2 modes; a description with a "
-                                    "comma needs quotes")
-                            .arg(size)
-                            .arg(m_modes.size()));
+        if (dividedAnyhow(descriptions()).size() == m_modes.size()) {
+            addOtherComma(*key, m_findings);
+            return;
+        }
+        const QString text = size > m_modes.size()
+            ? Command::tr(
+                "there are %1 descriptions for %2 modes; a description with a comma needs "
+                "quotes")
+            : Command::tr("there are %1 descriptions for %2 modes");
+        m_findings->add("list-length", key->valuePosition, text.arg(size).arg(m_modes.size()));
     }
 
     void checkFlag()
@@ -199,6 +215,21 @@ private:
     }
 
     bool checkModes(const ItemFileKey &key, const QStringList &modes)
+    {
+        const bool isUnknown
+            = std::any_of(modes.cbegin(), modes.cend(),
+                          [this](const QString &mode) { return !m_knownModes.contains(mode); });
+        const QStringList parts = isUnknown ? dividedAnyhow(modes) : modes;
+        const auto known = std::count_if(parts.cbegin(), parts.cend(), [this](const QString &part) {
+            return m_knownModes.contains(part);
+        });
+        if (parts.size() == modes.size() || known == 0)
+            return checkElements(key, modes);
+        addOtherComma(key, m_findings);
+        return checkElements(key, parts);
+    }
+
+    bool checkElements(const ItemFileKey &key, const QStringList &modes)
     {
         QVector<int> unknown;
         for (int i = 0; i < modes.size(); ++i) {
@@ -265,6 +296,10 @@ private:
             : 0;
         if (count == names.size() || (names.isEmpty() && LintItem::elements(key).isEmpty()))
             return;
+        if (key && dividedAnyhow(key->value).size() == names.size()) {
+            addOtherComma(*key, m_findings);
+            return;
+        }
         if (key) {
             m_findings->add("results-not-read", key->valuePosition,
                             Command::tr("\"output_results\" has %1, and there are %2 under "
@@ -315,6 +350,11 @@ void check(const LintItem &item, Findings *findings)
 
 } // namespace
 
+// An item with two modes, as far as the modes of its parameter.
+#define TWO_MODES                                                                                  \
+    "[KeltoItem]\nname=Beam\ntype=calculation\nexclusive_group=true\ninner_mode_count=2\n"         \
+    "inner_mode_nameList=Cantilever, Fixed\n\n[Attribute]\nLength=\n\n"
+
 RuleArea structureRules()
 {
     return {
@@ -333,9 +373,14 @@ RuleArea structureRules()
               "[KeltoItem]\nname=Beam\ntype=calculation\nexclusive_group=true\ninner_mode_count=1\n"
               "inner_mode_nameList=Cantilever, Fixed\n\n[Attribute]\nLength=\n\n"
               "[Belong]\nLength=Cantilever, Fixed\n",
-              "[KeltoItem]\nname=Beam\ntype=calculation\nexclusive_group=true\ninner_mode_count=2\n"
-              "inner_mode_nameList=Cantilever, Fixed\n\n[Attribute]\nLength=\n\n"
-              "[Belong]\nLength=Cantilever, Fixed\n" },
+              TWO_MODES "[Belong]\nLength=Cantilever, Fixed\n" },
+            { "other-comma", Severity::Error,
+              QT_TRANSLATE_NOOP("Command", "A list is divided by another character than a comma"),
+              QT_TRANSLATE_NOOP("Command",
+                                "Only the comma of ASCII divides a list. With a full-width one, a "
+                                "\"|\" or the like the whole list is one name, which nothing has."),
+              TWO_MODES "[Belong]\nLength=Cantilever，Fixed\n",
+              TWO_MODES "[Belong]\nLength=Cantilever, Fixed\n" },
             { "list-length", Severity::Error,
               QT_TRANSLATE_NOOP("Command", "There are more or fewer descriptions than modes"),
               QT_TRANSLATE_NOOP("Command",
@@ -381,12 +426,8 @@ RuleArea structureRules()
               QT_TRANSLATE_NOOP("Command",
                                 "Entered values are never complete for such a mode. Only the "
                                 "module \"Update\" needs none."),
-              "[KeltoItem]\nname=Beam\ntype=calculation\nexclusive_group=true\ninner_mode_count=2\n"
-              "inner_mode_nameList=Cantilever, Fixed\n\n[Attribute]\nLength=\n\n"
-              "[Belong]\nLength=Cantilever\n",
-              "[KeltoItem]\nname=Beam\ntype=calculation\nexclusive_group=true\ninner_mode_count=2\n"
-              "inner_mode_nameList=Cantilever, Fixed\n\n[Attribute]\nLength=\n\n"
-              "[Belong]\nLength=Cantilever, Fixed\n" },
+              TWO_MODES "[Belong]\nLength=Cantilever\n",
+              TWO_MODES "[Belong]\nLength=Cantilever, Fixed\n" },
             { "results-not-read", Severity::Error,
               QT_TRANSLATE_NOOP("Command",
                                 "\"output_results\" is not as long as there are results"),
