@@ -13,7 +13,10 @@
 
 #include <QCommandLineParser>
 #include <QJsonArray>
+
 #include <QJsonDocument>
+#include <climits>
+#include <optional>
 
 namespace {
 
@@ -52,6 +55,19 @@ ExitCode listRules(bool asJson, Console &console)
     return Done;
 }
 
+/// Of one file, in the text. Nothing for what is no number.
+std::optional<int> shownFindings(const QCommandLineParser &line)
+{
+    const QString text = line.value(QStringLiteral("max-findings"));
+    if (text.isEmpty())
+        return 100;
+    bool isNumber = false;
+    const int count = text.toInt(&isNumber);
+    if (!isNumber || count < 0)
+        return std::nullopt;
+    return count == 0 ? INT_MAX : count;
+}
+
 void print(const Findings &findings, const Findings &fixed, const LintConfig &config,
            const QCommandLineParser &line, Console &console)
 {
@@ -62,8 +78,9 @@ void print(const Findings &findings, const Findings &fixed, const LintConfig &co
     } else if (line.isSet(QStringLiteral("json"))) {
         console.print(findingsAsJson(findings, fixed, config));
     } else {
-        console.print(fixedAsText(fixed, isColoured)
-                      + findingsAsText(findings, config, isColoured));
+        console.print(
+            fixedAsText(fixed, isColoured)
+            + findingsAsText(findings, config, isColoured, shownFindings(line).value_or(INT_MAX)));
     }
 }
 
@@ -138,6 +155,11 @@ ExitCode run(const QCommandLineParser &line, Console &console)
         return explain(line.value(QStringLiteral("explain")), asJson, console);
     if (line.isSet(QStringLiteral("rules")))
         return listRules(asJson, console);
+    if (!shownFindings(line)) {
+        console.complain(Command::tr("\"%1\" is no number of findings.")
+                             .arg(line.value(QStringLiteral("max-findings"))));
+        return WrongUsage;
+    }
     if (!line.positionalArguments().isEmpty())
         return lintFiles(line, console);
     console.complain(
@@ -166,8 +188,9 @@ Command lintCommand()
             "\n"
             "Rules are configured in files named \".kelto-lint.ini\", in the directory of a file "
             "or\n"
-            "above it; the nearest one counts. They hold the section [Rules], in which a key is a\n"
-            "rule and its value one of error, warning and off:\n"
+            "above it; each rule is what the nearest file says that names it. They hold the "
+            "section\n"
+            "[Rules], in which a key is a rule and its value one of error, warning and off:\n"
             "\n"
             "  [Rules]\n"
             "  comment=warning\n"
@@ -184,6 +207,10 @@ Command lintCommand()
               nullptr,
               QT_TRANSLATE_NOOP("Command",
                                 "Mend the files where there is one right answer, and say what.") },
+            { { QStringLiteral("max-findings") },
+              "COUNT",
+              QT_TRANSLATE_NOOP(
+                  "Command", "List at most so many of each file, instead of 100; 0 lists all.") },
             { { QStringLiteral("sarif") },
               nullptr,
               QT_TRANSLATE_NOOP("Command", "Write the findings as SARIF 2.1.0.") },

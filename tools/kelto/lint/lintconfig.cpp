@@ -94,13 +94,14 @@ void LintConfig::take(const IniReader &reader, const QString &place, Severities 
         { QStringLiteral("error"), Severity::Error },
     };
     const QString rule = textOf(reader.line().key);
-    const QString word = textOf(reader.line().value);
+    const QString word = elementsOfValue(reader.line().value).join(QLatin1Char(',')).trimmed();
     if (!m_usual.contains(rule)) {
         m_complaints.append(place + Command::tr("there is no rule \"%1\".").arg(rule)
                             + didYouMean(rule, ruleNames()));
     } else if (!words.contains(word)) {
         m_complaints.append(
-            place + Command::tr("\"%1\" is none of \"error\", \"warning\" and \"off\".").arg(word));
+            place + Command::tr("\"%1\" is none of \"error\", \"warning\" and \"off\".").arg(word)
+            + didYouMean(word, words.keys()));
     } else {
         severities->insert(rule, words.value(word));
     }

@@ -8,6 +8,7 @@
 #include "terminaltext.h"
 
 #include <QJsonArray>
+#include <QMap>
 #include <QUrl>
 
 namespace {
@@ -27,6 +28,31 @@ constexpr char red[] = "1;31";
 constexpr char green[] = "1;32";
 constexpr char magenta[] = "1;35";
 
+/// The text of a finding on one line that can be read: without the middle of a long one, and with
+/// what a terminal would obey as escapes.
+QString shownText(const QString &text)
+{
+    constexpr int most = 400;
+    constexpr int mostBehind = 100;
+    QString shown;
+    for (int i = 0; i < text.size(); ++i) {
+        if (i == most - mostBehind && text.size() > most) {
+            i = text.size() - mostBehind;
+            shown += QStringLiteral("…");
+        }
+        const QChar character = text.at(i);
+        if (character == QLatin1Char('\n'))
+            shown += QLatin1String("\\n");
+        else if (character == QLatin1Char('\t'))
+            shown += QLatin1String("\\t");
+        else if (character.category() == QChar::Other_Control)
+            shown += QStringLiteral("\\x%1").arg(character.unicode(), 2, 16, QLatin1Char('0'));
+        else
+            shown += character;
+    }
+    return printable(shown);
+}
+
 QString findingLine(const Finding &finding, const QString &word, const char *colour,
                     bool isColoured)
 {
@@ -35,7 +61,7 @@ QString findingLine(const Finding &finding, const QString &word, const char *col
                               .arg(finding.position.line)
                               .arg(finding.position.column);
     return coloured(place, bold, isColoured) + QLatin1Char(' ') + coloured(word, colour, isColoured)
-        + QLatin1Char(' ') + printable(finding.text) + QStringLiteral(" [") + finding.rule
+        + QLatin1Char(' ') + shownText(finding.text) + QStringLiteral(" [") + finding.rule
         + QStringLiteral("]\n");
 }
 
@@ -142,14 +168,26 @@ QString wordOf(Severity severity)
     }
 }
 
-QString findingsAsText(const Findings &findings, const LintConfig &config, bool isColoured)
+QString findingsAsText(const Findings &findings, const LintConfig &config, bool isColoured,
+                       int most)
 {
     QString text;
+    QMap<QString, int> counts;
     for (const Finding &finding : findings) {
+        if (++counts[finding.path] > most)
+            continue;
         const bool isError = config.severity(finding.path, finding.rule) == Severity::Error;
         // The same in every language: editors find places by these words, as in compilers' output.
         text += isError ? findingLine(finding, QStringLiteral("error:"), red, isColoured)
                         : findingLine(finding, QStringLiteral("warning:"), magenta, isColoured);
+    }
+    for (auto count = counts.cbegin(); count != counts.cend(); ++count) {
+        if (count.value() > most) {
+            text += Command::tr("%1: and %2 more; \"--max-findings 0\" lists all of them")
+                        .arg(printable(count.key()))
+                        .arg(count.value() - most)
+                + QLatin1Char('\n');
+        }
     }
     return text;
 }

@@ -8,13 +8,16 @@
 
 #include <QJsonObject>
 
+#include <climits>
+
 class LintConfig;
 
 /// "error", "warning" or "off".
 QString wordOf(Severity severity);
 
-/// A line for each finding, as compilers write them.
-QString findingsAsText(const Findings &findings, const LintConfig &config, bool isColoured);
+/// A line for each finding, as compilers write them, at @p most so many of one file.
+QString findingsAsText(const Findings &findings, const LintConfig &config, bool isColoured,
+                       int most = INT_MAX);
 
 /// The same for what is there no more.
 QString fixedAsText(const Findings &fixed, bool isColoured);

@@ -1201,30 +1201,6 @@ A file that cannot be formatted without changing what is read, for example with 
         <translation>找出模块项文件中的错误</translation>
     </message>
     <message>
-        <source>Lists every problem of module item files, one to a line: file, line, column, severity,
-what is wrong, and the rule in brackets. Of a directory all files are read that end in
-&quot;.ini&quot;. The exit code is 1 when there is a finding, also if it is only a warning.
-
-Rules are configured in files named &quot;.kelto-lint.ini&quot;, in the directory of a file or
-above it; the nearest one counts. They hold the section [Rules], in which a key is a
-rule and its value one of error, warning and off:
-
-  [Rules]
-  comment=warning
-  mode-without-parameters=off</source>
-        <translation>列出模块项文件的所有问题，每行一个：文件、行、列、严重程度、
-问题，以及方括号中的规则。对于目录，读取其中所有以“.ini”结尾的文件。
-有问题时退出码为 1，即使只有警告。
-
-规则在名为“.kelto-lint.ini”的文件中设置，该文件位于模块项文件所在的目录
-或其上级目录，以最近的为准。其中有 [Rules] 节，键为规则，
-值为 error、warning 或 off：
-
-  [Rules]
-  comment=warning
-  mode-without-parameters=off</translation>
-    </message>
-    <message>
         <source>Say why a rule matters, with a bad and a good example.</source>
         <translation>说明规则的理由，并给出错误和正确的例子。</translation>
     </message>
@@ -1447,10 +1423,6 @@ rule and its value one of error, warning and off:
     <message>
         <source>A unit is none that is known</source>
         <translation>单位未知</translation>
-    </message>
-    <message>
-        <source>Capital letters count: it is &quot;MPa&quot; and &quot;kN&quot;. A &quot;·&quot; or a space multiplies, all behind a &quot;/&quot; is below it, and powers are &quot;m²&quot;, &quot;m^2&quot; or &quot;m2&quot;. A parameter without a unit has an empty text or &quot;-&quot;.</source>
-        <translation>单位区分大小写：应为“MPa”和“kN”。“·”或空格表示相乘，“/”之后的所有单位都在分母中，幂写作“m²”、“m^2”或“m2”。没有单位的参数用空文本或“-”。</translation>
     </message>
     <message>
         <source>The two units of a parameter measure different things</source>
@@ -2075,6 +2047,86 @@ rule and its value one of error, warning and off:
     <message>
         <source>holds bytes that are no text; save it as UTF-8.</source>
         <translation>含有不是文本的字节；请另存为 UTF-8。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number of findings.</source>
+        <translation>“%1”不是问题的数目。</translation>
+    </message>
+    <message>
+        <source>Lists every problem of module item files, one to a line: file, line, column, severity,
+what is wrong, and the rule in brackets. Of a directory all files are read that end in
+&quot;.ini&quot;. The exit code is 1 when there is a finding, also if it is only a warning.
+
+Rules are configured in files named &quot;.kelto-lint.ini&quot;, in the directory of a file or
+above it; each rule is what the nearest file says that names it. They hold the section
+[Rules], in which a key is a rule and its value one of error, warning and off:
+
+  [Rules]
+  comment=warning
+  mode-without-parameters=off</source>
+        <translation>列出模块项文件的所有问题，每行一个：文件、行、列、严重程度、
+问题，以及方括号中的规则。对于目录，读取其中所有以“.ini”结尾的文件。
+有问题时退出码为 1，即使只有警告。
+
+规则在名为“.kelto-lint.ini”的文件中设置，该文件位于模块项文件所在的目录
+或其上级目录；每条规则以写有该规则的最近的文件为准。其中有 [Rules] 节，
+键为规则，值为 error、warning 或 off：
+
+  [Rules]
+  comment=warning
+  mode-without-parameters=off</translation>
+    </message>
+    <message>
+        <source>List at most so many of each file, instead of 100; 0 lists all.</source>
+        <translation>每个文件最多列出这么多个问题，默认为 100；0 表示全部列出。</translation>
+    </message>
+    <message>
+        <source>%1: and %2 more; &quot;--max-findings 0&quot; lists all of them</source>
+        <translation>%1：另有 %2 个；“--max-findings 0”列出全部</translation>
+    </message>
+    <message>
+        <source>the &quot;%1&quot; divides no list; write a &quot;,&quot; for it</source>
+        <translation>“%1”不分隔列表；请改为“,”</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no known unit.</source>
+        <translation>“%1”不是已知的单位。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no known unit and not compared with &quot;%2&quot;</source>
+        <translation>“%1”不是已知的单位，不与“%2”比较</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; and &quot;%2&quot; measure the same only if &quot;%3&quot; means &quot;%4&quot;; then write that</source>
+        <translation>只有“%3”表示“%4”时，“%1”与“%2”才是同一物理量的单位；那样请写作“%4”</translation>
+    </message>
+    <message>
+        <source>Capital letters count: it is &quot;MPa&quot; and &quot;kN&quot;. A &quot;·&quot; or a space multiplies, all behind a &quot;/&quot; is below it, and powers are &quot;m²&quot;, &quot;m^2&quot; or &quot;m2&quot;. A parameter without a unit has an empty text or &quot;-&quot;. Nothing is lost with a unit that is not known here; switch this off where a module has words of its own.</source>
+        <translation>单位区分大小写：应为“MPa”和“kN”。“·”或空格表示相乘，“/”之后的所有单位都在分母中，幂写作“m²”、“m^2”或“m2”。没有单位的参数用空文本或“-”。未知的单位不会造成任何丢失；模块有自己的用语时，请关闭此规则。</translation>
+    </message>
+    <message>
+        <source>The symbol of a unit has two meanings</source>
+        <translation>单位符号有两种含义</translation>
+    </message>
+    <message>
+        <source>&quot;g&quot; is the gram and the standard gravity, &quot;kn&quot; the knot, and in small letters the kilonewton, &quot;C&quot; the coulomb and the degree, and &quot;kg&quot; has stood for a force. The other text of the unit fits the meaning that is not read first. Write a symbol with one meaning, such as &quot;gn&quot;, &quot;kN&quot;, &quot;°C&quot; and &quot;kgf&quot;.</source>
+        <translation>“g”既是克，也是标准重力加速度；“kn”是节，小写时也有人指千牛；“C”是库仑，也有人指摄氏度；“kg”曾表示力。单位的另一个文本与首先读取的含义不符，而与另一种含义相符。请使用只有一种含义的符号，例如“gn”、“kN”、“°C”和“kgf”。</translation>
+    </message>
+    <message>
+        <source>&quot;inner_mode_count&quot; is %1, and &quot;inner_mode_nameList&quot; has %2</source>
+        <translation>“inner_mode_count”为 %1，而“inner_mode_nameList”有 %2 个</translation>
+    </message>
+    <message>
+        <source>there are %1 descriptions for %2 modes</source>
+        <translation>%2 个模式有 %1 个说明</translation>
+    </message>
+    <message>
+        <source>A list is divided by another character than a comma</source>
+        <translation>列表以逗号以外的字符分隔</translation>
+    </message>
+    <message>
+        <source>Only the comma of ASCII divides a list. With a full-width one, a &quot;|&quot; or the like the whole list is one name, which nothing has.</source>
+        <translation>只有 ASCII 逗号分隔列表。使用全角逗号、“|”等字符时，整个列表是一个名称，没有任何东西叫这个名称。</translation>
     </message>
 </context>
 </TS>
