@@ -78,9 +78,16 @@ void TestKeltoLintFiles::findsInOneFile_data()
     row("a full-width comma between results",
         "[KeltoItem]\nname=Beam\noutput_results=A，B\n[Result]\nA=\nB=\n",
         { "3:17 other-comma the \"，\" divides no list; write a \",\" for it" });
-    row("a full-width comma between descriptions",
+    row("a full-width comma in a description",
         modes + "A, B\ninner_mode_description=a，b\n[Attribute]\nLength=\n[Belong]\nLength=A, B\n",
-        { "6:25 other-comma the \"，\" divides no list; write a \",\" for it" });
+        { "6:24 list-length there are 1 descriptions for 2 modes" });
+    row("quotes around a list", lists + "\"A, B\"\n",
+        { "9:8 other-comma the quotes make one text of the list; leave them out" });
+    row("units in quotes and with a full-width comma",
+        "[KeltoItem]\nname=Beam\noutput_results=A, B\n[Result]\nA=\nB=\n[Unit]\nA=\"mm, "
+        "m\"\nB=mm，m\n",
+        { "8:3 other-comma the quotes make one text of the list; leave them out",
+          "9:5 other-comma the \"，\" divides no list; write a \",\" for it" });
     row("a count that is too large", modes + "A\n[Attribute]\nLength=\n[Belong]\nLength=A\n",
         { "4:18 mode-count \"inner_mode_count\" is 2, and \"inner_mode_nameList\" has 1" });
     row("a count that is too small",
@@ -88,9 +95,6 @@ void TestKeltoLintFiles::findsInOneFile_data()
         { "4:18 mode-count \"inner_mode_count\" is 2, and \"inner_mode_nameList\" has 3; a name "
           "with "
           "a comma needs quotes" });
-    row("fewer descriptions than modes",
-        modes + "A, B\ninner_mode_description=a\n[Attribute]\nLength=\n[Belong]\nLength=A, B\n",
-        { "6:24 list-length there are 1 descriptions for 2 modes" });
     row("a slash in a key that stands in every section",
         modes
             + "A, B\n[Attribute]\nLoad/m=\n[Belong]\nLoad/m=A, B\n[Unit]\nLoad/m=N/m, N/m\n"

@@ -7,11 +7,13 @@
 
 #include <QRegularExpression>
 
+#include <algorithm>
+
 namespace {
 
 const QRegularExpression &otherCommas()
 {
-    static const QRegularExpression characters(QStringLiteral("\\s*([，、；､﹐|;])\\s*"));
+    static const QRegularExpression characters(QStringLiteral("\\s*([，、；､﹐|;,])\\s*"));
     return characters;
 }
 
@@ -37,14 +39,20 @@ QStringList modesOf(const LintItem &item)
 
 void addOtherComma(const ItemFileKey &key, FileFindings *findings)
 {
-    QString text = QString::fromUtf8(key.speltValue.data(), int(key.speltValue.size()));
-    const QRegularExpressionMatch match = otherCommas().match(text);
-    const int offset = text.left(match.capturedStart(1)).toUtf8().size();
-    const bool isPlain = !text.contains(QLatin1Char('"')) && !text.contains(QLatin1Char('\\'));
+    const std::string_view spelt = key.speltValue;
+    QString text = QString::fromUtf8(spelt.data(), int(spelt.size()));
+    static const QRegularExpression other(QStringLiteral("[，、；､﹐|;]"));
+    const QString found = other.match(text).captured();
+    if (found.isEmpty()) {
+        findings->add("other-comma", spelt.data() + std::min(spelt.find('"'), spelt.size()),
+                      Command::tr("the quotes make one text of the list; leave them out"));
+        return;
+    }
+    const bool isPlain = spelt.find_first_of("\"\\") == spelt.npos
+        && firstInvalidByte(spelt) == spelt.data() + spelt.size();
     text.replace(otherCommas(), QStringLiteral(", "));
-    findings->add(
-        "other-comma", key.speltValue.data() + offset,
-        Command::tr("the \"%1\" divides no list; write a \",\" for it").arg(match.captured(1)),
-        isPlain ? QVector<TextEdit> { findings->edit(key.speltValue, text.toUtf8()) }
-                : QVector<TextEdit>());
+    findings->add("other-comma", spelt.data() + spelt.find(found.toUtf8().constData()),
+                  Command::tr("the \"%1\" divides no list; write a \",\" for it").arg(found),
+                  isPlain ? QVector<TextEdit> { findings->edit(spelt, text.toUtf8()) }
+                          : QVector<TextEdit>());
 }

@@ -7,7 +7,8 @@
 #include "lint/filefindings.h"
 #include "lint/lintitem.h"
 
-// What is written where only a comma of ASCII divides a list: full-width commas, "|" and the like.
+// What is written where only a comma of ASCII outside of quotes divides a list: full-width commas,
+// "|" and the like, or quotes around the whole list.
 
 /// The elements of a list if these characters divided it, too.
 QStringList dividedAnyhow(const QStringList &elements);

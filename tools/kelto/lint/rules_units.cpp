@@ -4,6 +4,7 @@
 // The two texts of a unit: the one that a person reads, and the one that the host calculates with.
 
 #include "command.h"
+#include "lint/othercommas.h"
 #include "lint/rules_places.h"
 #include "nearestname.h"
 #include "units/unit.h"
@@ -79,7 +80,7 @@ void addDifference(const ItemFile &file, const ItemFileKey &key, Findings *findi
 /// The pair of @p key; nothing for one that is faulty, or is no pair.
 std::optional<UnitPair> pairOf(const ItemFile &file, const ItemFileKey &key, Findings *findings)
 {
-    if (key.value.size() > 2)
+    if (key.value.size() > 2 || (key.value.size() == 1 && dividedAnyhow(key.value).size() == 2))
         return std::nullopt;
     const QString first = key.value.constFirst();
     const QString second = key.value.constLast();

@@ -146,10 +146,6 @@ private:
         if (size == 0 || size == m_modes.size()
             || (count && count->value.constFirst() == QString::number(size)))
             return;
-        if (dividedAnyhow(descriptions()).size() == m_modes.size()) {
-            addOtherComma(*key, m_findings);
-            return;
-        }
         const QString text = size > m_modes.size()
             ? Command::tr(
                 "there are %1 descriptions for %2 modes; a description with a comma needs "
@@ -377,7 +373,8 @@ RuleArea structureRules()
             { "other-comma", Severity::Error,
               QT_TRANSLATE_NOOP("Command", "A list is divided by another character than a comma"),
               QT_TRANSLATE_NOOP("Command",
-                                "Only the comma of ASCII divides a list. With a full-width one, a "
+                                "Only the comma of ASCII outside of quotes divides a list. With a "
+                                "full-width one, a "
                                 "\"|\" or the like the whole list is one name, which nothing has."),
               TWO_MODES "[Belong]\nLength=Cantilever，Fixed\n",
               TWO_MODES "[Belong]\nLength=Cantilever, Fixed\n" },

@@ -9,6 +9,7 @@
 #include "lint/examples.h"
 #include "lint/filefindings.h"
 #include "lint/lintitem.h"
+#include "lint/othercommas.h"
 #include "lint/speltvalue.h"
 
 #include <algorithm>
@@ -180,6 +181,8 @@ void checkUnits(const ItemFileKey &key, bool areOthersConverted, FileFindings *f
                       Command::tr("a unit has two texts, and here are %1: the first and the last "
                                   "are read")
                           .arg(count));
+    } else if (count == 1 && dividedAnyhow(key.value).size() == 2) {
+        addOtherComma(key, findings);
     } else if (count == 1) {
         const QByteArray text(key.speltValue.data(), int(key.speltValue.size()));
         findings->add("single-unit", key.valuePosition,

@@ -2125,8 +2125,12 @@ above it; each rule is what the nearest file says that names it. They hold the s
         <translation>列表以逗号以外的字符分隔</translation>
     </message>
     <message>
-        <source>Only the comma of ASCII divides a list. With a full-width one, a &quot;|&quot; or the like the whole list is one name, which nothing has.</source>
-        <translation>只有 ASCII 逗号分隔列表。使用全角逗号、“|”等字符时，整个列表是一个名称，没有任何东西叫这个名称。</translation>
+        <source>the quotes make one text of the list; leave them out</source>
+        <translation>引号使整个列表成为一个文本；请去掉引号</translation>
+    </message>
+    <message>
+        <source>Only the comma of ASCII outside of quotes divides a list. With a full-width one, a &quot;|&quot; or the like the whole list is one name, which nothing has.</source>
+        <translation>只有引号之外的 ASCII 逗号分隔列表。使用全角逗号、“|”等字符时，整个列表是一个名称，没有任何东西叫这个名称。</translation>
     </message>
 </context>
 </TS>
