@@ -6,6 +6,7 @@
 #include "findingmark_p.h"
 #include "keltoparameterform.h"
 #include "keltoparametermodel.h"
+#include "tooltiptext_p.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -122,8 +123,8 @@ void FormRow::show(const QModelIndex &index)
     const QString help = index.data(Model::HelpRole).toString();
     m_label->setText(withoutMnemonics(
         joined({ name, symbol, m_isWide ? unit : QString() }, QStringLiteral("  "))));
-    m_label->setToolTip(help);
-    field()->setToolTip(help);
+    m_label->setToolTip(toolTipText(help));
+    field()->setToolTip(toolTipText(help));
     field()->setAccessibleName(joined({ name, symbol, unit }, QStringLiteral(", ")));
     showUnit(unit);
     showDescription(index);
@@ -169,7 +170,7 @@ void FormRow::showFindings(const QModelIndex &index, const QVector<KeltoItemFind
 void FormRow::showMark(const QVector<KeltoItemFinding> &findings)
 {
     m_mark->setVisible(m_isVisible && !findings.isEmpty());
-    m_mark->setToolTip(m_finding);
+    m_mark->setToolTip(toolTipText(m_finding));
     // A form that is not filled in yet has such a mark in every row: there it takes no line more.
     const bool isAbsence = isPlainAbsence(findings);
     const bool isBelow = m_isWide || !isAbsence;

@@ -4,6 +4,7 @@
 #include "keltoparametermodel.h"
 
 #include "keltoparametermodel_p.h"
+#include "tooltiptext_p.h"
 
 #include <Kelto/AUTH_SET>
 
@@ -122,6 +123,7 @@ QVariant KeltoParameterModelPrivate::roleData(int row, int role)
     case KeltoParameterModel::FileFiltersRole:
         return mode.hints.fileFilters(data.key);
     case Qt::ToolTipRole:
+        return toolTipText(mode.hints.help(data.key));
     case KeltoParameterModel::HelpRole:
         return mode.hints.help(data.key);
     case Qt::AccessibleDescriptionRole:

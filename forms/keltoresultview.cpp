@@ -5,6 +5,7 @@
 
 #include "delimitedtext_p.h"
 #include "resulttable_p.h"
+#include "tooltiptext_p.h"
 #include "widgetlocale_p.h"
 
 #include <QAction>
@@ -39,7 +40,7 @@ constexpr int mostExpandedValues = 10;
 QStandardItem *newItem(const QString &text, const QString &toolTip = QString())
 {
     auto *item = new QStandardItem(text);
-    item->setToolTip(toolTip);
+    item->setToolTip(toolTipText(toolTip));
     item->setEditable(false);
     return item;
 }

@@ -3,6 +3,8 @@
 
 #include "keltotablemodel_p.h"
 
+#include "tooltiptext_p.h"
+
 #include <QApplication>
 #include <QIcon>
 #include <QStyle>
@@ -50,8 +52,9 @@ QVariant KeltoTableModel::data(const QModelIndex &index, int role) const
         return int((m_cells.isOfNumbers() ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
     case Qt::DecorationRole:
         return markFor(m_cells.problem(element, index.column()));
-    case ProblemRole:
     case Qt::ToolTipRole:
+        return toolTipText(problem(index));
+    case ProblemRole:
     case Qt::AccessibleDescriptionRole:
         return problem(index);
     default:
@@ -86,6 +89,7 @@ QVariant KeltoTableModel::headerData(int section, Qt::Orientation orientation, i
     case Qt::DisplayRole:
         return isRow ? m_locale.toString(section + 1) : heading(section);
     case Qt::ToolTipRole:
+        return toolTipText(finding);
     case Qt::AccessibleDescriptionRole:
         return finding;
     case Qt::DecorationRole:

@@ -94,6 +94,7 @@ private Q_SLOTS:
     void keepsTheWidthOfEditors();
     void isAsLargeAsItsRows();
     void explainsItsEditorsToEveryone();
+    void showsToolTipsAsTheyStand();
     void goesThroughEverythingByTab();
     void hidesWhatDoesNotCount();
     void hidesAdvancedParameters();
@@ -187,6 +188,17 @@ void tst_KeltoParameterForm::explainsItsEditorsToEveryone()
     QCOMPARE(force->toolTip(), "Acts at the free end.");
     QCOMPARE(labelOf(*form, "Force")->toolTip(), "Acts at the free end.");
     QCOMPARE(labelOf(*form, "Force")->text(), "Point load  F");
+}
+
+void tst_KeltoParameterForm::showsToolTipsAsTheyStand()
+{
+    AUTH_INF item = caseBeam();
+    item.extraKey << VDataItem { "Help.Length", "<img src='secret.png'>" };
+    const auto form = shownForm(item);
+    const QString asItStands = "<p>&lt;img src='secret.png'&gt;</p>";
+    QCOMPARE(form->editor("Length")->toolTip(), asItStands);
+    QCOMPARE(labelOf(*form, "Length")->toolTip(), asItStands);
+    QVERIFY(form->editor("Length")->accessibleDescription().endsWith("<img src='secret.png'>"));
 }
 
 void tst_KeltoParameterForm::goesThroughEverythingByTab()
