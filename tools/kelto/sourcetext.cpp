@@ -147,6 +147,13 @@ Reason problemOfFunction(const QString &name)
     return isReservedWord(name) ? Problem::ReservedName : Reason();
 }
 
+/// What stands beside the functions of items in generated source text.
+bool isOwnFunction(const QString &name)
+{
+    return name == QLatin1String("allItems") || name == QLatin1String("loaded")
+        || name == QLatin1String("translatedTexts");
+}
+
 /// A class cannot have the name of the class around it, nor a function with its own name.
 Reason problemOfContext(const QString &context)
 {
@@ -226,7 +233,8 @@ void addOwnFields(const AUTH_INF &item, ProblemList *list)
                   problemOfContext(item.trObjectName));
     if (!item.codeFunctionName.isEmpty())
         list->add(list->itemSection, QStringLiteral("codeFunctionName"), item.codeFunctionName,
-                  problemOfFunction(item.codeFunctionName));
+                  isOwnFunction(item.codeFunctionName) ? Problem::ReservedName
+                                                       : problemOfFunction(item.codeFunctionName));
 }
 
 /// The position behind the last mode with parameters.

@@ -46,13 +46,6 @@ IniPosition placeOf(const ItemFile &file, const QString &section, const QString 
     return {};
 }
 
-/// What the generated source itself defines.
-bool isOwnName(const QString &function)
-{
-    return function == QLatin1String("allItems") || function == QLatin1String("loaded")
-        || function == QLatin1String("translatedTexts");
-}
-
 bool isControlCharacter(QChar c)
 {
     return c.category() == QChar::Other_Control;
@@ -174,9 +167,6 @@ void CodeCommand::checkFunction(const ItemFile &file, const AUTH_INF &item)
         add(file, QStringLiteral("KeltoItem"), key, function,
             Command::tr("is the function of %1 already").arg(m_functions.value(function)));
     m_functions.insert(function, file.path());
-    if (isOwnName(function))
-        add(file, QStringLiteral("KeltoItem"), key, function,
-            reasonText(SourceTextProblem::ReservedName));
 }
 
 /// In the resources all files lie in one directory. Their list is XML, which cannot hold control
