@@ -129,12 +129,24 @@
         <translation>%1：值须为单个文本。在文件中，含逗号的文本须加引号。</translation>
     </message>
     <message>
-        <source>%1: &quot;%2&quot; is not &quot;parameter=value&quot;, no value of it can be chosen, or parameters depend on each other in a circle.</source>
-        <translation>%1：“%2”不是“参数=值”的形式，或其中没有可选的值，或参数之间循环依赖。</translation>
-    </message>
-    <message>
         <source>%1: this extra key is there twice; the first one counts.</source>
         <translation>%1：此附加键重复出现，以第一个为准。</translation>
+    </message>
+    <message>
+        <source>%1: no value in &quot;%2&quot; can be chosen.</source>
+        <translation>%1：“%2”中没有可选的值。</translation>
+    </message>
+    <message>
+        <source>%1: there is no parameter &quot;%3&quot;.</source>
+        <translation>%1：没有名为“%3”的参数。</translation>
+    </message>
+    <message>
+        <source>%1: with &quot;%2&quot; parameters depend on each other in a circle.</source>
+        <translation>%1：取“%2”时，参数之间循环依赖。</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; is not &quot;parameter=value&quot;.</source>
+        <translation>%1：“%2”不是“参数=值”的形式。</translation>
     </message>
 </context>
 <context>

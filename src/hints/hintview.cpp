@@ -81,11 +81,11 @@ int HintView::position(HintWord word, const QString &key) const
     return m_dropped.contains(found) ? -1 : found;
 }
 
-void HintView::drop(HintWord word, const QString &key, Problem::Kind kind)
+void HintView::drop(HintWord word, const QString &key, Problem::Kind kind, const QString &part)
 {
     const int found = position(word, key);
     m_dropped.insert(found);
-    m_problems.append({ found, kind, {} });
+    m_problems.append({ found, kind, part });
 }
 
 void HintView::checkLimits(const QString &key)
@@ -161,7 +161,8 @@ void HintView::checkConditionValues(const QString &key)
         || std::any_of(wanted.values.cbegin(), wanted.values.cend(),
                        [&allowed](const QString &value) { return allowed.contains(value); });
     if (!canHold)
-        drop(HintWord::When, key, Problem::BadCondition);
+        drop(HintWord::When, key, Problem::BadCondition,
+             QLatin1Char('=') + wanted.values.join(QLatin1Char('|')));
 }
 
 /// Each parameter depends on one other at most. So whoever follows the conditions from one to the

@@ -55,7 +55,7 @@ private:
     using Problem = KeltoItemHints::Problem;
 
     int position(HintWord word, const QString &key) const;
-    void drop(HintWord word, const QString &key, Problem::Kind kind);
+    void drop(HintWord word, const QString &key, Problem::Kind kind, const QString &part = {});
     void checkLimits(const QString &key);
     void checkDefault(const QString &key);
     bool isNumber(const QString &key) const;

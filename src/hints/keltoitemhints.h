@@ -88,7 +88,9 @@ public:
         Kind kind;
         QString extraKey; ///< Whole, as the item has it.
         QString value; ///< Its text.
-        QString part; ///< The key or the mode that is unknown; empty for the other kinds.
+        /// The key or the mode that is unknown; of a condition on values none of which can be
+        /// chosen, a "=" and those values. Empty for all else.
+        QString part;
         /// A sentence that says what is wrong, in the language of the program.
         QString text() const;
     };

@@ -53,12 +53,24 @@ public:
         case Problem::BadChoices:
             return tr("%1: \"%2\" offers nothing, or one value twice.");
         case Problem::BadCondition:
-            return tr("%1: \"%2\" is not \"parameter=value\", no value of it can be chosen, or "
-                      "parameters depend on each other in a circle.");
+            return ofCondition(problem);
         case Problem::DuplicateHint:
             return tr("%1: this extra key is there twice; the first one counts.");
         }
         return {};
+    }
+
+private:
+    static QString ofCondition(const Problem &problem)
+    {
+        if (problem.part.startsWith(QLatin1Char('=')))
+            return tr("%1: no value in \"%2\" can be chosen.");
+        if (!problem.part.isEmpty())
+            return tr("%1: there is no parameter \"%3\".");
+        // In a circle there is always one.
+        const bool hasKey = problem.value.trimmed().indexOf(QLatin1Char('=')) > 0;
+        return hasKey ? tr("%1: with \"%2\" parameters depend on each other in a circle.")
+                      : tr("%1: \"%2\" is not \"parameter=value\".");
     }
 };
 

@@ -30,6 +30,12 @@ bool hasBadChoices(const QString &text)
     return values.size() != choices.size();
 }
 
+/// What stands where a condition names a parameter; empty without "=".
+QString keyOfCondition(const QString &text)
+{
+    return text.left(qMax(text.indexOf(equalsSign), 0)).trimmed();
+}
+
 } // namespace
 
 QStringList elementsOf(const QString &text, const QString &separator)
@@ -109,7 +115,8 @@ bool ReadHints::isSensibleText(int position, HintWord word, const QString &text)
     case HintWord::Choices:
         return !hasBadChoices(text) || refuse(position, Problem::BadChoices);
     case HintWord::When:
-        return hasCondition(position, text) || refuse(position, Problem::BadCondition);
+        return hasCondition(position, text)
+            || refuse(position, Problem::BadCondition, keyOfCondition(text));
     case HintWord::Order:
     case HintWord::Belong:
         return hasKnownElements(position, word, text);

@@ -101,27 +101,32 @@ private Q_SLOTS:
         row("a choice twice", { { "Choices.L", "1=a| 1 =b" } },
             { "Choices.L: \"1=a| 1 =b\" offers nothing, or one value twice." });
         row("two choices of one label", { { "Choices.L", "1=a|2=a" } });
-        const QString noCondition = "When.L: \"%1\" is not \"parameter=value\", no value of it "
-                                    "can be chosen, or parameters depend on each other in a "
-                                    "circle.";
+        const QString noCondition = "When.L: \"%1\" is not \"parameter=value\".";
+        const QString circle = "When.%1: with \"%2\" parameters depend on each other in a circle.";
         row("no condition", { { "When.L", "N" } }, { noCondition.arg("N") });
-        row("a condition on a result", { { "When.L", "R=1" } }, { noCondition.arg("R=1") });
-        row("a condition on itself", { { "When.L", "L=1" } }, { noCondition.arg("L=1") });
+        row("a condition on nothing it names", { { "When.L", " =1" } }, { noCondition.arg(" =1") });
+        row("an empty condition", { { "When.L", "" } }, { noCondition.arg("") });
+        row("a condition on an unknown parameter", { { "When.L", " Nn =1=2" } },
+            { "When.L: there is no parameter \"Nn\"." });
+        row("a condition on a result", { { "When.L", "R=1" } },
+            { "When.L: there is no parameter \"R\"." });
+        row("a condition on itself", { { "When.L", "L=1" } }, { circle.arg("L", "L=1") });
         row("conditions in a circle, and one on them",
             { { "When.M", "L=1" }, { "When.L", "N=1" }, { "When.N", "L=%1" } },
-            { noCondition.arg("N=1"), QString(noCondition).replace("L:", "N:").arg("L=%1") });
+            { circle.arg("L", "N=1"), circle.arg("N", "L=%1") });
         row("a circle in one mode", { { "When.L", "N=1" }, { "When.N@A", "L=1" } },
-            { noCondition.arg("N=1"), QString(noCondition).replace("L:", "N@A:").arg("L=1") });
+            { circle.arg("L", "N=1"), circle.arg("N@A", "L=1") });
         const ExtraKeys choices { { "Choices.N", "a=one|b" }, { "Choices.N@B", "c" } };
         row("a condition on what can be chosen", choices + ExtraKeys { { "When.L@A", "N=c|b" } });
         row("a condition on a label", choices + ExtraKeys { { "When.L@A", "N=one|c" } },
-            { QString(noCondition).replace("L:", "L@A:").arg("N=one|c") });
+            { "When.L@A: no value in \"N=one|c\" can be chosen." });
         row("a condition on what can be chosen in one mode",
-            choices + ExtraKeys { { "When.L", "N=b" } }, { noCondition.arg("N=b") });
+            choices + ExtraKeys { { "When.L", "N=b" } },
+            { "When.L: no value in \"N=b\" can be chosen." });
         row("a condition on nothing", choices + ExtraKeys { { "When.L", "N=" } });
         row("a circle that can never be",
             { { "Choices.N", "1" }, { "When.L", "N=2" }, { "When.N", "L=1" } },
-            { noCondition.arg("N=2") });
+            { "When.L: no value in \"N=2\" can be chosen." });
         row("one extra key twice", { { "Min.L", 1 }, { "Min.L", "x" } },
             { "Min.L: this extra key is there twice; the first one counts." });
         row("one after a senseless one", { { "Min.L", "x" }, { "Min.L", 1 } },

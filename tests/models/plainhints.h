@@ -316,7 +316,8 @@ private:
         if (word == "Choices" && (text.trimmed().isEmpty() || values.removeDuplicates() > 0))
             report(hint.position, Problem::BadChoices);
         if (word == "When" && conditionOf(text).second.isEmpty())
-            report(hint.position, Problem::BadCondition);
+            report(hint.position, Problem::BadCondition,
+                   text.contains('=') ? text.section('=', 0, 0).trimmed() : QString());
         const QStringList parts = elements(text);
         for (const QString &element : parts) {
             if (word == "Order" && !text.isEmpty() && !isKey(element))
@@ -368,11 +369,12 @@ private:
         return hint.text.isEmpty() ? QStringList() : elements(hint.text, ";");
     }
 
-    void drop(const QString &word, const QString &key, Problem::Kind kind)
+    void drop(const QString &word, const QString &key, Problem::Kind kind,
+              const QString &part = QString())
     {
         const auto index = find(word, key) - m_hints.constData();
         m_hints[int(index)].isDropped = true;
-        report(m_hints.at(int(index)).position, kind);
+        report(m_hints.at(int(index)).position, kind, part);
     }
 
     void checkLimits(const QString &key)
@@ -440,7 +442,7 @@ private:
     {
         for (const QString &key : keys) {
             if (find("When", key) && !canHold(key))
-                drop("When", key, Problem::BadCondition);
+                drop("When", key, Problem::BadCondition, '=' + conditionValues(key).join('|'));
         }
         QStringList circles;
         for (const QString &key : keys) {

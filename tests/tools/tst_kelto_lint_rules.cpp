@@ -214,6 +214,9 @@ void TestKeltoLintRules::finds_data()
     row("names that are no identifiers", item + "codeFunctionName=class\nTr_ObjectName=A::2b\n",
         { "first.ini:9:15 name-in-code \"A::2b\" is not an identifier",
           "first.ini:8:18 name-in-code \"class\" is a name that means something else" });
+    row("a function that generated source text has itself",
+        item + "codeFunctionName=allItems\nTr_ObjectName=loaded\n",
+        { "first.ini:8:18 name-in-code \"allItems\" is a name that means something else" });
     row("names that are identifiers", item + "codeFunctionName=_beam2\nTr_ObjectName=A::B\n", {});
     row("a type that is absent", "[KeltoItem]\nname=Beam\n" + mode + length,
         { "first.ini:1:1 not-a-calculation \"\" is not the type \"calculation\", and only that has "
@@ -247,12 +250,26 @@ void TestKeltoLintRules::finds_data()
           "first.ini:24:1 bad-hint Optional.Length: \"yes\" is neither \"true\" nor \"false\"",
           "first.ini:21:1 bad-hint Order: there is no parameter or result \"Stres\". Did you mean "
           "\"Stress\"?",
-          "first.ini:25:1 bad-hint When.Length: \"Section=a\" is not \"parameter=value\", no value "
-          "of it can be chosen, or parameters depend on each other in a circle",
+          "first.ini:25:1 bad-hint When.Length: there is no parameter \"Section\"",
           "first.ini:27:1 misspelt-hint the extra key \"Maximum.Length\" is no hint. Did you mean "
           "\"Max.Length\"?" });
     row("a contradiction is told once", item + length + "[ExtraKey]\nMin.Length=5\nMax.Length=1\n",
         { "first.ini:13:1 bad-hint Min.Length: with \"5\" the minimum is above the maximum" });
+    row("conditions that make no sense, each for a cause of its own",
+        item
+            + "[Attribute]\nStatic head=\nFlow=\n[Belong]\nStatic head=Bending\nFlow=Bending\n"
+              "[ExtraKey]\nWhen.Flow=Statc head=1\nWhen.Static head=Static head=1\n"
+              "When.Flow@Bending=Static head\n",
+        { "first.ini:15:1 bad-hint When.Flow: there is no parameter \"Statc head\". Did you mean "
+          "\"Static head\"?",
+          "first.ini:17:1 bad-hint When.Flow@Bending: \"Static head\" is not \"parameter=value\"",
+          "first.ini:16:1 bad-hint When.Static head: with \"Static head=1\" parameters depend on "
+          "each other in a circle" });
+    row("a condition on what cannot be chosen",
+        item
+            + "[Attribute]\nPump=\nFlow=\n[Belong]\nPump=Bending\nFlow=Bending\n"
+              "[ExtraKey]\nChoices.Pump=axial|radial\nWhen.Flow=Pump=axal\n",
+        { "first.ini:16:1 bad-hint When.Flow: no value in \"Pump=axal\" can be chosen" });
     row("words that are nearly those of hints",
         item
             + "[Attribute]\nFlow rate=\n[Belong]\nFlow rate=Bending\n[ExtraKey]\n"

@@ -67,6 +67,11 @@ public:
         const QString key = problem.part.section(QLatin1Char('@'), 0, 0);
         return didYouMean((isOfResult(problem) ? m_results : m_all).nearest(key));
     }
+    /// The parameter on which a condition was most likely meant to be.
+    QString suggestionForCondition(const Problem &problem) const
+    {
+        return didYouMean(nearestName(problem.part, m_parameters));
+    }
 
 private:
     static QStringList lastParts(QStringList names)
@@ -126,6 +131,8 @@ QString suggestionFor(const Problem &problem, const NearestNames &modes, const D
         return keys.suggestionFor(problem);
     if (problem.kind == Problem::UnknownMode)
         return didYouMean(modes.nearest(problem.part));
+    if (problem.kind == Problem::BadCondition && !problem.part.isEmpty())
+        return keys.suggestionForCondition(problem);
     return {};
 }
 
