@@ -27,6 +27,8 @@ private Q_SLOTS:
     void findsInOneFile();
     void mendsWithOneRightAnswerOnly_data();
     void mendsWithOneRightAnswerOnly();
+    void takesEscapesForMeantInSavedFiles_data();
+    void takesEscapesForMeantInSavedFiles();
     void findsNothingButUtf16();
     void printsNoChangeOfDirection();
     void findsInLargeFiles_data();
@@ -177,6 +179,51 @@ void TestKeltoLintFiles::mendsWithOneRightAnswerOnly()
     }
     QVERIFY(found > 0);
     QCOMPARE(fixable, fixes);
+}
+
+void TestKeltoLintFiles::takesEscapesForMeantInSavedFiles_data()
+{
+    QTest::addColumn<QByteArray>("before");
+    QTest::addColumn<QByteArray>("after");
+    QTest::addColumn<int>("count");
+
+    const auto row = [](const char *name, const char *before, const char *after, int count) {
+        QTest::newRow(name) << QByteArray(before) << QByteArray(after) << count;
+    };
+    row("as it is saved", "", "", 0);
+    row("line ends of Windows", "\n", "\r\n", 0);
+    row("results added", "type=", "output_results = a, b\ntype=", 0);
+    row("an escape in an extra key", "Author=", "Author=a\\nb", 0);
+    row("a comment", "name=", "; Name\nname=", 1);
+    row("a comment in front", "[ExtraKey]", "; Keys\n[ExtraKey]", 1);
+    row("a blank behind an equals sign", "name=", "name= ", 1);
+    row("quotes around another text", "type=calculation", "type=\"calculation\"", 1);
+    row("another escape for the same character", "\\t", "\\x9", 1);
+    row("a field less", "number=0\n", "", 1);
+    row("another order of keys", "Author=\nEdition=\n", "Edition=\nAuthor=\n", 1);
+    row("another order of sections", "[ExtraKey]", "[KeltoItem]\nname=Beam\n\n[ExtraKey]", 1);
+    row("no empty line between sections", "\n\n", "\n", 1);
+    row("an escape in the name of a file", "icon=", "icon=a\\tb", 1);
+}
+
+void TestKeltoLintFiles::takesEscapesForMeantInSavedFiles()
+{
+    QFETCH(QByteArray, before);
+    QFETCH(QByteArray, after);
+    QFETCH(int, count);
+
+    AUTH_INF item;
+    item.name = "Beam";
+    item.description = "a\tb";
+    item.type = "calculation";
+    item.extraKey = { { "Author", QString() }, { "Edition", QString() } };
+    item.save_ini("saved.ini");
+    QByteArray bytes = fileContent("saved.ini");
+    QVERIFY(bytes.contains(before));
+    writeFile("first.ini", before.isEmpty() ? bytes : bytes.replace(before, after));
+    const Findings findings = findingsIn(ItemFile("first.ini"));
+    const auto isEscape = [](const Finding &each) { return each.rule == "unquoted-escape"; };
+    QCOMPARE(int(std::count_if(findings.cbegin(), findings.cend(), isEscape)), count);
 }
 
 void TestKeltoLintFiles::findsNothingButUtf16()

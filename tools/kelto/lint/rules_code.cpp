@@ -5,6 +5,7 @@
 
 #include "command.h"
 #include "lint/rules_places.h"
+#include "lint/savedspelling.h"
 #include "sourcetext.h"
 
 #include <QHash>
@@ -61,6 +62,7 @@ class ElementPlaces
 public:
     explicit ElementPlaces(const ItemFile &file)
         : m_file(file)
+        , m_saved(file)
     {
     }
 
@@ -71,10 +73,11 @@ public:
         return index < m_spelt.size() ? m_file.positionAt(m_spelt.at(index).text.data())
                                       : key.valuePosition;
     }
+    /// Whether it has escapes that are a finding.
     bool hasEscapes(const ItemFileKey &key)
     {
         read(key);
-        return !m_spelt.escapes.isEmpty();
+        return !m_spelt.escapes.isEmpty() && !m_saved.hasEscapesOf(key);
     }
 
 private:
@@ -90,6 +93,7 @@ private:
     }
 
     const ItemFile &m_file;
+    const SavedSpelling m_saved;
     const ItemFileKey *m_key = nullptr;
     SpeltValue m_spelt;
     QHash<QString, int> m_indexes; ///< Of the first of each text.

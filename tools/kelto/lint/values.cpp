@@ -10,6 +10,7 @@
 #include "lint/filefindings.h"
 #include "lint/lintitem.h"
 #include "lint/othercommas.h"
+#include "lint/savedspelling.h"
 #include "lint/speltvalue.h"
 
 #include <algorithm>
@@ -32,11 +33,12 @@ bool isTyped(const QString &element)
 class ValueCheck
 {
 public:
-    ValueCheck(const LintKey &key, FileFindings *findings)
+    ValueCheck(const LintKey &key, const SavedSpelling &saved, FileFindings *findings)
         : m_key(*key.key)
         , m_kind(key.value)
         , m_raw(rawValueOf(findings->file(), m_key))
         , m_spelt(speltValueOf(m_raw))
+        , m_saved(saved)
         , m_findings(findings)
     {
     }
@@ -74,7 +76,9 @@ private:
             = std::any_of(m_key.value.cbegin(), m_key.value.cend(), [](const QString &element) {
                   return isTyped(element) || isUnsafe(element) || isDamaged(element);
               });
-        for (const char *const place : isBinary ? QVector<const char *>() : m_spelt.escapes) {
+        const bool isMeant
+            = !m_spelt.escapes.isEmpty() && (isBinary || m_saved.hasEscapesOf(m_key));
+        for (const char *const place : isMeant ? QVector<const char *>() : m_spelt.escapes) {
             m_findings->add("unquoted-escape", place,
                             Command::tr("the backslash and what follows are read as another "
                                         "character; write a backslash as \\\\, or put quotes "
@@ -151,6 +155,7 @@ private:
     const ItemValue m_kind;
     const std::string_view m_raw;
     const SpeltValue m_spelt;
+    const SavedSpelling &m_saved;
     FileFindings *const m_findings;
 };
 
@@ -234,6 +239,7 @@ void checkNumber(const ItemFileKey &key, FileFindings *findings)
 void check(const LintItem &item, Findings *findings)
 {
     FileFindings added(item.file(), findings);
+    const SavedSpelling saved(item.file());
     const bool areUnitsConverted
         = std::any_of(item.keys().cbegin(), item.keys().cend(), isConverted);
     for (const LintKey &key : item.keys()) {
@@ -241,7 +247,7 @@ void check(const LintItem &item, Findings *findings)
             checkDeclaration(*key.key, &added);
             continue;
         }
-        ValueCheck(key, &added).check();
+        ValueCheck(key, saved, &added).check();
         if (key.value == ItemValue::Units)
             checkUnits(*key.key, areUnitsConverted, &added);
         else if (key.value == ItemValue::Flag)
@@ -283,7 +289,10 @@ RuleArea valueRules()
               QT_TRANSLATE_NOOP("Command",
                                 "\\n is a line break and \\t a tab, also in a path such as "
                                 "C:\\new. Write a backslash as two; put quotes around a text in "
-                                "which the escape is meant."),
+                                "which the escape is meant. A program that saves an item writes "
+                                "no quotes around escapes: in files that are spelt throughout as "
+                                "AUTH_INF::save_ini() spells them, only those in \"icon\" and "
+                                "\"lib_name\" are found."),
               "[KeltoItem]\nname=Beam\nicon=C:\\beam.png\n",
               "[KeltoItem]\nname=Beam\nicon=C:/beam.png\n" },
             { "joined-lines", Severity::Error,

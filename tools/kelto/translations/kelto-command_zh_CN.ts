@@ -1641,10 +1641,6 @@ A file that cannot be formatted without changing what is read, for example with 
         <translation>引号之外的反斜杠是转义</translation>
     </message>
     <message>
-        <source>\n is a line break and \t a tab, also in a path such as C:\new. Write a backslash as two; put quotes around a text in which the escape is meant.</source>
-        <translation>\n 是换行，\t 是制表符，在 C:\new 之类的路径中也是如此。反斜杠请写两个；如果需要转义，请在文本两端加引号。</translation>
-    </message>
-    <message>
         <source>A backslash joins two lines in the middle of a text</source>
         <translation>反斜杠在文本中间连接两行</translation>
     </message>
@@ -2131,6 +2127,10 @@ above it; each rule is what the nearest file says that names it. They hold the s
     <message>
         <source>Only the comma of ASCII outside of quotes divides a list. With a full-width one, a &quot;|&quot; or the like the whole list is one name, which nothing has.</source>
         <translation>只有引号之外的 ASCII 逗号分隔列表。使用全角逗号、“|”等字符时，整个列表是一个名称，没有任何东西叫这个名称。</translation>
+    </message>
+    <message>
+        <source>\n is a line break and \t a tab, also in a path such as C:\new. Write a backslash as two; put quotes around a text in which the escape is meant. A program that saves an item writes no quotes around escapes: in files that are spelt throughout as AUTH_INF::save_ini() spells them, only those in &quot;icon&quot; and &quot;lib_name&quot; are found.</source>
+        <translation>\n 是换行，\t 是制表符，在 C:\new 之类的路径中也是如此。反斜杠请写两个；如果需要转义，请在文本两端加引号。保存模块项的程序不给转义加引号：在写法与 AUTH_INF::save_ini() 完全一致的文件中，只报告“icon”和“lib_name”中的转义。</translation>
     </message>
 </context>
 </TS>
