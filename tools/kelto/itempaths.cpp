@@ -6,27 +6,78 @@
 #include "command.h"
 #include "console.h"
 
-#include <QDirIterator>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSet>
 
+#include <filesystem>
+#include <system_error>
+
 namespace {
 
-QStringList itemFilesBelow(const QString &directory)
+QString unreadable(const QString &path, const QString &why)
+{
+    return Command::tr("%1: cannot be read: %2.").arg(path, why);
+}
+
+QString unreadable(const QString &path, const std::error_code &error)
+{
+    return unreadable(path, QString::fromLocal8Bit(error.message().c_str()));
+}
+
+/// Why the directory cannot be searched, as a sentence; empty when it can.
+QString whyUnlistable(const QFileInfo &directory)
+{
+    std::error_code error;
+    std::filesystem::directory_iterator(directory.filePath().toStdU16String(), error);
+    // The names of files alone are of no use.
+    if (!error && !directory.isExecutable())
+        error = std::make_error_code(std::errc::permission_denied);
+    return error ? unreadable(directory.filePath(), error) : QString();
+}
+
+/// Adds to @p problems what cannot be searched. What is no regular file is told when it is read.
+QStringList itemFilesBelow(const QString &directory, QStringList *problems)
 {
     QStringList files;
-    QDirIterator iterator(directory, { QStringLiteral("*.ini") }, QDir::Files,
-                          QDirIterator::Subdirectories);
-    while (iterator.hasNext())
-        files.append(iterator.next());
+    QStringList directories { directory };
+    QStringList links; // Later, so that files stand under the names of their own directories.
+    QSet<QString> known; // Links may lead back.
+    while (!directories.isEmpty() || !links.isEmpty()) {
+        const QFileInfo place((directories.isEmpty() ? links : directories).takeFirst());
+        if (known.contains(place.canonicalFilePath()))
+            continue;
+        known.insert(place.canonicalFilePath());
+        const QString problem = whyUnlistable(place);
+        if (!problem.isEmpty()) {
+            problems->append(problem);
+            continue;
+        }
+        const auto filters = QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot;
+        const auto entries = QDir(place.filePath()).entryInfoList(filters, QDir::Name);
+        for (const QFileInfo &entry : entries) {
+            if (entry.isDir())
+                (entry.isSymLink() ? links : directories).append(entry.filePath());
+            else if (QDir::match(QStringLiteral("*.ini"), entry.fileName()))
+                files.append(entry.filePath());
+        }
+    }
     files.sort();
     return files;
 }
 
-QString noSuchFile(const QString &path)
+/// Why there is nothing to be found at @p path.
+QString whyMissing(const QString &path)
 {
-    return Command::tr("%1: no such file.").arg(path);
+    std::error_code error;
+    const auto status = std::filesystem::status(path.toStdU16String(), error);
+    // A directory above it may not be searched, for example.
+    if (status.type() != std::filesystem::file_type::not_found)
+        return unreadable(path, error);
+    return QFileInfo(path).isSymLink()
+        ? Command::tr("%1: is a link to a file that does not exist.").arg(path)
+        : Command::tr("%1: no such file.").arg(path);
 }
 
 /// A file stands once, however it is spelt.
@@ -51,14 +102,20 @@ QStringList itemFilesAt(const QStringList &paths, Console &console, bool *areAll
     *areAllFound = true;
     for (const QString &path : paths) {
         const QFileInfo info(path);
-        const QStringList found
-            = info.isDir() ? itemFilesBelow(path) : QStringList(path).mid(info.exists() ? 0 : 1);
-        if (found.isEmpty()) {
-            *areAllFound = false;
-            console.complain(info.isDir()
-                                 ? Command::tr("%1: no file below it ends in \".ini\".").arg(path)
-                                 : noSuchFile(path));
+        QStringList found;
+        QStringList problems;
+        if (info.isDir()) {
+            found = itemFilesBelow(path, &problems);
+            if (found.isEmpty() && problems.isEmpty())
+                problems.append(Command::tr("%1: no file below it ends in \".ini\".").arg(path));
+        } else if (info.exists()) {
+            found.append(path);
+        } else {
+            problems.append(whyMissing(path));
         }
+        for (const QString &problem : qAsConst(problems))
+            console.complain(problem);
+        *areAllFound = *areAllFound && problems.isEmpty();
         files += found;
     }
     return withoutDuplicates(files);
@@ -69,13 +126,11 @@ QString whyUnreadable(const QString &path)
     // Opening a pipe would wait for somebody who writes.
     const QFileInfo info(path);
     if (!info.exists())
-        return noSuchFile(path);
+        return whyMissing(path);
     if (info.isDir())
         return Command::tr("%1: is a directory; a file is expected.").arg(path);
     if (!info.isFile())
         return Command::tr("%1: is not a regular file.").arg(path);
     QFile file(path);
-    return file.open(QIODevice::ReadOnly)
-        ? QString()
-        : Command::tr("%1: cannot be read: %2.").arg(path, file.errorString());
+    return file.open(QIODevice::ReadOnly) ? QString() : unreadable(path, file.errorString());
 }

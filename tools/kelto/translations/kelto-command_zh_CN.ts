@@ -2132,5 +2132,9 @@ above it; each rule is what the nearest file says that names it. They hold the s
         <source>\n is a line break and \t a tab, also in a path such as C:\new. Write a backslash as two; put quotes around a text in which the escape is meant. A program that saves an item writes no quotes around escapes: in files that are spelt throughout as AUTH_INF::save_ini() spells them, only those in &quot;icon&quot; and &quot;lib_name&quot; are found.</source>
         <translation>\n 是换行，\t 是制表符，在 C:\new 之类的路径中也是如此。反斜杠请写两个；如果需要转义，请在文本两端加引号。保存模块项的程序不给转义加引号：在写法与 AUTH_INF::save_ini() 完全一致的文件中，只报告“icon”和“lib_name”中的转义。</translation>
     </message>
+    <message>
+        <source>%1: is a link to a file that does not exist.</source>
+        <translation>%1：是指向不存在的文件的链接。</translation>
+    </message>
 </context>
 </TS>
