@@ -20,6 +20,8 @@ private Q_SLOTS:
     void refusesWhatIsNoUnit_data();
     void refusesWhatIsNoUnit();
     void readsInSeveralThreads();
+    void comparesSpellings_data();
+    void comparesSpellings();
 };
 
 namespace {
@@ -175,6 +177,42 @@ void TestUnit::readsInSeveralThreads()
     other.join();
     QCOMPARE(first, 2000);
     QCOMPARE(second, 2000);
+}
+
+void TestUnit::comparesSpellings_data()
+{
+    QTest::addColumn<QStringList>("texts");
+    QTest::addColumn<bool>("areSame");
+
+    const auto row = [](const char *name, const char *texts, bool areSame) {
+        QTest::newRow(name) << QString(texts).split('|') << areSame;
+    };
+    row("powers", "m³/h|m^3/h|m3/h| m³ / h |[m³/h]|m³·h⁻¹|m·m²/h|㎥/h", true);
+    row("products", "N·m|N*m|N m|m·N", true);
+    row("quotients", "1/s|s⁻¹|s^-1|s-1", true);
+    row("signs", "℃|°C|ºC", true);
+    row("no unit", "-|1||–", true);
+    row("a number", "10^3 kg|1000 kg", true);
+    row("no unit and one", "-|m", false);
+    row("prefixes", "mm|m|Mm", false);
+    row("where a scale begins", "°C|K", false);
+    row("a gauge and a pressure", "bar(g)|bar", false);
+    row("gas in its normal state", "Nm³|m³", false);
+    row("two quantities of one unit", "Hz|Bq", false);
+    row("words", "apples|pears", false);
+    row("no texts of units", "((|(((", false);
+}
+
+void TestUnit::comparesSpellings()
+{
+    QFETCH(QStringList, texts);
+    QFETCH(bool, areSame);
+    for (const QString &text : qAsConst(texts)) {
+        for (const QString &other : qAsConst(texts)) {
+            const QString pair = text + " and " + other;
+            QVERIFY2(isSameUnit(text, other) == (areSame || text == other), qPrintable(pair));
+        }
+    }
 }
 
 QTEST_GUILESS_MAIN(TestUnit)

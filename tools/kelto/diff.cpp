@@ -247,8 +247,9 @@ Command diffCommand()
             "name in two directories: modes, parameters, results and what describes them.\n\n"
             "Exit code 1 when projects that were stored with the old version lose something: a "
             "module, a mode or a parameter is gone or has another name, an exclusive group "
-            "has another name or is none any more, a unit is another one, a choice is gone, "
-            "only certain values are left to choose, limits are narrower, the kind is one that "
+            "has another name or is none any more, a unit is another one and not only spelt "
+            "otherwise, a choice is gone, only certain values are left to choose, limits are "
+            "narrower, a parameter counts for fewer values of another one, the kind is one that "
             "does not read all that the old one allowed, or several values are no longer "
             "allowed. These lines begin with \"!\". Exit code 0 when there are other "
             "differences only, or none."),

@@ -68,6 +68,26 @@ bool isSuch(const QString &value, const ValueKind &kind)
     return number && !kind.isPoint && (!kind.isWhole || std::floor(*number) == *number);
 }
 
+/// Whether a parameter that counted does not any more: what was stored is lost then.
+bool losesCondition(const KeltoItemHints &before, const KeltoItemHints &after, const QString &key)
+{
+    const QString other = after.conditionKey(key);
+    if (other.isEmpty())
+        return false;
+    const QStringList values = after.conditionValues(key);
+    QStringList possible;
+    const auto choices = before.choices(other);
+    for (const KeltoItemHints::Choice &choice : choices)
+        possible.append(choice.value);
+    // Without this condition it counted whatever the other was, and whether or not that counted.
+    if (before.conditionKey(key) != other)
+        return losesChoice(possible, values) || !before.conditionKey(other).isEmpty();
+    const QStringList counted = before.conditionValues(key);
+    return std::any_of(counted.cbegin(), counted.cend(), [&](const QString &value) {
+        return !values.contains(value) && (possible.isEmpty() || possible.contains(value));
+    });
+}
+
 QString conditionText(const KeltoItemHints &hints, const QString &key)
 {
     const QString other = hints.conditionKey(key);
@@ -104,7 +124,8 @@ QVector<HintChange> hintChanges(const DescribedParameter &before, const Describe
     compare(QT_TRANSLATE_NOOP("Command", "optional"), [](const Hints &hints, const Text &name) {
         return trueOrFalse(hints.isOptional(name));
     });
-    compare(QT_TRANSLATE_NOOP("Command", "counts with"), conditionText);
+    compare(QT_TRANSLATE_NOOP("Command", "counts with"), conditionText,
+            losesCondition(before.hints, after.hints, key));
     compare(QT_TRANSLATE_NOOP("Command", "advanced"), [](const Hints &hints, const Text &name) {
         return trueOrFalse(hints.isAdvanced(name));
     });

@@ -6,6 +6,7 @@
 #include "command.h"
 #include "hintdiff.h"
 #include "itemtable.h"
+#include "units/unit.h"
 
 #include <AUTH_INF>
 
@@ -240,7 +241,7 @@ private:
                          orNothing(second), loses);
               };
         compare(QT_TRANSLATE_NOOP("Command", "unit"), before.unit().first, after.unit().first,
-                isStored);
+                isStored && !isSameUnit(before.unit().first, after.unit().first));
         compare(QT_TRANSLATE_NOOP("Command", "second unit"), before.unit().second,
                 after.unit().second, false);
         compare(QT_TRANSLATE_NOOP("Command", "several values"), trueOrFalse(before.isMulti()),

@@ -380,14 +380,6 @@ Of a model, parameters and inputs become parameters, outputs become results, and
         <translation>比较模块项的两个版本</translation>
     </message>
     <message>
-        <source>Says what is different between two item files, or between the modules of one name in two directories: modes, parameters, results and what describes them.
-
-Exit code 1 when projects that were stored with the old version lose something: a module, a mode or a parameter is gone or has another name, an exclusive group has another name or is none any more, a unit is another one, a choice is gone, only certain values are left to choose, limits are narrower, the kind is one that does not read all that the old one allowed, or several values are no longer allowed. These lines begin with &quot;!&quot;. Exit code 0 when there are other differences only, or none.</source>
-        <translation>说明两个模块项文件之间，或两个目录中同名模块之间的差异：模式、参数、结果及其描述。
-
-如果以旧版本保存的项目会丢失内容，则退出码为 1：模块、模式或参数已删除或改名，互斥组改名或不再互斥，单位改变，可选值减少，改为只能取某些值，上下限变窄，新种类不能读取旧种类允许的所有值，或不再允许多个值。这些行以“!”开头。只有其他差异或没有差异时，退出码为 0。</translation>
-    </message>
-    <message>
         <source>What has changed in a module.</source>
         <translation>模块中改变了什么。</translation>
     </message>
@@ -2135,6 +2127,14 @@ above it; each rule is what the nearest file says that names it. They hold the s
     <message>
         <source>%1: is a link to a file that does not exist.</source>
         <translation>%1：是指向不存在的文件的链接。</translation>
+    </message>
+    <message>
+        <source>Says what is different between two item files, or between the modules of one name in two directories: modes, parameters, results and what describes them.
+
+Exit code 1 when projects that were stored with the old version lose something: a module, a mode or a parameter is gone or has another name, an exclusive group has another name or is none any more, a unit is another one and not only spelt otherwise, a choice is gone, only certain values are left to choose, limits are narrower, a parameter counts for fewer values of another one, the kind is one that does not read all that the old one allowed, or several values are no longer allowed. These lines begin with &quot;!&quot;. Exit code 0 when there are other differences only, or none.</source>
+        <translation>说明两个模块项文件之间，或两个目录中同名模块之间的差异：模式、参数、结果及其描述。
+
+如果以旧版本保存的项目会丢失内容，则退出码为 1：模块、模式或参数已删除或改名，互斥组改名或不再互斥，单位改变（而不仅是写法不同），可选值减少，改为只能取某些值，上下限变窄，参数只在另一参数取更少的值时才起作用，新种类不能读取旧种类允许的所有值，或不再允许多个值。这些行以“!”开头。只有其他差异或没有差异时，退出码为 0。</translation>
     </message>
 </context>
 </TS>

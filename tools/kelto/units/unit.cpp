@@ -95,7 +95,7 @@ QString normalised(const QString &text)
     result.replace(QStringLiteral("**"), QStringLiteral("^"));
     if (result.startsWith(QLatin1Char('[')) && result.endsWith(QLatin1Char(']')))
         result = result.mid(1, result.size() - 2).trimmed();
-    return withoutHabits(result);
+    return result;
 }
 
 bool isLetterOfSymbol(QChar character)
@@ -104,6 +104,11 @@ bool isLetterOfSymbol(QChar character)
 }
 
 MaybeUnit unitOfMeaning(const QString &meaning);
+
+MaybeUnit symbolItself(const QString &symbol)
+{
+    return Unit { 1, { { symbol, 1 } } };
+}
 
 /// The unit of a symbol, alone or with a prefix.
 MaybeUnit symbolUnit(const QString &symbol)
@@ -132,8 +137,11 @@ MaybeUnit symbolUnit(const QString &symbol)
 class UnitReader
 {
 public:
-    explicit UnitReader(const QString &text)
+    enum Symbols { Defined, Kept };
+
+    explicit UnitReader(const QString &text, Symbols symbols = Defined)
         : m_text(text)
+        , m_symbols(symbols)
     {
     }
 
@@ -249,13 +257,17 @@ private:
             const bool isPartOfLonger = end < m_text.size() && (m_text.at(end).isLetterOrNumber());
             if (m_text.midRef(m_at).startsWith(spelling.text) && !isPartOfLonger) {
                 m_at = end;
-                return unitOfMeaning(spelling.meaning);
+                return m_symbols == Kept ? symbolItself(spelling.text)
+                                         : unitOfMeaning(spelling.meaning);
             }
         }
         const int begin = m_at;
         while (!isAtEnd() && isLetterOfSymbol(next()))
             ++m_at;
-        return m_at > begin ? symbolUnit(m_text.mid(begin, m_at - begin)) : std::nullopt;
+        const QString symbol = m_text.mid(begin, m_at - begin);
+        if (symbol.isEmpty())
+            return std::nullopt;
+        return m_symbols == Kept ? symbolItself(symbol) : symbolUnit(symbol);
     }
 
     /// 1 without an exponent. Behind a symbol it may stand without a "^".
@@ -280,6 +292,7 @@ private:
     }
 
     const QString m_text;
+    const Symbols m_symbols;
     int m_at = 0;
 };
 
@@ -288,12 +301,13 @@ MaybeUnit unitOfMeaning(const QString &meaning)
     return UnitReader(meaning).readAll();
 }
 
-MaybeUnit readUnit(const QString &text)
+MaybeUnit readUnit(const QString &text, UnitReader::Symbols symbols)
 {
     const QString plain = normalised(text);
     if (isNoUnit(text.trimmed()) || isNoUnit(plain))
         return Unit();
-    MaybeUnit unit = UnitReader(plain).readAll();
+    const bool areKept = symbols == UnitReader::Kept;
+    MaybeUnit unit = UnitReader(areKept ? plain : withoutHabits(plain), symbols).readAll();
     if (!unit || !std::isfinite(unit->factor) || unit->factor <= 0)
         return std::nullopt;
     for (auto base = unit->dimension.begin(); base != unit->dimension.end();)
@@ -319,5 +333,18 @@ std::optional<Unit> unitOf(const QString &text)
     const auto found = known.constFind(text);
     if (found != known.constEnd())
         return found.value();
-    return known.insert(text, areUnitsKnown() ? readUnit(text) : std::nullopt).value();
+    return known.insert(text, areUnitsKnown() ? readUnit(text, UnitReader::Defined) : std::nullopt)
+        .value();
+}
+
+bool isSameUnit(const QString &text, const QString &other)
+{
+    if (text == other)
+        return true;
+    if (qMax(text.size(), other.size()) > mostCharacters)
+        return false;
+    const MaybeUnit first = readUnit(text, UnitReader::Kept);
+    const MaybeUnit second = readUnit(other, UnitReader::Kept);
+    return first && second && first->dimension == second->dimension
+        && qFuzzyCompare(first->factor, second->factor);
 }

@@ -30,4 +30,8 @@ bool areUnitsKnown();
 /// the number one. Nothing for a text that is no unit. Can be called from several threads.
 std::optional<Unit> unitOf(const QString &text);
 
+/// Whether the texts have the same symbols with the same powers: "m³/h" and "m^3/h", not "°C" and
+/// "K". A number with the one means what it means with the other.
+bool isSameUnit(const QString &text, const QString &other);
+
 #endif
