@@ -33,7 +33,7 @@ test_packages=(
     poppler-utils # reads the report of the example host
     chromium qhelpgenerator-qt5 # read the manual that the command writes
 )
-abi_packages=(abigail-tools) # compares binary interfaces
+abi_packages=(abigail-tools dpkg-dev) # compares binary interfaces, and lists symbols
 package_packages=(
     debhelper dpkg-dev fakeroot
     doxygen qhelpgenerator-qt5 qtbase5-doc-dev # the reference, as a package
