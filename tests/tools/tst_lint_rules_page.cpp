@@ -18,6 +18,8 @@ const char *const introduction
       "here. `--fix` mends what has one right answer. For programs, `--json` writes the findings "
       "in\n"
       "the command's own way, and `--sarif` as SARIF 2.1.0, which code hosts and editors show.\n\n"
+      "One mistake is one finding, at its place: what would be gone with an unclosed quote, a\n"
+      "header without its bracket and the like is not listed beside it.\n\n"
       "The severity below is the one without settings: a file `.kelto-lint.ini` beside the items\n"
       "or above them makes it another one, and `off` switches a rule off.\n\n"
       "```ini\n[Rules]\ncomment=warning\nmode-without-parameters=off\n```\n\n"

@@ -7,6 +7,7 @@
 #include "itempaths.h"
 
 #include <QFile>
+#include <QTemporaryFile>
 
 #include <algorithm>
 #include <iterator>
@@ -42,6 +43,20 @@ ItemFile::ItemFile(const QString &path)
         readKeys();
         m_item.load_ini(path);
     }
+}
+
+ItemFile::ItemFile(const QString &path, const QByteArray &bytes)
+    : m_path(path)
+    , m_bytes(bytes)
+{
+    readLines();
+    readKeys();
+    // Items are read from files only.
+    QTemporaryFile copy;
+    if (copy.open() && copy.write(bytes) == bytes.size() && copy.flush())
+        m_item.load_ini(copy.fileName());
+    else
+        m_error = copy.errorString();
 }
 
 QString ItemFile::whyNoModule() const

@@ -38,6 +38,8 @@ class ItemFile
 public:
     /// Reads the file at @p path. With a non-empty error() there is nothing else.
     explicit ItemFile(const QString &path);
+    /// What the file at @p path would be with these @p bytes.
+    ItemFile(const QString &path, const QByteArray &bytes);
 
     const QString &path() const { return m_path; }
     /// Why the file cannot be read, as a sentence; empty when it could.

@@ -5,8 +5,11 @@
 
 #include "command.h"
 #include "core/iniproblems_p.h"
+#include "lint/brokenlines.h"
 #include "lint/filefindings.h"
 #include "lint/lintitem.h"
+
+#include <QSet>
 
 namespace {
 
@@ -39,11 +42,6 @@ void addProblem(const IniProblem &problem, FileFindings *findings)
         findings->add(rule, problem.position, text);
     };
     switch (problem.kind) {
-    case IniProblem::NoEqualsSign:
-        return add("no-equals-sign", Command::tr("the line has no \"=\" and is ignored"));
-    case IniProblem::BrokenHeader:
-        return add("broken-header",
-                   Command::tr("the header has no \"]\", or text behind it, which is ignored"));
     case IniProblem::EmptySection:
         return add("empty-section", Command::tr("the section has no keys"));
     case IniProblem::UnreadableKey:
@@ -123,9 +121,55 @@ void checkProblems(FileFindings *findings)
     }
 }
 
-/// A "#" line with a key in it is no comment, and a ";" behind a value ends it.
-void checkComments(FileFindings *findings)
+void checkHeader(const IniLine &line, IniPosition position, FileFindings *findings)
 {
+    if (line.value.empty()) {
+        findings->add("broken-header", position, Command::tr("the header has no \"]\""));
+    } else if (line.value.find_last_not_of(" \t") != 0) {
+        findings->add("broken-header", position,
+                      Command::tr("the text behind the header is ignored"));
+    }
+}
+
+/// A line that is ignored as a whole.
+void checkOther(const IniLine &line, IniPosition position, FileFindings *findings)
+{
+    if (line.text.substr(0, 1) == "#" || line.text.substr(0, 3) == "\xef\xbb\xbf")
+        return;
+    const QString section = meantHeader(line.text);
+    if (!section.isEmpty()) {
+        findings->add("broken-header", position,
+                      Command::tr("the \"[\" in front of the header is missing, so that the keys "
+                                  "below do not belong to the section \"%1\"")
+                          .arg(section));
+    } else if (line.text.find_first_of("\r\n") != line.text.npos) {
+        findings->add("no-equals-sign", position,
+                      Command::tr(
+                          "the line has no \"=\" and a quote that is not closed, and all up "
+                          "to line %1 is ignored with it")
+                          .arg(findings->lineOfEnd(line.text)));
+    } else {
+        findings->add("no-equals-sign", position,
+                      Command::tr("the line has no \"=\" and is ignored"));
+    }
+}
+
+QSet<const char *> endsOfLists(const LintItem &item)
+{
+    QSet<const char *> ends;
+    for (const LintKey &key : item.keys()) {
+        if (key.value == ItemValue::List || key.value == ItemValue::Units) {
+            const std::string_view value = rawValueOf(item.file(), *key.key);
+            ends.insert(value.data() + value.size());
+        }
+    }
+    return ends;
+}
+
+/// A "#" line with a key in it is no comment, and a ";" behind a value ends it.
+void checkLines(const LintItem &item, FileFindings *findings)
+{
+    const QSet<const char *> ends = endsOfLists(item);
     IniReader reader(findings->file().bytes());
     IniLine before;
     int lineBefore = 0;
@@ -134,15 +178,22 @@ void checkComments(FileFindings *findings)
         const char *const start = line.text.data();
         const IniPosition position = reader.positionAt(start);
         const bool isHash = *start == '#';
+        if (line.kind == IniLine::Section)
+            checkHeader(line, position, findings);
+        else if (line.kind == IniLine::Other)
+            checkOther(line, position, findings);
         if (isHash && line.kind == IniLine::Entry) {
             findings->add("hash-key", position,
                           Command::tr("\"#\" begins no comment here: the line is a key; a "
                                       "comment begins with \";\""));
         } else if (line.kind == IniLine::Comment && before.kind == IniLine::Entry
                    && position.line == lineBefore) {
-            findings->add("cut-text", position,
-                          Command::tr("the text ends at the \";\"; put quotes around it, or put "
-                                      "the comment on a line of its own"));
+            findings->add(
+                "cut-text", position,
+                ends.contains(start)
+                    ? Command::tr("the list ends at the \";\"; a comma divides its elements")
+                    : Command::tr("the text ends at the \";\"; put quotes around it, or put "
+                                  "the comment on a line of its own"));
         } else if ((isHash || line.kind == IniLine::Comment)
                    && !(before.kind == IniLine::Other && position.line == lineBefore)) {
             findings->add("comment", position,
@@ -157,7 +208,7 @@ void check(const LintItem &item, Findings *findings)
 {
     FileFindings added(item.file(), findings);
     checkProblems(&added);
-    checkComments(&added);
+    checkLines(item, &added);
 }
 
 } // namespace
@@ -197,7 +248,7 @@ RuleArea damageRules()
               QT_TRANSLATE_NOOP("Command", "A header of a section is not whole"),
               QT_TRANSLATE_NOOP("Command",
                                 "A header is a name in brackets and nothing else. Text behind it "
-                                "is ignored."),
+                                "is ignored, and so is a header without the first bracket."),
               "[KeltoItem] name=Beam\nname=Beam\n", "[KeltoItem]\nname=Beam\n" },
             { "empty-section", Severity::Off, QT_TRANSLATE_NOOP("Command", "A section has no keys"),
               QT_TRANSLATE_NOOP("Command",

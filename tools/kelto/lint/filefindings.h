@@ -39,6 +39,13 @@ public:
         return { begin, begin + static_cast<int>(spelt.size()), text };
     }
 
+    /// The line in which @p text, a part of the bytes of the file, ends.
+    int lineOfEnd(std::string_view text) const
+    {
+        const char *const end = text.data() + text.size();
+        return m_file.positionAt(text.empty() ? end : end - 1).line;
+    }
+
     int offsetOf(const char *place) const
     {
         return static_cast<int>(place - m_file.bytes().constData());

@@ -126,7 +126,9 @@ public:
             ? Command::tr("there is no parameter \"%1\".")
             : Command::tr("there is neither a parameter nor a result \"%1\".");
         const NearestNames &candidates = isForParameters ? m_parameters : m_all;
-        const QString nearest = didYouMean(candidates.nearest(name));
+        const QString meant = candidates.nearest(name);
+        // A key with a "#" was to be a comment.
+        const QString nearest = meant.startsWith(QLatin1Char('#')) ? QString() : didYouMean(meant);
         findings->add("undeclared-key", key.key->position,
                       nearest.isEmpty() ? text.arg(name).chopped(1) : text.arg(name) + nearest);
     }

@@ -5,6 +5,7 @@
 
 #include "command.h"
 #include "console.h"
+#include "lint/followers.h"
 #include "lint/lintconfig.h"
 #include "lint/lintitem.h"
 
@@ -26,8 +27,25 @@ struct CheckedFile
     Findings findings;
 };
 
+void removeSwitchedOff(const LintConfig &config, Findings *findings)
+{
+    const auto isOff = [&config](const Finding &finding) {
+        return config.severity(finding.path, finding.rule) == Severity::Off;
+    };
+    findings->erase(std::remove_if(findings->begin(), findings->end(), isOff), findings->end());
+}
+
+/// What follows from something that is switched off is found.
+Findings configuredFindingsIn(const ItemFile &file, const LintConfig &config)
+{
+    Findings findings = everyFindingIn(file);
+    removeSwitchedOff(config, &findings);
+    return withoutFollowers(file, findings);
+}
+
 /// Each in its place, whatever the order in which the threads come to them.
-std::vector<CheckedFile> checkedFiles(const QStringList &paths, Console &console)
+std::vector<CheckedFile> checkedFiles(const QStringList &paths, const LintConfig &config,
+                                      Console &console)
 {
     std::vector<CheckedFile> checked(static_cast<std::size_t>(paths.size()));
     std::atomic<int> next { 0 };
@@ -38,7 +56,7 @@ std::vector<CheckedFile> checkedFiles(const QStringList &paths, Console &console
                 CheckedFile &each = checked[static_cast<std::size_t>(position)];
                 each.file = std::make_unique<ItemFile>(paths.at(position));
                 if (each.file->error().isEmpty())
-                    each.findings = findingsIn(*each.file);
+                    each.findings = configuredFindingsIn(*each.file, config);
             }
         });
     }
@@ -64,7 +82,7 @@ bool standsBefore(const Finding &a, const Finding &b)
 
 } // namespace
 
-Findings findingsIn(const ItemFile &file)
+Findings everyFindingIn(const ItemFile &file)
 {
     if (isUtf16(file)) {
         return { { QStringLiteral("not-utf8"),
@@ -83,6 +101,11 @@ Findings findingsIn(const ItemFile &file)
     return findings;
 }
 
+Findings findingsIn(const ItemFile &file)
+{
+    return withoutFollowers(file, everyFindingIn(file));
+}
+
 Findings findingsAmong(const QVector<ItemFile> &files)
 {
     Findings findings;
@@ -97,7 +120,7 @@ LintResult lint(const QStringList &paths, const LintConfig &config, Console &con
 {
     LintResult result;
     QVector<ItemFile> others; // What is wrong with them is known.
-    for (CheckedFile &checked : checkedFiles(paths, console)) {
+    for (CheckedFile &checked : checkedFiles(paths, config, console)) {
         if (!checked.file->error().isEmpty()) {
             result.unreadable.append(checked.file->error());
             continue;
@@ -107,11 +130,7 @@ LintResult lint(const QStringList &paths, const LintConfig &config, Console &con
     }
     result.findings += findingsAmong(result.files);
     result.files += others;
-    const auto isOff = [&config](const Finding &finding) {
-        return config.severity(finding.path, finding.rule) == Severity::Off;
-    };
-    Findings &findings = result.findings;
-    findings.erase(std::remove_if(findings.begin(), findings.end(), isOff), findings.end());
-    std::stable_sort(findings.begin(), findings.end(), standsBefore);
+    removeSwitchedOff(config, &result.findings);
+    std::stable_sort(result.findings.begin(), result.findings.end(), standsBefore);
     return result;
 }

@@ -13,6 +13,9 @@ class Console;
 class LintConfig;
 
 /// What all rules find in one file, whatever is configured, from front to back.
+Findings everyFindingIn(const ItemFile &file);
+
+/// The same without what only follows from something else that is found.
 Findings findingsIn(const ItemFile &file);
 
 /// What the rules that look at several files find in @p files.

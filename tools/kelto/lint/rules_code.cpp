@@ -73,11 +73,12 @@ public:
         return index < m_spelt.size() ? m_file.positionAt(m_spelt.at(index).text.data())
                                       : key.valuePosition;
     }
-    /// Whether it has escapes that are a finding.
-    bool hasEscapes(const ItemFileKey &key)
+    /// Whether it has escapes or line breaks that are a finding.
+    bool hasUnmeantCharacters(const ItemFileKey &key)
     {
         read(key);
-        return !m_spelt.escapes.isEmpty() && !m_saved.hasEscapesOf(key);
+        return !m_spelt.longQuotes.isEmpty()
+            || (!m_spelt.escapes.isEmpty() && !m_saved.hasEscapesOf(key));
     }
 
 private:
@@ -114,7 +115,7 @@ bool isConsequence(const Problem &problem, const LintItem &item, ElementPlaces *
         return key->value.size() > 1;
     const bool isEscape
         = problem.reason == Problem::LineBreak || problem.reason == Problem::ControlCharacter;
-    return isEscape && places->hasEscapes(*key);
+    return isEscape && places->hasUnmeantCharacters(*key);
 }
 
 IniPosition placeOf(const Problem &problem, const ItemFile &file, ElementPlaces *places)

@@ -5,10 +5,8 @@
 
 #include "command.h"
 #include "lint/examples.h"
-#include "lint/filefindings.h"
-#include "lint/lintitem.h"
 #include "lint/othercommas.h"
-#include "lint/speltvalue.h"
+#include "lint/rules_places.h"
 #include "nearestname.h"
 
 #include <QSet>
@@ -62,15 +60,6 @@ public:
     }
 
 private:
-    IniPosition headerPosition(const QString &name) const
-    {
-        for (const ItemFileSection &section : m_findings->file().sections()) {
-            if (section.name == name)
-                return section.position;
-        }
-        return {};
-    }
-
     /// A line behind that of @p key.
     TextEdit lineBehind(const ItemFileKey &key, const QByteArray &text) const
     {
@@ -88,7 +77,8 @@ private:
     {
         const ItemFileKey *const name = m_item.field("name");
         if (!name) {
-            m_findings->add("missing-name", headerPosition(QStringLiteral("KeltoItem")),
+            m_findings->add("missing-name",
+                            sectionPosition(m_findings->file(), QStringLiteral("KeltoItem")),
                             Command::tr("the item has no name: [KeltoItem] has no key \"name\""));
         } else if (LintItem::elements(name).isEmpty()) {
             m_findings->add("missing-name", name->valuePosition,
@@ -244,7 +234,9 @@ private:
     {
         const SpeltValue spelt = speltValueOf(rawValueOf(m_findings->file(), key));
         for (const int i : unknown) {
-            const QString nearest = didYouMean(m_nearestModes.nearest(modes.at(i)));
+            const QString meant = m_nearestModes.nearest(modes.at(i));
+            // White space at the ends of a name is a mistake itself.
+            const QString nearest = meant == meant.trimmed() ? didYouMean(meant) : QString();
             const QString text = Command::tr("there is no mode \"%1\".").arg(modes.at(i));
             const std::string_view place = spelt.at(qMin(i, spelt.size() - 1)).text;
             m_findings->add("unknown-mode", place.data(),
@@ -270,11 +262,19 @@ private:
             return;
         if (m_modes.isEmpty())
             return;
-        const SpeltValue spelt
-            = speltValueOf(rawValueOf(m_findings->file(), *m_item.field("inner_mode_nameList")));
+        QVector<int> unused;
         for (int i = 0; i < m_modes.size(); ++i) {
-            if (m_used.contains(m_modes.at(i)))
-                continue;
+            if (!m_used.contains(m_modes.at(i)))
+                unused.append(i);
+        }
+        // Parts of names with a comma, which the count tells.
+        const ItemFileKey *const count = m_item.field("inner_mode_count");
+        const int meant = count ? count->value.constFirst().toInt() : 0;
+        if (meant > 0 && unused.size() <= m_modes.size() - meant)
+            return;
+        const ItemFileKey &names = *m_item.field("inner_mode_nameList");
+        const SpeltValue spelt = speltValueOf(rawValueOf(m_findings->file(), names));
+        for (const int i : unused) {
             m_findings->add("mode-without-parameters",
                             spelt.at(qMin(i, spelt.size() - 1)).text.data(),
                             Command::tr("no parameter belongs to the mode \"%1\", and values for "

@@ -91,8 +91,9 @@ private:
         }
         for (const char *const place : qAsConst(m_spelt.longQuotes)) {
             m_findings->add("quote-across-lines", place,
-                            Command::tr("the quote is not closed on this line, and the next lines "
-                                        "are read as a part of this value"));
+                            Command::tr("the quote is not closed on this line, and all up to "
+                                        "line %1 is read as a part of this value")
+                                .arg(m_findings->lineOfEnd(m_key.speltValue)));
         }
     }
 
@@ -145,7 +146,7 @@ private:
             m_findings->add("typed-value", element.text.data(),
                             Command::tr("the text is read as a value of another type; write "
                                         "\"@@\" for \"@\" where a text is meant"));
-        } else if (text.trimmed() != text) {
+        } else if (text.trimmed() != text && m_spelt.longQuotes.isEmpty()) {
             m_findings->add("white-space-at-ends", element.text.data(),
                             Command::tr("the text begins or ends with white space"));
         }

@@ -857,10 +857,6 @@ A file that cannot be formatted without changing what is read, for example with 
         <translation>该行没有“=”，会被忽略</translation>
     </message>
     <message>
-        <source>the header has no &quot;]&quot;, or text behind it, which is ignored</source>
-        <translation>节标题没有“]”，或其后有文本，该文本会被忽略</translation>
-    </message>
-    <message>
         <source>the section has no keys</source>
         <translation>该节没有键</translation>
     </message>
@@ -931,10 +927,6 @@ A file that cannot be formatted without changing what is read, for example with 
     <message>
         <source>A header of a section is not whole</source>
         <translation>节标题不完整</translation>
-    </message>
-    <message>
-        <source>A header is a name in brackets and nothing else. Text behind it is ignored.</source>
-        <translation>节标题是方括号中的名称，此外没有其他内容。其后的文本会被忽略。</translation>
     </message>
     <message>
         <source>A section has no keys</source>
@@ -1561,10 +1553,6 @@ A file that cannot be formatted without changing what is read, for example with 
         <translation>行末的反斜杠使下一行成为此值的一部分</translation>
     </message>
     <message>
-        <source>the quote is not closed on this line, and the next lines are read as a part of this value</source>
-        <translation>引号没有在本行结束，后面的行读作此值的一部分</translation>
-    </message>
-    <message>
         <source>the comma makes a list of the text, which is then not read as a text; put quotes around it</source>
         <translation>逗号使文本成为列表，因而不再读作文本；请在文本两端加引号</translation>
     </message>
@@ -2135,6 +2123,38 @@ Exit code 1 when projects that were stored with the old version lose something: 
         <translation>说明两个模块项文件之间，或两个目录中同名模块之间的差异：模式、参数、结果及其描述。
 
 如果以旧版本保存的项目会丢失内容，则退出码为 1：模块、模式或参数已删除或改名，互斥组改名或不再互斥，单位改变（而不仅是写法不同），可选值减少，改为只能取某些值，上下限变窄，参数只在另一参数取更少的值时才起作用，新种类不能读取旧种类允许的所有值，或不再允许多个值。这些行以“!”开头。只有其他差异或没有差异时，退出码为 0。</translation>
+    </message>
+    <message>
+        <source>the header has no &quot;]&quot;</source>
+        <translation>节标题没有“]”</translation>
+    </message>
+    <message>
+        <source>the text behind the header is ignored</source>
+        <translation>节标题之后的文本会被忽略</translation>
+    </message>
+    <message>
+        <source>the &quot;[&quot; in front of the header is missing, so that the keys below do not belong to the section &quot;%1&quot;</source>
+        <translation>节标题前缺少“[”，因此下面的键不属于节“%1”</translation>
+    </message>
+    <message>
+        <source>the line has no &quot;=&quot; and a quote that is not closed, and all up to line %1 is ignored with it</source>
+        <translation>该行没有“=”，且有未结束的引号，直到第 %1 行的所有内容都会随之被忽略</translation>
+    </message>
+    <message>
+        <source>the list ends at the &quot;;&quot;; a comma divides its elements</source>
+        <translation>列表在“;”处结束；元素之间用逗号分隔</translation>
+    </message>
+    <message>
+        <source>A header is a name in brackets and nothing else. Text behind it is ignored, and so is a header without the first bracket.</source>
+        <translation>节标题是方括号中的名称，此外没有其他内容。其后的文本会被忽略，缺少前一个方括号的节标题也会被忽略。</translation>
+    </message>
+    <message>
+        <source>the name of the mode begins or ends with white space, and [Belong] names it without</source>
+        <translation>模式的名称以空白开头或结尾，而 [Belong] 中的名称没有空白</translation>
+    </message>
+    <message>
+        <source>the quote is not closed on this line, and all up to line %1 is read as a part of this value</source>
+        <translation>引号没有在本行结束，直到第 %1 行的所有内容都读作此值的一部分</translation>
     </message>
 </context>
 </TS>

@@ -1,0 +1,168 @@
+// SPDX-FileCopyrightText: The Kelto developers
+// SPDX-License-Identifier: MIT
+
+// One cause is one finding, at its place.
+
+#include "lint/linter.h"
+
+#include "console.h"
+#include "lint/lintconfig.h"
+#include "support/directorytest.h"
+#include "support/testfiles.h"
+
+#include <QTest>
+
+class TestKeltoLintFollowers : public DirectoryTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void findsTheCause_data();
+    void findsTheCause();
+    void findsWhatFollowsFromWhatIsSwitchedOff();
+};
+
+namespace {
+
+const char *const cleanItem
+    = "[KeltoItem]\nname=Pump\ntype=calculation\ngroup=Fluids\nexclusive_group=true\n"
+      "inner_mode_count=2\ninner_mode_nameList=Design, Part load\n\n"
+      "[Attribute]\nFlow=\nStatic head=\nSpeed=\n\n"
+      "[Belong]\nFlow=Design\nStatic head=Design\nSpeed=Part load\n\n"
+      "[Unit]\nFlow=m³/h, m³/s\nStatic head=m, m\nSpeed=Hz, Hz\n\n"
+      "[Symbol]\nFlow=Q\nStatic head=H\nSpeed=n\n\n"
+      "[ExtraKey]\nDefault.Flow=5\nMin.Flow=1\nHelp.Flow=\"Volume, not mass\"\nMax.Speed=60\n"
+      "When.Flow=Speed=50\n";
+
+QStringList linesOf(const Findings &findings)
+{
+    QStringList lines;
+    for (const Finding &finding : findings) {
+        if (ruleOf(finding.rule)->severity != Severity::Off) {
+            lines += QString("%1:%2 %3 %4")
+                         .arg(finding.position.line)
+                         .arg(finding.position.column)
+                         .arg(finding.rule, finding.text);
+        }
+    }
+    return lines;
+}
+
+} // namespace
+
+void TestKeltoLintFollowers::findsTheCause_data()
+{
+    QTest::addColumn<QByteArray>("before");
+    QTest::addColumn<QByteArray>("after");
+    QTest::addColumn<QStringList>("lines");
+
+    const auto row
+        = [](const char *name, const char *before, const char *after, const QStringList &lines) {
+              QTest::newRow(name) << QByteArray(before) << QByteArray(after) << lines;
+          };
+    const auto header = [](int line, const char *section) {
+        return QStringList(
+            QString("%1:1 broken-header the \"[\" in front of the header is missing, "
+                    "so that the keys below do not belong to the section \"%2\"")
+                .arg(line)
+                .arg(section));
+    };
+    const QString noEqualsSign = "%1:1 no-equals-sign the line has no \"=\" and is ignored";
+    row("nothing", "", "", {});
+
+    row("a header without its first bracket", "[Symbol]", "Symbol]", header(24, "Symbol"));
+    row("the first header without its first bracket", "[KeltoItem]", "KeltoItem]",
+        header(1, "KeltoItem"));
+    row("a header of parameters without its first bracket", "[Attribute]", "Attribute]",
+        header(9, "Attribute"));
+    row("a header of modes without its first bracket", "[Belong]", "belong]",
+        header(14, "Belong") + QStringList());
+    row("a header without its second bracket", "[Symbol]", "[Symbol",
+        { "24:1 broken-header the header has no \"]\"" });
+    row("text behind a header", "[Symbol]", "[Symbol] of parameters",
+        { "24:1 broken-header the text behind the header is ignored" });
+
+    row("parameters without an equals sign", "Flow=\nStatic head=\nSpeed=\n\n",
+        "Flow\nStatic head \nSpeed=\n\n", { noEqualsSign.arg(10), noEqualsSign.arg(11) });
+    row("a field with a colon", "name=", "name: ", { noEqualsSign.arg(2) });
+    row("modes of a parameter behind a blank", "Static head=Design", "Static head Design",
+        { noEqualsSign.arg(16) });
+
+    row("a quote that is not closed", "group=", "description=\"Pumps, radial\ngroup=",
+        { "4:13 quote-across-lines the quote is not closed on this line, and all up to line 35 is "
+          "read as a part of this value" });
+    row("a quote that is not closed in the last line", "When.Flow=Speed=50", "Help.Speed=\"Speed",
+        { "34:12 quote-across-lines the quote is not closed on this line, and all up to line 34 is "
+          "read as a part of this value" });
+    row("a quote in a line without an equals sign", "Static head=\nSpeed=", "Static \"head\nSpeed=",
+        { "11:1 no-equals-sign the line has no \"=\" and a quote that is not closed, and all up to "
+          "line 34 is ignored with it" });
+    row("a backslash at the end of a line", "name=", "icon=img\\\nname=",
+        { "2:9 joined-lines the backslash at the end of the line makes the next line a part of "
+          "this value" });
+
+    row("semicolons between modes", "Design, Part load", "Design; Part load",
+        { "7:27 cut-text the list ends at the \";\"; a comma divides its elements" });
+    row("a comma in the name of a mode", "=Design, Part load", "=Design, at 20 °C, Part load",
+        { "6:18 mode-count \"inner_mode_count\" is 2, and \"inner_mode_nameList\" has 3; a name "
+          "with a comma needs quotes" });
+    row("a blank at the end of a mode", "Design, Part load", "\"Design \", Part load",
+        { "7:21 unknown-mode the name of the mode begins or ends with white space, and [Belong] "
+          "names it without" });
+    row("a line that was to be a comment", "name=", "# name=Beam\nname=",
+        { "2:1 hash-key \"#\" begins no comment here: the line is a key; a comment begins with "
+          "\";\"" });
+
+    // What is wrong beside it.
+    row("a misspelt mode beside a header without its bracket",
+        "Part load\n\n[Unit]\nFlow=m³/h, m³/s\nStatic head=m, m\nSpeed=Hz, Hz\n\n[Symbol]",
+        "Prt load\n\n[Unit]\nSymbol]",
+        QStringList("17:7 unknown-mode there is no mode \"Prt load\". Did you mean \"Part load\"?")
+            + header(20, "Symbol"));
+    row("two quotes that are not closed", "Flow=Q\nStatic head=H", "Flow=\"Q\nStatic head=\"H",
+        { "25:6 quote-across-lines the quote is not closed on this line, and all up to line 26 is "
+          "read as a part of this value",
+          "26:14 stray-quote the quote is not around the whole text and is dropped; put quotes "
+          "around all of it and write the ones inside as \\\"" });
+    row("a text that is meant to have two lines",
+        "group=", "description=\"Pumps,\nradial and axial\"\ngroup=",
+        { "4:13 quote-across-lines the quote is not closed on this line, and all up to line 5 is "
+          "read as a part of this value" });
+    row("errors beside a line that was to be a comment", "Static head=\n", "# Static head=\n",
+        { "11:1 hash-key \"#\" begins no comment here: the line is a key; a comment begins with "
+          "\";\"",
+          "16:1 undeclared-key there is no parameter \"Static head\"",
+          "21:1 undeclared-key there is neither a parameter nor a result \"Static head\"",
+          "26:1 undeclared-key there is neither a parameter nor a result \"Static head\"" });
+}
+
+void TestKeltoLintFollowers::findsTheCause()
+{
+    QFETCH(QByteArray, before);
+    QFETCH(QByteArray, after);
+    QFETCH(QStringList, lines);
+
+    QByteArray bytes(cleanItem);
+    QVERIFY(bytes.contains(before));
+    const int place = bytes.indexOf(before);
+    writeFile("first.ini", bytes.replace(place, before.size(), after));
+    QCOMPARE(linesOf(findingsIn(ItemFile("first.ini"))), lines);
+}
+
+void TestKeltoLintFollowers::findsWhatFollowsFromWhatIsSwitchedOff()
+{
+    writeFile("first.ini", QByteArray(cleanItem).replace("Speed=\n", "Speed\n"));
+    writeFile(".kelto-lint.ini", "[Rules]\nno-equals-sign=off\n");
+    const QStringList paths { "first.ini" };
+    Console console;
+    QCOMPARE(linesOf(lint(paths, LintConfig(paths), console).findings),
+             QStringList({ "7:29 mode-without-parameters no parameter belongs to the mode \"Part "
+                           "load\", and values for it are never complete",
+                           "17:1 undeclared-key there is no parameter \"Speed\"",
+                           "33:1 bad-hint Max.Speed: there is no parameter or result \"Speed\"",
+                           "34:1 bad-hint When.Flow: there is no parameter \"Speed\"" }));
+}
+
+QTEST_GUILESS_MAIN(TestKeltoLintFollowers)
+
+#include "tst_kelto_lint_followers.moc"

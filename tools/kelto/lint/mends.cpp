@@ -1,0 +1,190 @@
+// SPDX-FileCopyrightText: The Kelto developers
+// SPDX-License-Identifier: MIT
+
+#include "lint/mends.h"
+
+#include "lint/brokenlines.h"
+#include "lint/speltvalue.h"
+
+#include <algorithm>
+
+namespace {
+
+class MendSearch
+{
+public:
+    MendSearch(const LintItem &item, const Findings &findings)
+        : m_item(item)
+        , m_file(item.file())
+    {
+        for (const Finding &finding : findings)
+            m_findings.insert(keyOf(finding.rule, finding.position));
+        for (const char *section : { "Attribute", "Result" }) {
+            const QStringList names = item.namesIn(QLatin1String(section));
+            m_declared += QSet<QString>(names.cbegin(), names.cend());
+        }
+    }
+
+    QVector<Mend> mends()
+    {
+        for (const LintKey &key : m_item.keys())
+            mendValue(key);
+        mendLines();
+        mendModeNames();
+        const auto standsBefore
+            = [](const Mend &a, const Mend &b) { return a.edit.begin < b.edit.begin; };
+        std::sort(m_mends.begin(), m_mends.end(), standsBefore);
+        std::sort(m_quotes.begin(), m_quotes.end(), standsBefore);
+        return m_quotes.isEmpty() ? m_mends : m_quotes.mid(0, 1);
+    }
+
+private:
+    bool isFound(const char *rule, IniPosition position) const
+    {
+        return m_findings.contains(keyOf(QLatin1String(rule), position));
+    }
+
+    /// Replaces @p length bytes at @p place if the damage is a finding.
+    void add(QVector<Mend> *mends, const char *rule, IniPosition cause, const char *place,
+             int length, const char *text)
+    {
+        const int begin = static_cast<int>(place - m_file.bytes().constData());
+        if (isFound(rule, cause))
+            mends->append({ QLatin1String(rule), cause, { begin, begin + length, text } });
+    }
+
+    const char *lineEndBehind(const char *place) const
+    {
+        return std::find_if(place, m_file.bytes().cend(), isLineEnd);
+    }
+
+    void mendValue(const LintKey &key)
+    {
+        const ItemFileKey &spelt = *key.key;
+        if (spelt.spelt.substr(0, 1) == "#")
+            add(&m_mends, "hash-key", spelt.position, spelt.spelt.data(), 1, ";");
+        const std::string_view raw = rawValueOf(m_file, spelt);
+        const char *const end = raw.data() + raw.size();
+        const bool isList = key.value == ItemValue::List || key.value == ItemValue::Units;
+        if (isList && end < m_file.bytes().cend() && *end == ';')
+            add(&m_mends, "cut-text", m_file.positionAt(end), end, 1, ",");
+        if (raw.find_first_of("\r\n") == raw.npos)
+            return;
+        const SpeltValue value = speltValueOf(raw);
+        for (const char *const joint : value.joints)
+            add(&m_mends, "joined-lines", m_file.positionAt(joint), joint, 0, "\\");
+        if (!value.longQuotes.isEmpty()) {
+            const char *const quote = value.longQuotes.constFirst();
+            add(&m_quotes, "quote-across-lines", m_file.positionAt(quote), lineEndBehind(quote), 0,
+                "\"");
+        }
+    }
+
+    void mendLines()
+    {
+        IniReader reader(m_file.bytes());
+        int sections = 0;
+        while (reader.next()) {
+            const IniLine &line = reader.line();
+            sections += line.kind == IniLine::Section ? 1 : 0;
+            if (line.kind == IniLine::Other) {
+                mendLine(line.text, reader.positionAt(line.text.data()),
+                         sections > 0 ? m_file.sections().at(sections - 1).name : QString());
+            }
+        }
+    }
+
+    void mendLine(std::string_view line, IniPosition position, const QString &section)
+    {
+        const std::size_t quote = line.find('"');
+        if (quote != line.npos) {
+            const char *const place = lineEndBehind(line.data() + quote);
+            if (place < line.data() + line.size())
+                add(&m_quotes, "no-equals-sign", position, place, 0, "\"");
+        } else if (!meantHeader(line).isEmpty()) {
+            add(&m_mends, "broken-header", position, line.data(), 0, "[");
+        } else if (section == QLatin1String("Attribute") || section == QLatin1String("Result")) {
+            const char *const end = line.data() + line.find_last_not_of(" \t") + 1;
+            add(&m_mends, "no-equals-sign", position, end, 0, "=");
+        } else {
+            mendSeparator(line, position, section);
+        }
+    }
+
+    /// Behind a key, a blank or a colon most likely stands for the "=".
+    void mendSeparator(std::string_view line, IniPosition position, const QString &section)
+    {
+        const bool isField = section == knownSections().constFirst();
+        for (std::size_t at = line.find_first_of(" \t:"); at != line.npos;
+             at = line.find_first_of(" \t:", at + 1)) {
+            const QString name = SettingsKey { {}, line.substr(0, at) }.text();
+            if (isField ? knownFields().contains(name) : m_declared.contains(name))
+                return add(&m_mends, "no-equals-sign", position, line.data() + at, 1, "=");
+        }
+    }
+
+    /// White space around the name of a mode matters where parameters name it without.
+    void mendModeNames()
+    {
+        const ItemFileKey *const list = m_item.field("inner_mode_nameList");
+        const QStringList modes = LintItem::elements(list);
+        const auto isSpaced = [](const QString &mode) { return mode != mode.trimmed(); };
+        if (std::none_of(modes.cbegin(), modes.cend(), isSpaced))
+            return;
+        const SpeltValue spelt = speltValueOf(rawValueOf(m_file, *list));
+        const QSet<QString> named = namedModes();
+        for (int i = 0; i < qMin(modes.size(), spelt.size()); ++i) {
+            const QString name = modes.at(i).trimmed();
+            const std::string_view text = spelt.at(i).text;
+            if (isSpaced(modes.at(i)) && named.contains(name) && !modes.contains(name))
+                mendModeName(text);
+        }
+    }
+
+    void mendModeName(std::string_view text)
+    {
+        const IniPosition cause = m_file.positionAt(text.data());
+        const std::size_t first = text.find_first_not_of(" \"");
+        const std::size_t last = text.find_last_not_of(" \"");
+        for (std::size_t at = text.find(' '); at != text.npos; at = text.find(' ', at + 1)) {
+            if (at < first || at > last)
+                add(&m_mends, "white-space-at-ends", cause, text.data() + at, 1, "");
+        }
+    }
+
+    QSet<QString> namedModes() const
+    {
+        QSet<QString> names;
+        for (const LintKey &key : m_item.keys()) {
+            if (key.section == QLatin1String("Belong"))
+                names += QSet<QString>(key.key->value.cbegin(), key.key->value.cend());
+        }
+        return names;
+    }
+
+    const LintItem &m_item;
+    const ItemFile &m_file;
+    QSet<FindingKey> m_findings;
+    QSet<QString> m_declared;
+    QVector<Mend> m_mends;
+    QVector<Mend> m_quotes;
+};
+
+} // namespace
+
+QVector<Mend> mendsFor(const LintItem &item, const Findings &findings)
+{
+    static const QStringList rules {
+        QStringLiteral("broken-header"),
+        QStringLiteral("cut-text"),
+        QStringLiteral("hash-key"),
+        QStringLiteral("joined-lines"),
+        QStringLiteral("no-equals-sign"),
+        QStringLiteral("quote-across-lines"),
+        QStringLiteral("white-space-at-ends"),
+    };
+    const bool isAny = std::any_of(findings.cbegin(), findings.cend(), [](const Finding &finding) {
+        return rules.contains(finding.rule);
+    });
+    return isAny ? MendSearch(item, findings).mends() : QVector<Mend>();
+}
