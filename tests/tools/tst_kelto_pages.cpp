@@ -8,6 +8,7 @@
 #include "support/testfiles.h"
 
 #include <QProcess>
+#include <QRegularExpression>
 #include <QTest>
 
 class TestKeltoPages : public DirectoryTest
@@ -18,6 +19,7 @@ private Q_SLOTS:
     void namesEachCommandOnce();
     void formats_data();
     void formats();
+    void keepsLinesOfExamples();
     void completes_data();
     void completes();
 };
@@ -77,14 +79,28 @@ void TestKeltoPages::formats()
 {
     QFETCH(QString, page);
     QFETCH(QStringList, texts);
+    const QString path = QString("%1/man1/%2.1").arg(pages, page);
+    const QString source = fileContent(path);
+    const QString title = source.section('\n', 0, 0);
+    static const QRegularExpression date("\" 1 \"20\\d\\d-[01]\\d-[0-3]\\d\" \"Kelto \\d");
+    QVERIFY2(title.contains(date), qPrintable(title));
+    // Text is filled, so that it fits every terminal.
+    QVERIFY(!source.contains("\n.br"));
     QByteArray warnings;
-    const QString text = formatted(QString("%1/man1/%2.1").arg(pages, page), &warnings);
+    const QString text = formatted(path, &warnings);
     QCOMPARE(warnings, QByteArray());
     for (const QString &wanted : texts) {
         // Lines are filled, and words divided nowhere else.
         const QString lines = text.simplified();
         QVERIFY2(lines.contains(wanted.simplified()), qPrintable(wanted + '\n' + text));
     }
+}
+
+void TestKeltoPages::keepsLinesOfExamples()
+{
+    QByteArray warnings;
+    const QString text = formatted(QString("%1/man1/kelto-lint.1").arg(pages), &warnings);
+    QVERIFY2(text.contains("  [Rules]\n         comment=warning\n"), qPrintable(text));
 }
 
 void TestKeltoPages::completes_data()

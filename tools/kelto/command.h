@@ -43,7 +43,9 @@ struct Command
     int leastArguments;
     int mostArguments; ///< -1 without a limit.
     const char *summary; ///< A line, without a full stop.
-    const char *description; ///< Sentences; an empty line divides paragraphs.
+    /// Sentences; an empty line divides paragraphs. Lines that begin with a space are shown as they
+    /// are, all others filled.
+    const char *description;
     QVector<CommandOption> options;
     QVector<CommandExample> examples;
     ExitCode (*run)(const QCommandLineParser &line, Console &console);

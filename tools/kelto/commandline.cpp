@@ -6,6 +6,7 @@
 #include "commands.h"
 #include "console.h"
 #include "nearestname.h"
+#include "terminaltext.h"
 
 #include <QCommandLineParser>
 
@@ -13,16 +14,16 @@
 
 namespace {
 
-/// Two columns, of which the second is not wrapped: terminals do that.
+/// Two columns.
 QString table(const QVector<QPair<QString, QString>> &rows)
 {
     int width = 0;
-    for (const auto &row : rows)
-        width = qMax(width, row.first.size());
-    QString text;
-    for (const auto &row : rows)
-        text += QStringLiteral("  %1  %2\n").arg(row.first.leftJustified(width), row.second);
-    return text;
+    QVector<QStringList> cells;
+    for (const auto &row : rows) {
+        cells.append({ QStringLiteral("  ") + row.first, row.second });
+        width = qMax(width, columnsOf(cells.constLast().constFirst()));
+    }
+    return textTable(cells, { width, terminalWidth - width - 2 });
 }
 
 QString spelt(const CommandOption &option)
@@ -42,25 +43,39 @@ QString overview()
     return QStringLiteral("%1\n  kelto %2\n\n%3\n%4\n%5\n")
         .arg(Command::tr("Usage:"), Command::tr("COMMAND [OPTION...] FILE..."),
              Command::tr("Commands:"), table(rows),
-             Command::tr("\"kelto COMMAND --help\" says what a command takes. Exit codes: "
-                         "0 done, 1 findings or not found, 2 wrong usage."));
+             wrappedText(
+                 Command::tr("\"kelto COMMAND --help\" says what a command takes. Exit codes: "
+                             "0 done, 1 findings or not found, 2 wrong usage.")));
+}
+
+QString examplesOf(const Command &command)
+{
+    QString text;
+    for (const CommandExample &example : command.examples) {
+        text += QStringLiteral("  ") + QLatin1String(example.line) + QLatin1Char('\n');
+        const QStringList lines = wrappedAt(Command::tr(example.purpose), terminalWidth - 6);
+        for (const QString &line : lines)
+            text += QStringLiteral("      ") + line + QLatin1Char('\n');
+    }
+    return text;
 }
 
 QString helpOf(const Command &command)
 {
+    QString text = QStringLiteral("%1\n  kelto %2 [OPTION...] %3\n\n")
+                       .arg(Command::tr("Usage:"), QLatin1String(command.name),
+                            QLatin1String(command.arguments));
+    const QVector<const char *> descriptions = descriptionsOf(command);
+    for (const char *description : descriptions)
+        text += wrappedText(Command::tr(description)) + QLatin1String("\n\n");
     QVector<QPair<QString, QString>> rows;
     const QVector<CommandOption> options = command.options + commonOptions();
     for (const CommandOption &option : options)
         rows.append({ spelt(option), Command::tr(option.description) });
-    QString text = QStringLiteral("%1\n  kelto %2 [OPTION...] %3\n\n%4\n\n%5\n%6")
-                       .arg(Command::tr("Usage:"), QLatin1String(command.name),
-                            QLatin1String(command.arguments), Command::tr(command.description),
-                            Command::tr("Options:"), table(rows));
-    rows.clear();
-    for (const CommandExample &example : command.examples)
-        rows.append({ QLatin1String(example.line), Command::tr(example.purpose) });
-    if (!rows.isEmpty())
-        text += QLatin1Char('\n') + Command::tr("Examples:") + QLatin1Char('\n') + table(rows);
+    text += Command::tr("Options:") + QLatin1Char('\n') + table(rows);
+    if (!command.examples.isEmpty())
+        text += QLatin1Char('\n') + Command::tr("Examples:") + QLatin1Char('\n')
+            + examplesOf(command);
     return text;
 }
 

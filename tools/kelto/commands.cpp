@@ -42,6 +42,17 @@ const QVector<CommandOption> &commonOptions()
     return options;
 }
 
+QVector<const char *> descriptionsOf(const Command &command)
+{
+    QVector<const char *> descriptions { command.description };
+    if (QLatin1String(command.arguments).contains(QLatin1String("PATH")))
+        descriptions.append(QT_TRANSLATE_NOOP(
+            "Command",
+            "A PATH is a file, or a directory that stands for all files below it that end in "
+            "\".ini\", also behind links to directories; hidden ones are left out."));
+    return descriptions;
+}
+
 QString dashed(const QString &name)
 {
     return (name.size() == 1 ? QStringLiteral("-") : QStringLiteral("--")) + name;

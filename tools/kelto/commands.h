@@ -12,6 +12,10 @@ const QVector<Command> &commands();
 /// The options that every command has.
 const QVector<CommandOption> &commonOptions();
 
+/// Paragraphs that say what a command does and, where it takes paths, what these stand for. To be
+/// translated.
+QVector<const char *> descriptionsOf(const Command &command);
+
 /// The name of an option as it is typed: "-h", "--help".
 QString dashed(const QString &name);
 

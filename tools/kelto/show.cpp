@@ -214,8 +214,7 @@ Command showCommand()
                  "Shows what each item file describes: its modes, and its parameters and results "
                  "with their units, limits and choices. A cell of the tables holds the value with "
                  "which a parameter starts in a mode, \"yes\" where it starts with none, and \"-\" "
-                 "where the mode does not have it. A directory stands for all files below it whose "
-                 "names end in \".ini\"."),
+                 "where the mode does not have it."),
              { { { QStringLiteral("mode") },
                  "NAME",
                  QT_TRANSLATE_NOOP("Command", "Show this mode only.") } },

@@ -50,13 +50,16 @@ int columnsOf(uint character)
     }
 }
 
-/// The parts of a text between which a line may end.
+/// The parts of a text between which a line may end, which is not behind a "-": options begin with
+/// it.
 QStringList partsOf(const QString &text)
 {
     QTextBoundaryFinder finder(QTextBoundaryFinder::Line, text);
     QStringList parts;
     int begin = 0;
     for (int end = finder.toNextBoundary(); end >= 0; end = finder.toNextBoundary()) {
+        if (text.at(end - 1) == QLatin1Char('-') && end < text.size())
+            continue;
         parts.append(text.mid(begin, end - begin));
         begin = end;
     }
@@ -156,6 +159,19 @@ QStringList wrappedAt(const QString &text, int width)
     }
     line = withoutSpacesBehind(line);
     return line.isEmpty() ? lines : lines << line;
+}
+
+QString wrappedText(const QString &text)
+{
+    QStringList wrapped;
+    const QStringList lines = text.split(QLatin1Char('\n'));
+    for (const QString &line : lines) {
+        if (line.isEmpty() || line.startsWith(QLatin1Char(' ')))
+            wrapped.append(line);
+        else
+            wrapped += wrappedAt(line, terminalWidth);
+    }
+    return wrapped.join(QLatin1Char('\n'));
 }
 
 QString textTable(const QVector<QStringList> &rows, const QVector<int> &widest)

@@ -22,6 +22,9 @@ QString paddedTo(const QString &text, int width);
 /// stays whole. An empty text has no line.
 QStringList wrappedAt(const QString &text, int width);
 
+/// Each line wrapped at the width of a terminal, but those that begin with a space.
+QString wrappedText(const QString &text);
+
 /// Rows of cells below each other, two spaces apart; a cell that is wider than @p widest says of
 /// its place in the row, or than its last element from there on, takes several lines, which are
 /// indented as the first. Every line ends with "\n".

@@ -10,6 +10,7 @@
 #include "lint/lintoutput.h"
 #include "nearestname.h"
 #include "outputfile.h"
+#include "terminaltext.h"
 
 #include <QCommandLineParser>
 #include <QJsonArray>
@@ -31,7 +32,7 @@ ExitCode explain(const QString &id, bool asJson, Console &console)
     if (asJson)
         console.print(ruleAsJson(*rule));
     else
-        console.print(ruleAsText(*rule));
+        console.print(wrappedText(ruleAsText(*rule)));
     return Done;
 }
 
@@ -181,16 +182,12 @@ Command lintCommand()
         QT_TRANSLATE_NOOP(
             "Command",
             "Lists every problem of module item files, one to a line: file, line, column, "
-            "severity,\n"
-            "what is wrong, and the rule in brackets. Of a directory all files are read that end "
-            "in\n"
-            "\".ini\". The exit code is 1 when there is a finding, also if it is only a warning.\n"
-            "\n"
+            "severity, what is wrong, and the rule in brackets. The exit code is 1 when there is a "
+            "finding, also if it is only a warning.\n\n"
             "Rules are configured in files named \".kelto-lint.ini\", in the directory of a file "
-            "or\n"
-            "above it; each rule is what the nearest file says that names it. They hold the "
-            "section\n"
-            "[Rules], in which a key is a rule and its value one of error, warning and off:\n"
+            "or above it; each rule is what the nearest file says that names it. They hold the "
+            "section [Rules], in which a key is a rule and its value one of error, warning and "
+            "off:\n"
             "\n"
             "  [Rules]\n"
             "  comment=warning\n"

@@ -17,17 +17,18 @@ int main(int argc, char *argv[])
 {
     QCoreApplication application(argc, argv);
     const QDir directory(QCoreApplication::arguments().value(1));
+    const QString date = QCoreApplication::arguments().value(2);
     // What is left of a command that is gone would be installed.
     QDir(directory.filePath(QStringLiteral("man1"))).removeRecursively();
     QStringList problems {
         makeOutputDirectory(directory.filePath(QStringLiteral("completions"))),
         makeOutputDirectory(directory.filePath(QStringLiteral("man1"))),
         writeOutputFile(directory.filePath(QStringLiteral("completions/kelto")), bashCompletion()),
-        writeOutputFile(directory.filePath(QStringLiteral("man1/kelto.1")), overviewPage()),
+        writeOutputFile(directory.filePath(QStringLiteral("man1/kelto.1")), overviewPage(date)),
     };
     for (const Command &command : commands()) {
         const QString name = QStringLiteral("man1/kelto-%1.1").arg(QLatin1String(command.name));
-        problems.append(writeOutputFile(directory.filePath(name), manPage(command)));
+        problems.append(writeOutputFile(directory.filePath(name), manPage(command, date)));
     }
     problems.removeAll(QString());
     for (const QString &problem : qAsConst(problems))

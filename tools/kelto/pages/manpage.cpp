@@ -41,24 +41,27 @@ QString escaped(const QString &text)
     return roff;
 }
 
-/// Lines of text, none of which can begin a request; an empty line divides paragraphs.
+/// A line of text that cannot begin a request.
+QString textLine(const QString &line)
+{
+    const QString mark = line.startsWith(QLatin1Char('.')) ? QStringLiteral("\\&") : QString();
+    return mark + escaped(line) + QLatin1Char('\n');
+}
+
+/// Filled paragraphs, but lines that begin with a space as they are.
 QString textLines(const QString &text)
 {
     QString roff;
-    const QStringList paragraphs = text.split(QStringLiteral("\n\n"));
-    for (const QString &paragraph : paragraphs) {
-        if (!roff.isEmpty())
-            roff += QLatin1String(".PP\n");
-        const QStringList lines = paragraph.split(QLatin1Char('\n'));
-        for (const QString &line : lines) {
-            const QString mark
-                = line.startsWith(QLatin1Char('.')) ? QStringLiteral("\\&") : QString();
-            roff += mark + escaped(line) + QLatin1Char('\n');
-            if (&line != &lines.constLast())
-                roff += QLatin1String(".br\n");
-        }
+    bool isKept = false;
+    const QStringList lines = text.split(QLatin1Char('\n'));
+    for (const QString &line : lines) {
+        const bool keepsLine = line.startsWith(QLatin1Char(' '));
+        if (keepsLine != isKept)
+            roff += QLatin1String(keepsLine ? ".nf\n" : ".fi\n");
+        isKept = keepsLine;
+        roff += line.isEmpty() ? QStringLiteral(".PP\n") : textLine(line);
     }
-    return roff;
+    return isKept ? roff + QLatin1String(".fi\n") : roff;
 }
 
 QString bold(const QString &text)
@@ -81,10 +84,10 @@ QString listItem(const QString &head, const QString &text)
     return QLatin1String(".TP\n") + head + QLatin1Char('\n') + textLines(text);
 }
 
-QString header(const QString &name, const char *summary)
+QString header(const QString &name, const QString &date, const char *summary)
 {
-    return QStringLiteral(".TH \"%1\" 1 \"\" \"Kelto %2\" \"User Commands\"\n")
-               .arg(escaped(name.toUpper()), QLatin1String(KELTO_VERSION_TEXT))
+    return QStringLiteral(".TH \"%1\" 1 \"%2\" \"Kelto %3\" \"User Commands\"\n")
+               .arg(escaped(name.toUpper()), date, QLatin1String(KELTO_VERSION_TEXT))
         + section("NAME") + escaped(name) + QLatin1String(" \\- ") + escaped(QLatin1String(summary))
         + QLatin1Char('\n');
 }
@@ -128,9 +131,9 @@ QString seeAlso(const QStringList &pages)
 
 } // namespace
 
-QByteArray overviewPage()
+QByteArray overviewPage(const QString &date)
 {
-    QString roff = header(QStringLiteral("kelto"), "work with the files of module items");
+    QString roff = header(QStringLiteral("kelto"), date, "work with the files of module items");
     roff += section("SYNOPSIS") + bold(QStringLiteral("kelto")) + QLatin1Char(' ')
         + italic(QStringLiteral("COMMAND")) + QLatin1String(" [") + italic(QStringLiteral("OPTION"))
         + QLatin1String("...] ") + italic(QStringLiteral("FILE")) + QLatin1String("...\n");
@@ -151,13 +154,19 @@ QByteArray overviewPage()
     return (roff + seeAlso(pages)).toUtf8();
 }
 
-QByteArray manPage(const Command &command)
+QByteArray manPage(const Command &command, const QString &date)
 {
-    QString roff = header(pageName(command), command.summary);
+    QString roff = header(pageName(command), date, command.summary);
     roff += section("SYNOPSIS") + bold(QStringLiteral("kelto %1").arg(QLatin1String(command.name)))
         + QLatin1String(" [") + italic(QStringLiteral("OPTION")) + QLatin1String("...] ")
         + escaped(QLatin1String(command.arguments)) + QLatin1Char('\n');
-    roff += section("DESCRIPTION") + textLines(QLatin1String(command.description));
+    roff += section("DESCRIPTION");
+    const QVector<const char *> descriptions = descriptionsOf(command);
+    for (const char *description : descriptions) {
+        if (description != descriptions.constFirst())
+            roff += QLatin1String(".PP\n");
+        roff += textLines(QLatin1String(description));
+    }
     roff += options(command.options + commonOptions()) + exitStatus();
     if (!command.examples.isEmpty())
         roff += section("EXAMPLES");

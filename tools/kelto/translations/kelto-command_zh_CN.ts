@@ -1801,8 +1801,8 @@ A file that cannot be formatted without changing what is read, for example with 
         <translation>以易读的形式显示模块项</translation>
     </message>
     <message>
-        <source>Shows what each item file describes: its modes, and its parameters and results with their units, limits and choices. A cell of the tables holds the value with which a parameter starts in a mode, &quot;yes&quot; where it starts with none, and &quot;-&quot; where the mode does not have it. A directory stands for all files below it whose names end in &quot;.ini&quot;.</source>
-        <translation>显示每个模块项文件所描述的内容：模式，以及参数和结果的单位、上下限和可选值。表格的单元格中是参数在模式下的初始值；没有初始值时为“是”，模式没有该参数时为“-”。目录表示其下所有以“.ini”结尾的文件。</translation>
+        <source>Shows what each item file describes: its modes, and its parameters and results with their units, limits and choices. A cell of the tables holds the value with which a parameter starts in a mode, &quot;yes&quot; where it starts with none, and &quot;-&quot; where the mode does not have it.</source>
+        <translation>显示每个模块项文件所描述的内容：模式，以及参数和结果的单位、上下限和可选值。表格的单元格中是参数在模式下的初始值；没有初始值时为“是”，模式没有该参数时为“-”。</translation>
     </message>
     <message>
         <source>Show this mode only.</source>
@@ -2029,30 +2029,6 @@ A file that cannot be formatted without changing what is read, for example with 
         <translation>“%1”不是问题的数目。</translation>
     </message>
     <message>
-        <source>Lists every problem of module item files, one to a line: file, line, column, severity,
-what is wrong, and the rule in brackets. Of a directory all files are read that end in
-&quot;.ini&quot;. The exit code is 1 when there is a finding, also if it is only a warning.
-
-Rules are configured in files named &quot;.kelto-lint.ini&quot;, in the directory of a file or
-above it; each rule is what the nearest file says that names it. They hold the section
-[Rules], in which a key is a rule and its value one of error, warning and off:
-
-  [Rules]
-  comment=warning
-  mode-without-parameters=off</source>
-        <translation>列出模块项文件的所有问题，每行一个：文件、行、列、严重程度、
-问题，以及方括号中的规则。对于目录，读取其中所有以“.ini”结尾的文件。
-有问题时退出码为 1，即使只有警告。
-
-规则在名为“.kelto-lint.ini”的文件中设置，该文件位于模块项文件所在的目录
-或其上级目录；每条规则以写有该规则的最近的文件为准。其中有 [Rules] 节，
-键为规则，值为 error、warning 或 off：
-
-  [Rules]
-  comment=warning
-  mode-without-parameters=off</translation>
-    </message>
-    <message>
         <source>List at most so many of each file, instead of 100; 0 lists all.</source>
         <translation>每个文件最多列出这么多个问题，默认为 100；0 表示全部列出。</translation>
     </message>
@@ -2155,6 +2131,26 @@ Exit code 1 when projects that were stored with the old version lose something: 
     <message>
         <source>the quote is not closed on this line, and all up to line %1 is read as a part of this value</source>
         <translation>引号没有在本行结束，直到第 %1 行的所有内容都读作此值的一部分</translation>
+    </message>
+    <message>
+        <source>A PATH is a file, or a directory that stands for all files below it that end in &quot;.ini&quot;, also behind links to directories; hidden ones are left out.</source>
+        <translation>PATH 可以是文件，也可以是目录，目录代表其下所有以“.ini”结尾的文件，也包括目录链接之后的文件；隐藏的文件和目录不算在内。</translation>
+    </message>
+    <message>
+        <source>Lists every problem of module item files, one to a line: file, line, column, severity, what is wrong, and the rule in brackets. The exit code is 1 when there is a finding, also if it is only a warning.
+
+Rules are configured in files named &quot;.kelto-lint.ini&quot;, in the directory of a file or above it; each rule is what the nearest file says that names it. They hold the section [Rules], in which a key is a rule and its value one of error, warning and off:
+
+  [Rules]
+  comment=warning
+  mode-without-parameters=off</source>
+        <translation>列出模块项文件的所有问题，每行一个：文件、行、列、严重程度、问题，以及方括号中的规则。有问题时退出码为 1，即使只有警告。
+
+规则在名为“.kelto-lint.ini”的文件中设置，该文件位于模块项文件所在的目录或其上级目录；每条规则以写有该规则的最近的文件为准。其中有 [Rules] 节，键为规则，值为 error、warning 或 off：
+
+  [Rules]
+  comment=warning
+  mode-without-parameters=off</translation>
     </message>
 </context>
 </TS>
