@@ -121,6 +121,10 @@ void TestKeltoPages::completes_data()
     QTest::newRow("no option of another command")
         << QStringList { "show", "--sk" } << QStringList {};
     QTest::newRow("a file") << QStringList { "show", "be" } << QStringList { "beam file.ini" };
+    QTest::newRow("a file with an escaped blank")
+        << QStringList { "show", "beam\\ f" } << QStringList { "beam file.ini" };
+    QTest::newRow("a file in quotes")
+        << QStringList { "show", "\"beam f" } << QStringList { "beam file.ini" };
     QTest::newRow("a directory as file")
         << QStringList { "show", "mod" } << QStringList { "modules" };
     QTest::newRow("a file as value of an option")
@@ -129,6 +133,8 @@ void TestKeltoPages::completes_data()
         << QStringList { "code", "-o", "" } << QStringList { "modules" };
     QTest::newRow("words that an option takes")
         << QStringList { "doc", "--format", "m" } << QStringList { "markdown" };
+    QTest::newRow("formats to convert to")
+        << QStringList { "convert", "--to", "" } << QStringList { "ini", "json" };
     QTest::newRow("words behind an equals sign")
         << QStringList { "doc", "--format", "=", "q" } << QStringList { "qhp" };
     QTest::newRow("all words behind an equals sign")

@@ -145,8 +145,8 @@ void TestSourceText::carriesText_data()
     row("the first of two", "\\\"", "holds a backslash");
     row("a line feed", "a\nb", "holds a line break");
     row("a carriage return", "a\rb", "holds a line break");
-    row("a form feed", "a\fb", "holds a line break");
-    row("a vertical tabulator", "a\vb", "holds a line break");
+    row("a form feed", "a\fb", "holds a control character");
+    row("a vertical tabulator", "a\vb", "holds a control character");
     row("a next line", "a\u0085b", "holds a line break");
     row("a line separator", "a\u2028b", "holds a line break");
     row("a NUL", QString("a") + QChar(0) + "b", "holds a control character");

@@ -193,8 +193,9 @@ Command checkCommand()
                  QT_TRANSLATE_NOOP("Command", "The plain name of the mode. Needed.") },
                { { QStringLiteral("skip") },
                  "GROUP",
-                 QT_TRANSLATE_NOOP(
-                     "Command", "Leave out the parameters of this sub-group; may be repeated.") } },
+                 QT_TRANSLATE_NOOP("Command",
+                                   "Leave out the parameters of this sub-group; may be repeated."),
+                 true } },
              { { "kelto check --item beam.ini --mode Cantilever project.ini",
                  QT_TRANSLATE_NOOP("Command", "What the project lacks for a cantilever.") } },
              run };

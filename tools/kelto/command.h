@@ -25,6 +25,7 @@ struct CommandOption
     /// "RULE" and, as "one|other", words between which a user chooses.
     const char *value;
     const char *description;
+    bool isRepeatable = false; ///< Elsewhere a second value is wrong usage.
 };
 
 struct CommandExample

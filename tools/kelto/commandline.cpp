@@ -119,6 +119,11 @@ QString complaintAbout(const QCommandLineParser &parser, const Command &command)
     }
     if (!parser.errorText().isEmpty())
         return parser.errorText();
+    for (const CommandOption &option : command.options) {
+        const QString name = option.names.constLast();
+        if (!option.isRepeatable && parser.values(name).size() > 1)
+            return Command::tr("\"%1\" is given more than once.").arg(dashed(name));
+    }
     const int count = parser.positionalArguments().size();
     if (count < command.leastArguments)
         return Command::tr("\"%1\" needs \"%2\".")

@@ -59,7 +59,7 @@ void Console::complain(const QString &sentence)
     showProgress(QString());
     std::fflush(stdout);
     m_complaints.append(sentence);
-    const QByteArray line = "kelto: " + sentence.toUtf8() + '\n';
+    const QByteArray line = "kelto: " + printable(sentence).toUtf8() + '\n';
     std::fwrite(line.constData(), 1, std::size_t(line.size()), stderr);
 }
 

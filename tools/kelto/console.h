@@ -24,7 +24,7 @@ public:
     void useJson() { m_isJson = true; }
     void print(const QJsonObject &result) { m_result = result; }
 
-    /// A sentence that says what is wrong, where, and what to do.
+    /// A sentence that says what is wrong, where, and what to do. A terminal obeys nothing in it.
     void complain(const QString &sentence);
 
     const QStringList &complaints() const { return m_complaints; }

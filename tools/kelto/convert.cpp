@@ -20,7 +20,7 @@ namespace {
 /// What was read from a file in one of the formats.
 struct Source
 {
-    QString format; ///< "ini", "json" or "fmi".
+    QString format; ///< "ini", "json" or "fmi"; others cannot be read.
     AUTH_INF item;
     QVector<LeftOut> leftOut;
     QString error; ///< A sentence without the name of the file.
@@ -30,9 +30,8 @@ struct Source
 QString formatOf(const QByteArray &bytes)
 {
     const QByteArray text = (bytes.startsWith("\xef\xbb\xbf") ? bytes.mid(3) : bytes).trimmed();
-    // UTF-16, in which only XML can be read.
     if (bytes.startsWith("\xff\xfe") || bytes.startsWith("\xfe\xff"))
-        return QStringLiteral("fmi");
+        return bytes.mid(2, 2).contains('<') ? QStringLiteral("fmi") : QStringLiteral("utf-16");
     if (bytes.startsWith("PK\3\4"))
         return QStringLiteral("fmu");
     // A section begins like an array.
@@ -73,6 +72,9 @@ Source sourceIn(const ItemFile &file)
         source.error = Command::tr("is an archive; unpack the description of its model with "
                                    "\"unzip %1 modelDescription.xml\", and convert that.")
                            .arg(quotedForShell(file.path()));
+    } else if (source.format == QLatin1String("utf-16")) {
+        source.error
+            = Command::tr("is in UTF-16, which can be read of XML alone; save it in UTF-8.");
     } else {
         source.item = file.item();
     }
@@ -190,10 +192,10 @@ Command convertCommand()
                  "FILE",
                  QT_TRANSLATE_NOOP("Command", "Write this file in place of the standard output.") },
                { { QStringLiteral("to") },
-                 "FORMAT",
+                 "ini|json",
                  QT_TRANSLATE_NOOP("Command",
-                                   "\"ini\" or \"json\"; else JSON of an item file, and an item "
-                                   "file of everything else.") } },
+                                   "What to write; else JSON of an item file, and an item file of "
+                                   "everything else.") } },
              { { "kelto convert beam.ini -o beam.json",
                  QT_TRANSLATE_NOOP("Command", "An item as JSON.") },
                { "kelto convert modelDescription.xml -o pump.ini",

@@ -20,12 +20,19 @@ bool install(QTranslator *translator, const QString &name, const QString &direct
         && QCoreApplication::installTranslator(translator);
 }
 
+/// Qt speaks of the bytes of a value, and not of the file that it is in.
+void passOverInSilence(QtMsgType /*type*/, const QMessageLogContext & /*context*/,
+                       const QString & /*text*/)
+{
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
 {
     // Without a locale, in a build for example, names of files may still hold any letter.
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+    qInstallMessageHandler(passOverInSilence);
     QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("kelto"));
 

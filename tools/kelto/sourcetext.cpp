@@ -46,8 +46,8 @@ bool turnsText(QChar c)
 
 bool breaksLine(QChar c)
 {
-    return c == QLatin1Char('\n') || c == QLatin1Char('\r') || c == QLatin1Char('\f')
-        || c == QLatin1Char('\v') || c == QChar(0x85) || c == QChar(0x2028) || c == QChar(0x2029);
+    return c == QLatin1Char('\n') || c == QLatin1Char('\r') || c == QChar(0x85)
+        || c == QChar(0x2028) || c == QChar(0x2029);
 }
 
 Reason problemAt(const QString &text, int i)

@@ -265,17 +265,20 @@ QVector<CommandOption> options()
           "html|markdown|qhp",
           QT_TRANSLATE_NOOP("Command",
                             "html (as without this option), markdown, or qhp: HTML and a project "
-                            "for Qt Help. Can be given more than once.") },
+                            "for Qt Help. Can be given more than once."),
+          true },
         { { QStringLiteral("language") },
           "LANGUAGE",
           QT_TRANSLATE_NOOP("Command",
                             "A language of the manual, such as en or zh_CN; the first is the main "
-                            "one, and en without this option. Can be given more than once.") },
+                            "one, and en without this option. Can be given more than once."),
+          true },
         { { QStringLiteral("translation") },
           "FILE",
           QT_TRANSLATE_NOOP("Command",
                             "A translation of the modules, .ts or .qm, whose language is added to "
-                            "those of the manual. Can be given more than once.") },
+                            "those of the manual. Can be given more than once."),
+          true },
         { { QStringLiteral("title") },
           "TEXT",
           QT_TRANSLATE_NOOP("Command", "The title of the manual.") },

@@ -18,7 +18,9 @@ _kelto_words() {
 }
 
 _kelto_files() {
-    mapfile -t COMPREPLY < <(compgen "$1" -- "$word")
+    # As typed, with what quotes a name; the shell quotes the answers again.
+    local name=${word#[\"\']}
+    mapfile -t COMPREPLY < <(compgen "$1" -- "${name//\\/}")
     compopt -o filenames 2>/dev/null
 }
 

@@ -292,10 +292,6 @@ Of a model, parameters and inputs become parameters, outputs become results, and
         <translation>写入此文件，代替标准输出。</translation>
     </message>
     <message>
-        <source>&quot;ini&quot; or &quot;json&quot;; else JSON of an item file, and an item file of everything else.</source>
-        <translation>“ini”或“json”；未给出时，模块项文件转换为 JSON，其他文件转换为模块项文件。</translation>
-    </message>
-    <message>
         <source>An item as JSON.</source>
         <translation>以 JSON 表示模块项。</translation>
     </message>
@@ -2151,6 +2147,18 @@ Rules are configured in files named &quot;.kelto-lint.ini&quot;, in the director
   [Rules]
   comment=warning
   mode-without-parameters=off</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is given more than once.</source>
+        <translation>“%1”给出了多次。</translation>
+    </message>
+    <message>
+        <source>is in UTF-16, which can be read of XML alone; save it in UTF-8.</source>
+        <translation>是 UTF-16 编码，只有 XML 可以用它；请以 UTF-8 保存。</translation>
+    </message>
+    <message>
+        <source>What to write; else JSON of an item file, and an item file of everything else.</source>
+        <translation>要写出的格式；未给出时，模块项文件写成 JSON，其他都写成模块项文件。</translation>
     </message>
 </context>
 </TS>
