@@ -109,6 +109,9 @@ void TestKeltoLintFollowers::findsTheCause_data()
     row("a blank at the end of a mode", "Design, Part load", "\"Design \", Part load",
         { "7:21 unknown-mode the name of the mode begins or ends with white space, and [Belong] "
           "names it without" });
+    row("blanks at both ends of a mode", "Design, Part load", "Design, \"  Part load \"",
+        { "7:29 unknown-mode the name of the mode begins or ends with white space, and [Belong] "
+          "names it without" });
     row("a line that was to be a comment", "name=", "# name=Beam\nname=",
         { "2:1 hash-key \"#\" begins no comment here: the line is a key; a comment begins with "
           "\";\"" });

@@ -16,6 +16,9 @@ namespace {
 /// Each unclosed quote is mended in a copy of its own.
 constexpr int mostCopies = 5;
 
+/// Nobody writes a longer file by hand, and reading it several times takes long.
+constexpr int longestFile = 200000;
+
 QByteArray mended(const QByteArray &bytes, const QVector<Mend> &mends)
 {
     QByteArray result;
@@ -148,5 +151,6 @@ Findings withoutFollowersIn(const ItemFile &file, const Findings &findings, int 
 
 Findings withoutFollowers(const ItemFile &file, const Findings &findings)
 {
-    return withoutFollowersIn(file, findings, mostCopies);
+    return file.bytes().size() > longestFile ? findings
+                                             : withoutFollowersIn(file, findings, mostCopies);
 }

@@ -10,6 +10,9 @@
 
 namespace {
 
+/// Of those that are looked for in a line, which can be long.
+constexpr std::size_t longestKey = 200;
+
 class MendSearch
 {
 public:
@@ -117,6 +120,8 @@ private:
         const bool isField = section == knownSections().constFirst();
         for (std::size_t at = line.find_first_of(" \t:"); at != line.npos;
              at = line.find_first_of(" \t:", at + 1)) {
+            if (at > longestKey)
+                return;
             const QString name = SettingsKey { {}, line.substr(0, at) }.text();
             if (isField ? knownFields().contains(name) : m_declared.contains(name))
                 return add(&m_mends, "no-equals-sign", position, line.data() + at, 1, "=");
@@ -144,12 +149,18 @@ private:
     void mendModeName(std::string_view text)
     {
         const IniPosition cause = m_file.positionAt(text.data());
-        const std::size_t first = text.find_first_not_of(" \"");
-        const std::size_t last = text.find_last_not_of(" \"");
-        for (std::size_t at = text.find(' '); at != text.npos; at = text.find(' ', at + 1)) {
-            if (at < first || at > last)
-                add(&m_mends, "white-space-at-ends", cause, text.data() + at, 1, "");
-        }
+        const char *const end = text.data() + text.size();
+        const auto isBlankOrQuote = [](char c) { return c == ' ' || c == '"'; };
+        const char *const name = std::find_if_not(text.data(), end, isBlankOrQuote);
+        const char *nameEnd = end;
+        while (nameEnd > name && isBlankOrQuote(nameEnd[-1]))
+            --nameEnd;
+        const char *const begin = text.front() == '"' ? text.data() + 1 : text.data();
+        const char *const last = text.back() == '"' ? end - 1 : end;
+        if (begin < name)
+            add(&m_mends, "white-space-at-ends", cause, begin, int(name - begin), "");
+        if (nameEnd < last)
+            add(&m_mends, "white-space-at-ends", cause, nameEnd, int(last - nameEnd), "");
     }
 
     QSet<QString> namedModes() const
