@@ -6,6 +6,7 @@
 #include "lint/lintitem.h"
 
 #include <algorithm>
+#include <cctype>
 
 namespace {
 
