@@ -1,7 +1,5 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<!-- SPDX-FileCopyrightText: The Kelto developers -->
-<!-- SPDX-License-Identifier: MIT -->
 <TS version="2.1" language="zh_CN" sourcelanguage="en_US">
 <context>
     <name>KeltoItemFinding</name>
@@ -113,14 +111,6 @@
         <translation>%1：取“%2”时，最小值大于最大值。</translation>
     </message>
     <message>
-        <source>%1: &quot;%2&quot; is outside the limits.</source>
-        <translation>%1：“%2”超出上下限。</translation>
-    </message>
-    <message>
-        <source>%1: &quot;%2&quot; is none of the choices.</source>
-        <translation>%1：“%2”不在可选值之中。</translation>
-    </message>
-    <message>
         <source>%1: &quot;%2&quot; offers nothing, or one value twice.</source>
         <translation>%1：“%2”没有给出可选值，或有重复的值。</translation>
     </message>
@@ -147,6 +137,26 @@
     <message>
         <source>%1: &quot;%2&quot; is not &quot;parameter=value&quot;.</source>
         <translation>%1：“%2”不是“参数=值”的形式。</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; is none of the choices, such as %3.</source>
+        <translation>%1：“%2”不在可选值之中，可选值如：%3。</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; is none of the choices: %3.</source>
+        <translation>%1：“%2”不在可选值之中：%3。</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; is outside the limits: the minimum is %3.</source>
+        <translation>%1：“%2”超出上下限：最小值为 %3。</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; is outside the limits: the maximum is %4.</source>
+        <translation>%1：“%2”超出上下限：最大值为 %4。</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; is outside the limits: the minimum is %3 and the maximum %4.</source>
+        <translation>%1：“%2”超出上下限：最小值为 %3，最大值为 %4。</translation>
     </message>
 </context>
 <context>

@@ -55,6 +55,12 @@ HintLimits HintView::limits(const QString &key) const
              numberOf(text(HintWord::Max, key)).value_or(qInf()) };
 }
 
+QString HintView::limitTexts(const QString &key) const
+{
+    return text(HintWord::Min, key).trimmed() + QLatin1Char('|')
+        + text(HintWord::Max, key).trimmed();
+}
+
 HintCondition HintView::condition(const QString &key) const
 {
     return m_hints.condition(position(HintWord::When, key));
@@ -110,7 +116,7 @@ void HintView::checkDefault(const QString &key)
     };
     const QSet<QString> choices = allowedValues(key);
     if (!choices.isEmpty() && !areAmong(choices))
-        drop(HintWord::Default, key, Problem::DefaultNotAChoice);
+        drop(HintWord::Default, key, Problem::DefaultNotAChoice, text(HintWord::Choices, key));
     else if (choices.isEmpty() && kind(key).isBool && !areAmong(booleanTexts()))
         drop(HintWord::Default, key, Problem::NotABoolean);
     else if (isNumber(key))
@@ -132,7 +138,7 @@ void HintView::checkNumbers(const QStringList &values, const QString &key)
         const QStringList numbers = numbersOf(value, kind);
         for (const QString &number : numbers) {
             if (!allowed.contain(number.toDouble()))
-                return drop(HintWord::Default, key, Problem::DefaultOutsideLimits);
+                return drop(HintWord::Default, key, Problem::DefaultOutsideLimits, limitTexts(key));
         }
     }
 }

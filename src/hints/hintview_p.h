@@ -56,6 +56,8 @@ private:
 
     int position(HintWord word, const QString &key) const;
     void drop(HintWord word, const QString &key, Problem::Kind kind, const QString &part = {});
+    /// The minimum, a bar and the maximum; what is missing is empty.
+    QString limitTexts(const QString &key) const;
     void checkLimits(const QString &key);
     void checkDefault(const QString &key);
     bool isNumber(const QString &key) const;

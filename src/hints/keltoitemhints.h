@@ -89,7 +89,8 @@ public:
         QString extraKey; ///< Whole, as the item has it.
         QString value; ///< Its text.
         /// The key or the mode that is unknown; of a condition on values none of which can be
-        /// chosen, a "=" and those values. Empty for all else.
+        /// chosen, a "=" and those values; of a default, the choices that it is none of, as their
+        /// hint lists them, or the minimum, a bar and the maximum. Empty for all else.
         QString part;
         /// A sentence that says what is wrong, in the language of the program.
         QString text() const;

@@ -24,7 +24,7 @@ class Sentences
 public:
     using Problem = KeltoItemHints::Problem;
 
-    /// With %1 for the extra key, %2 for its text and %3 for the part that is wrong.
+    /// With %1 for the extra key, %2 for its text and %3 for shownPart().
     static QString of(const Problem &problem)
     {
         switch (problem.kind) {
@@ -47,9 +47,11 @@ public:
         case Problem::EmptyLimits:
             return tr("%1: with \"%2\" the minimum is above the maximum.");
         case Problem::DefaultOutsideLimits:
-            return tr("%1: \"%2\" is outside the limits.");
+            return ofLimits(problem.part);
         case Problem::DefaultNotAChoice:
-            return tr("%1: \"%2\" is none of the choices.");
+            return choicesOf(problem.part).size() > mostShown
+                ? tr("%1: \"%2\" is none of the choices, such as %3.")
+                : tr("%1: \"%2\" is none of the choices: %3.");
         case Problem::BadChoices:
             return tr("%1: \"%2\" offers nothing, or one value twice.");
         case Problem::BadCondition:
@@ -60,7 +62,40 @@ public:
         return {};
     }
 
+    /// What stands for %3.
+    static QString shownPart(const Problem &problem)
+    {
+        switch (problem.kind) {
+        case Problem::DefaultNotAChoice:
+            return shownChoices(problem.part);
+        case Problem::DefaultOutsideLimits:
+            return problem.part.section(QLatin1Char('|'), 0, 0);
+        default:
+            return problem.part;
+        }
+    }
+
 private:
+    /// As many choices as a person reads.
+    static constexpr int mostShown = 8;
+
+    /// With %4 for the maximum.
+    static QString ofLimits(const QString &limits)
+    {
+        if (limits.endsWith(QLatin1Char('|')))
+            return tr("%1: \"%2\" is outside the limits: the minimum is %3.");
+        return limits.startsWith(QLatin1Char('|'))
+            ? tr("%1: \"%2\" is outside the limits: the maximum is %4.")
+            : tr("%1: \"%2\" is outside the limits: the minimum is %3 and the maximum %4.");
+    }
+    static QString shownChoices(const QString &text)
+    {
+        const QVector<KeltoItemHints::Choice> choices = choicesOf(text).mid(0, mostShown);
+        QStringList values;
+        for (const KeltoItemHints::Choice &choice : choices)
+            values.append(QLatin1Char('"') + choice.value + QLatin1Char('"'));
+        return values.join(QLatin1String(", "));
+    }
     static QString ofCondition(const Problem &problem)
     {
         if (problem.part.startsWith(QLatin1Char('=')))
@@ -118,7 +153,9 @@ QStringList keysOfMode(const HintView &view, const AUTH_INF &item, int mode)
 
 QString KeltoItemHints::Problem::text() const
 {
-    return sentenceOf(Sentences::of(*this), { extraKey, value, part });
+    return sentenceOf(Sentences::of(*this),
+                      { extraKey, value, Sentences::shownPart(*this),
+                        part.section(QLatin1Char('|'), 1) });
 }
 
 QVector<KeltoItemHints::Problem> KeltoItemHints::problems() const

@@ -73,9 +73,13 @@ private Q_SLOTS:
             { "Min.L: with \"6\" the minimum is above the maximum.",
               "Max.L@B: with \"5\" the minimum is above the maximum." });
         row("a default outside the limits", { { "Default.L", 6 }, { "Max.L", 5 } },
-            { "Default.L: \"6\" is outside the limits." });
+            { "Default.L: \"6\" is outside the limits: the maximum is 5." });
+        row("a default outside two limits",
+            { { "Default.L", 6 }, { "Min.L", " 1e-1 " }, { "Max.L@B", 5 }, { "Max.L", 5.5 } },
+            { "Default.L: \"6\" is outside the limits: the minimum is 1e-1 and the maximum 5.",
+              "Default.L: \"6\" is outside the limits: the minimum is 1e-1 and the maximum 5.5." });
         row("one of several outside the limits", { { "Default.N", "1;-6" }, { "Min.N", -5 } },
-            { "Default.N: \"1;-6\" is outside the limits." });
+            { "Default.N: \"1;-6\" is outside the limits: the minimum is -5." });
         row("a default that is no number", { { "Default.L", "abc" } },
             { "Default.L: \"abc\" is not a number." });
         row("an empty default", { { "Default.L", "" } }, { "Default.L: \"\" is not a number." });
@@ -95,7 +99,12 @@ private Q_SLOTS:
         row("a flag with choices of its own",
             { { "Default.F", "yes" }, { "Choices.F", "yes|no" } });
         row("a default that is no choice", { { "Default.L", "one" }, { "Choices.L", "1=one|2" } },
-            { "Default.L: \"one\" is none of the choices." });
+            { "Default.L: \"one\" is none of the choices: \"1\", \"2\"." });
+        row("a default that is none of many choices",
+            { { "Default.L", "%1" }, { "Choices.L", "1|2|3|4|5|6|7|8|%4" } },
+            { "Default.L: \"%1\" is none of the choices, such as \"1\", \"2\", \"3\", \"4\", "
+              "\"5\", "
+              "\"6\", \"7\", \"8\"." });
         row("no choices", { { "Choices.L", " " } },
             { "Choices.L: \" \" offers nothing, or one value twice." });
         row("a choice twice", { { "Choices.L", "1=a| 1 =b" } },

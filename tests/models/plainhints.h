@@ -394,7 +394,7 @@ private:
         const QString objectName = entryOf(key).value(2);
         for (const QString &value : values) {
             if (find("Choices", key) && !valuesOf(choices(key)).contains(value))
-                return drop("Default", key, Problem::DefaultNotAChoice);
+                return drop("Default", key, Problem::DefaultNotAChoice, find("Choices", key)->text);
         }
         for (const QString &value : values) {
             if (objectName == "bool" && !find("Choices", key) && value != "true"
@@ -423,7 +423,8 @@ private:
             if (!areNumbers)
                 return drop("Default", key, Problem::NotANumber);
             if (!areWithin)
-                return drop("Default", key, Problem::DefaultOutsideLimits);
+                return drop("Default", key, Problem::DefaultOutsideLimits,
+                            textOf("Min", key).trimmed() + "|" + textOf("Max", key).trimmed());
         }
     }
 

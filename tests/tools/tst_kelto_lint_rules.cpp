@@ -240,36 +240,64 @@ void TestKeltoLintRules::finds_data()
               "Min.Lngth=1\nHelp.Length@Bendign=\"\"\nOrder=Length|Stres\nChoices.Length=1|1\n"
               "Belong.Length=Bending\nOptional.Length=yes\nWhen.Length=Section=a\nOwn=1\n"
               "Maximum.Length=1\n",
-        { "first.ini:23:1 bad-hint Belong.Length: there is no result \"Length\"",
-          "first.ini:22:1 bad-hint Choices.Length: \"1|1\" offers nothing, or one value twice",
-          "first.ini:18:1 bad-hint Default.Length: \"long\" is not a number",
-          "first.ini:20:1 bad-hint Help.Length@Bendign: there is no inner mode \"Bendign\". Did "
+        { "first.ini:23:8 bad-hint Belong.Length: there is no result \"Length\"",
+          "first.ini:22:16 bad-hint Choices.Length: \"1|1\" offers nothing, or one value twice",
+          "first.ini:18:16 bad-hint Default.Length: \"long\" is not a number",
+          "first.ini:20:13 bad-hint Help.Length@Bendign: there is no inner mode \"Bendign\". Did "
           "you mean \"Bending\"?",
-          "first.ini:19:1 bad-hint Min.Lngth: there is no parameter or result \"Lngth\". Did you "
+          "first.ini:19:5 bad-hint Min.Lngth: there is no parameter or result \"Lngth\". Did you "
           "mean \"Length\"?",
-          "first.ini:24:1 bad-hint Optional.Length: \"yes\" is neither \"true\" nor \"false\"",
-          "first.ini:21:1 bad-hint Order: there is no parameter or result \"Stres\". Did you mean "
+          "first.ini:24:17 bad-hint Optional.Length: \"yes\" is neither \"true\" nor \"false\"",
+          "first.ini:21:14 bad-hint Order: there is no parameter or result \"Stres\". Did you mean "
           "\"Stress\"?",
-          "first.ini:25:1 bad-hint When.Length: there is no parameter \"Section\"",
+          "first.ini:25:13 bad-hint When.Length: there is no parameter \"Section\"",
           "first.ini:27:1 misspelt-hint the extra key \"Maximum.Length\" is no hint. Did you mean "
           "\"Max.Length\"?" });
     row("a contradiction is told once", item + length + "[ExtraKey]\nMin.Length=5\nMax.Length=1\n",
-        { "first.ini:13:1 bad-hint Min.Length: with \"5\" the minimum is above the maximum" });
+        { "first.ini:13:12 bad-hint Min.Length: with \"5\" the minimum is above the maximum" });
     row("conditions that make no sense, each for a cause of its own",
         item
             + "[Attribute]\nStatic head=\nFlow=\n[Belong]\nStatic head=Bending\nFlow=Bending\n"
               "[ExtraKey]\nWhen.Flow=Statc head=1\nWhen.Static head=Static head=1\n"
               "When.Flow@Bending=Static head\n",
-        { "first.ini:15:1 bad-hint When.Flow: there is no parameter \"Statc head\". Did you mean "
+        { "first.ini:15:11 bad-hint When.Flow: there is no parameter \"Statc head\". Did you mean "
           "\"Static head\"?",
-          "first.ini:17:1 bad-hint When.Flow@Bending: \"Static head\" is not \"parameter=value\"",
-          "first.ini:16:1 bad-hint When.Static head: with \"Static head=1\" parameters depend on "
+          "first.ini:17:19 bad-hint When.Flow@Bending: \"Static head\" is not \"parameter=value\"",
+          "first.ini:16:18 bad-hint When.Static head: with \"Static head=1\" parameters depend on "
           "each other in a circle" });
     row("a condition on what cannot be chosen",
         item
             + "[Attribute]\nPump=\nFlow=\n[Belong]\nPump=Bending\nFlow=Bending\n"
               "[ExtraKey]\nChoices.Pump=axial|radial\nWhen.Flow=Pump=axal\n",
-        { "first.ini:16:1 bad-hint When.Flow: no value in \"Pump=axal\" can be chosen" });
+        { "first.ini:16:16 bad-hint When.Flow: no value in \"Pump=axal\" can be chosen" });
+    row("defaults that do not fit",
+        item + length
+            + "[ExtraKey]\nChoices.Length=short=Small|long=Large\nDefault.Length=Long\n"
+              "Default.Length@Bending=LARGE\n",
+        { "first.ini:14:16 bad-hint Default.Length: \"Long\" is none of the choices: \"short\", "
+          "\"long\". Did you mean \"long\"?",
+          "first.ini:15:24 bad-hint Default.Length@Bending: \"LARGE\" is none of the choices: "
+          "\"short\", \"long\". Did you mean \"long\"?" });
+    row("unknown names in lists of hints",
+        item
+            + "output_results=x\n[Result]\nR@x=\n[ExtraKey]\nBelong.R@x= \"Bending | Bend|Bend \"\n"
+              "Order@Bending=\"R@x| R\"\nHelp.R@x@Bend=a\n",
+        { "first.ini:12:24 bad-hint Belong.R@x: there is no inner mode \"Bend\"",
+          "first.ini:13:21 bad-hint Order@Bending: there is no parameter or result \"R\"",
+          "first.ini:14:10 bad-hint Help.R@x@Bend: there is no inner mode \"Bend\"" });
+    row("commas in quotes between the parts of hints",
+        item + length
+            + "[ExtraKey]\nOrder=\"Length,Width\"\nChoices.Length=\"Cast iron, steel, tin\"\n",
+        { "first.ini:13:8 bad-hint Order: there is no parameter or result \"Length,Width\". A "
+          "\"|\" "
+          "divides the parts of this hint, and not a comma.",
+          "first.ini:14:16 single-choice a \"|\" divides the parts of this hint, and not a comma: "
+          "write Choices.Length=Cast iron|steel|tin" });
+    row("one choice", item + length + "[ExtraKey]\nChoices.Length=\"1,5\"\n", {});
+    row("one choice with a label", item + length + "[ExtraKey]\nChoices.Length=\"1=long,short\"\n",
+        {});
+    row("one choice of several words",
+        item + length + "[ExtraKey]\nChoices.Length=\"Steel, cold rolled\"\n", {});
     row("words that are nearly those of hints",
         item
             + "[Attribute]\nFlow rate=\n[Belong]\nFlow rate=Bending\n[ExtraKey]\n"

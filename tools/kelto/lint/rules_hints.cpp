@@ -5,12 +5,15 @@
 
 #include "command.h"
 #include "core/enteredvalues_p.h"
+#include "lint/hintbars.h"
+#include "lint/hintplaces.h"
 #include "lint/rules_places.h"
 #include "nearestname.h"
 
 #include <KeltoItemHints>
 #include <KeltoParameterEntry>
 
+#include <QRegularExpression>
 #include <QSet>
 
 #include <algorithm>
@@ -125,8 +128,41 @@ bool isConsequence(const Problem &problem, const ItemFile &file, const DeclaredK
     }
 }
 
+/// The choice that a default was most likely meant to be: the one with this label, or the nearest.
+QString meantChoice(const Problem &problem)
+{
+    QStringList values;
+    for (const QString &choice : problem.part.split(QLatin1Char('|'))) {
+        const QString value = choice.section(QLatin1Char('='), 0, 0).trimmed();
+        const QString label = choice.section(QLatin1Char('='), 1).trimmed();
+        if (label.compare(problem.value.trimmed(), Qt::CaseInsensitive) == 0)
+            return value;
+        values.append(value);
+    }
+    const QStringList defaults = problem.value.split(QLatin1Char(';'));
+    for (const QString &text : defaults) {
+        if (!values.contains(text.trimmed()))
+            return nearestName(text, values);
+    }
+    return {};
+}
+
+/// Quotes make one part of a list with commas.
+QString adviceOnCommas(const Problem &problem)
+{
+    static const QRegularExpression lists(QStringLiteral("^(Order($|@)|Belong\\.|When\\.)"));
+    return problem.part.contains(QLatin1Char(',')) && problem.extraKey.contains(lists)
+        ? Command::tr(" A \"|\" divides the parts of this hint, and not a comma.")
+        : QString();
+}
+
 QString suggestionFor(const Problem &problem, const NearestNames &modes, const DeclaredKeys &keys)
 {
+    const QString advice = adviceOnCommas(problem);
+    if (!advice.isEmpty())
+        return advice;
+    if (problem.kind == Problem::DefaultNotAChoice)
+        return didYouMean(meantChoice(problem));
     if (problem.kind == Problem::UnknownKey)
         return keys.suggestionFor(problem);
     if (problem.kind == Problem::UnknownMode)
@@ -139,6 +175,7 @@ QString suggestionFor(const Problem &problem, const NearestNames &modes, const D
 void findProblems(const ItemFile &file, const DeclaredKeys &keys, Findings *findings)
 {
     const NearestNames modes(file.item().inner_mode_nameList);
+    HintPlaces places(file);
     const QVector<Problem> problems = KeltoItemHints(file.item()).problems();
     for (const Problem &problem : problems) {
         if (isConsequence(problem, file, keys))
@@ -147,9 +184,7 @@ void findProblems(const ItemFile &file, const DeclaredKeys &keys, Findings *find
         const QString suggestion = suggestionFor(problem, modes, keys);
         if (suggestion.isEmpty())
             text.chop(1);
-        FileFindings(file, findings)
-            .add("bad-hint", keyPosition(file, QStringLiteral("ExtraKey"), problem.extraKey),
-                 text + suggestion);
+        FileFindings(file, findings).add("bad-hint", places.of(problem), text + suggestion);
     }
 }
 
@@ -219,6 +254,15 @@ void findMisspeltHints(const ItemFile &file, const DeclaredKeys &keys, Findings 
     }
 }
 
+void findSingleChoices(const ItemFile &file, Findings *findings)
+{
+    for (const ItemFileKey &key : file.keys()) {
+        if (key.section == QLatin1String("ExtraKey") && HintBars::isOneChoiceOfWords(key))
+            FileFindings(file, findings)
+                .add("single-choice", key.valuePosition, HintBars::advice(key));
+    }
+}
+
 /// What forms and hints know, and what the words of a text or a choice mean to a person.
 const QStringList &knownObjectNames()
 {
@@ -270,6 +314,7 @@ void check(const LintItem &item, Findings *findings)
         const DeclaredKeys keys(item);
         findProblems(file, keys, findings);
         findMisspeltHints(file, keys, findings);
+        findSingleChoices(file, findings);
     }
     findObjectNames(file, findings);
 }
@@ -289,6 +334,13 @@ RuleArea hintRules()
                                 "another one does not count."),
               EXAMPLE_ITEM EXAMPLE_LENGTH "[ExtraKey]\nDefault.Length=5\nMin.Length=10\n",
               EXAMPLE_ITEM EXAMPLE_LENGTH "[ExtraKey]\nDefault.Length=10\nMin.Length=10\n" },
+            { "single-choice", Severity::Warning,
+              QT_TRANSLATE_NOOP("Command", "A list of choices is one single choice"),
+              QT_TRANSLATE_NOOP("Command",
+                                "A \"|\" divides choices. With commas in quotes the whole list is "
+                                "one choice, and nothing else can be chosen."),
+              EXAMPLE_ITEM EXAMPLE_LENGTH "[ExtraKey]\nChoices.Length=\"short,medium,long\"\n",
+              EXAMPLE_ITEM EXAMPLE_LENGTH "[ExtraKey]\nChoices.Length=short|medium|long\n" },
             { "misspelt-hint", Severity::Warning,
               QT_TRANSLATE_NOOP("Command", "An extra key is nearly a hint"),
               QT_TRANSLATE_NOOP(

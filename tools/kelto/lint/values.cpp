@@ -8,6 +8,7 @@
 #include "core/typedtext_p.h"
 #include "lint/examples.h"
 #include "lint/filefindings.h"
+#include "lint/hintbars.h"
 #include "lint/lintitem.h"
 #include "lint/othercommas.h"
 #include "lint/savedspelling.h"
@@ -33,12 +34,14 @@ bool isTyped(const QString &element)
 class ValueCheck
 {
 public:
-    ValueCheck(const LintKey &key, const SavedSpelling &saved, FileFindings *findings)
+    ValueCheck(const LintKey &key, const SavedSpelling &saved, const HintBars &bars,
+               FileFindings *findings)
         : m_key(*key.key)
         , m_kind(key.value)
         , m_raw(rawValueOf(findings->file(), m_key))
         , m_spelt(speltValueOf(m_raw))
         , m_saved(saved)
+        , m_bars(bars)
         , m_findings(findings)
     {
     }
@@ -103,6 +106,9 @@ private:
             return;
         const auto isSpecial = [](char c) { return c == '"' || c == '\\'; };
         const bool isPlain = std::none_of(m_raw.cbegin(), m_raw.cend(), isSpecial) && !isCut();
+        if (m_kind == ItemValue::Extra
+            && m_bars.addMissing(m_key, m_spelt.comma, isPlain, m_findings))
+            return;
         QVector<TextEdit> fix;
         if (isPlain && m_kind == ItemValue::Text) {
             const QByteArray text(m_key.speltValue.data(), int(m_key.speltValue.size()));
@@ -124,16 +130,20 @@ private:
         // One blank behind "=" or "," is a matter of taste.
         const int superfluous = element.beginsLine ? 0 : element.blanksBefore - 1;
         if (superfluous > 0 && (isFirst || !isOneValue()))
-            addBlanks(element.text.data() - superfluous, superfluous);
+            addBlanks(element.text.data() - superfluous, superfluous,
+                      Command::tr("white space in front of \"%1\" is dropped; put quotes around "
+                                  "the text where it is meant")
+                          .arg(m_key.value.value(index)));
         if (element.blanksBehind > 0 && (isLast ? !isCut() : !isOneValue()))
-            addBlanks(element.text.data() + element.text.size(), element.blanksBehind);
+            addBlanks(element.text.data() + element.text.size(), element.blanksBehind,
+                      Command::tr("white space behind \"%1\" is dropped; put quotes around the "
+                                  "text where it is meant")
+                          .arg(m_key.value.value(index)));
     }
 
-    void addBlanks(const char *place, int count)
+    void addBlanks(const char *place, int count, const QString &text)
     {
-        m_findings->add("dropped-white-space", place,
-                        Command::tr("white space at the end of a text is dropped; put quotes "
-                                    "around the text where it is meant"),
+        m_findings->add("dropped-white-space", place, text,
                         { m_findings->edit(textBetween(place, place + count), QByteArray()) });
     }
 
@@ -148,7 +158,9 @@ private:
                                         "\"@@\" for \"@\" where a text is meant"));
         } else if (text.trimmed() != text && m_spelt.longQuotes.isEmpty()) {
             m_findings->add("white-space-at-ends", element.text.data(),
-                            Command::tr("the text begins or ends with white space"));
+                            Command::tr("\"%1\" begins or ends with white space, which is a part "
+                                        "of the text")
+                                .arg(text));
         }
     }
 
@@ -157,6 +169,7 @@ private:
     const std::string_view m_raw;
     const SpeltValue m_spelt;
     const SavedSpelling &m_saved;
+    const HintBars &m_bars;
     FileFindings *const m_findings;
 };
 
@@ -241,6 +254,7 @@ void check(const LintItem &item, Findings *findings)
 {
     FileFindings added(item.file(), findings);
     const SavedSpelling saved(item.file());
+    const HintBars bars(item.file());
     const bool areUnitsConverted
         = std::any_of(item.keys().cbegin(), item.keys().cend(), isConverted);
     for (const LintKey &key : item.keys()) {
@@ -248,7 +262,7 @@ void check(const LintItem &item, Findings *findings)
             checkDeclaration(*key.key, &added);
             continue;
         }
-        ValueCheck(key, saved, &added).check();
+        ValueCheck(key, saved, bars, &added).check();
         if (key.value == ItemValue::Units)
             checkUnits(*key.key, areUnitsConverted, &added);
         else if (key.value == ItemValue::Flag)
@@ -268,9 +282,12 @@ RuleArea valueRules()
         {
             { "split-text", Severity::Error,
               QT_TRANSLATE_NOOP("Command", "A text is split at a comma"),
-              QT_TRANSLATE_NOOP("Command",
-                                "Outside of quotes a comma makes a list of a value, and a list is "
-                                "no text: it is read as an empty one. Put quotes around the text."),
+              QT_TRANSLATE_NOOP(
+                  "Command",
+                  "Outside of quotes a comma makes a list of a value, and a list is "
+                  "no text: it is read as an empty one. Put quotes around the text. The hints "
+                  "\"Choices.\", \"When.\", \"Belong.\" and \"Order\" are lists that "
+                  "\"|\" divides: write it in place of the commas."),
               "[KeltoItem]\nname=Beam\ndescription=Bending of a straight, slender beam\n",
               "[KeltoItem]\nname=Beam\ndescription=\"Bending of a straight, slender beam\"\n" },
             { "dropped-white-space", Severity::Error,
