@@ -162,8 +162,8 @@ void TestKeltoLintFollowers::findsWhatFollowsFromWhatIsSwitchedOff()
              QStringList({ "7:29 mode-without-parameters no parameter belongs to the mode \"Part "
                            "load\", and values for it are never complete",
                            "17:1 undeclared-key there is no parameter \"Speed\"",
-                           "33:1 bad-hint Max.Speed: there is no parameter or result \"Speed\"",
-                           "34:1 bad-hint When.Flow: there is no parameter \"Speed\"" }));
+                           "33:5 bad-hint Max.Speed: there is no parameter or result \"Speed\"",
+                           "34:11 bad-hint When.Flow: there is no parameter \"Speed\"" }));
 }
 
 QTEST_GUILESS_MAIN(TestKeltoLintFollowers)

@@ -283,8 +283,8 @@ void TestKeltoLintRules::finds_data()
             + "output_results=x\n[Result]\nR@x=\n[ExtraKey]\nBelong.R@x= \"Bending | Bend|Bend \"\n"
               "Order@Bending=\"R@x| R\"\nHelp.R@x@Bend=a\n",
         { "first.ini:12:24 bad-hint Belong.R@x: there is no inner mode \"Bend\"",
-          "first.ini:13:21 bad-hint Order@Bending: there is no parameter or result \"R\"",
-          "first.ini:14:10 bad-hint Help.R@x@Bend: there is no inner mode \"Bend\"" });
+          "first.ini:14:10 bad-hint Help.R@x@Bend: there is no inner mode \"Bend\"",
+          "first.ini:13:21 bad-hint Order@Bending: there is no parameter or result \"R\"" });
     row("commas in quotes between the parts of hints",
         item + length
             + "[ExtraKey]\nOrder=\"Length,Width\"\nChoices.Length=\"Cast iron, steel, tin\"\n",

@@ -56,9 +56,14 @@ void Console::print(const QByteArray &bytes)
 
 void Console::complain(const QString &sentence)
 {
+    m_complaints.append(sentence);
+    note(sentence);
+}
+
+void Console::note(const QString &sentence)
+{
     showProgress(QString());
     std::fflush(stdout);
-    m_complaints.append(sentence);
     const QByteArray line = "kelto: " + printable(sentence).toUtf8() + '\n';
     std::fwrite(line.constData(), 1, std::size_t(line.size()), stderr);
 }

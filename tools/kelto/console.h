@@ -27,6 +27,9 @@ public:
     /// A sentence that says what is wrong, where, and what to do. A terminal obeys nothing in it.
     void complain(const QString &sentence);
 
+    /// A sentence that a person may want to know, on the standard error only: nothing is wrong.
+    void note(const QString &sentence);
+
     const QStringList &complaints() const { return m_complaints; }
 
     /// Replaces the line that shows how far the program has come. Shown on a terminal only, and

@@ -13,6 +13,7 @@
 #include "terminaltext.h"
 
 #include <QCommandLineParser>
+#include <QFileInfo>
 #include <QJsonArray>
 
 #include <QJsonDocument>
@@ -101,6 +102,20 @@ Findings fix(const LintResult &result, const LintConfig &config, QStringList *co
     return fixed;
 }
 
+/// Of @p paths those that were found in directories, and that nobody has named.
+QSet<QString> foundPaths(const QStringList &paths, const QStringList &arguments)
+{
+    QSet<QString> named;
+    for (const QString &argument : arguments)
+        named.insert(QFileInfo(argument).canonicalFilePath());
+    QSet<QString> found;
+    for (const QString &path : paths) {
+        if (!named.contains(QFileInfo(path).canonicalFilePath()))
+            found.insert(path);
+    }
+    return found;
+}
+
 ExitCode lintFiles(const QCommandLineParser &line, Console &console)
 {
     bool areAllFound = false;
@@ -110,13 +125,19 @@ ExitCode lintFiles(const QCommandLineParser &line, Console &console)
         console.complain(complaint);
     if (!config.complaints().isEmpty())
         return WrongUsage;
-    LintResult result = lint(paths, config, console);
+    const QSet<QString> found = foundPaths(paths, line.positionalArguments());
+    LintResult result = lint(paths, config, console, found);
     QStringList complaints = result.unreadable;
     Findings fixed;
     if (line.isSet(QStringLiteral("fix")))
         fixed = fix(result, config, &complaints);
     if (!fixed.isEmpty())
-        result = lint(paths, config, console);
+        result = lint(paths, config, console, found);
+    for (const QString &path : qAsConst(result.skipped)) {
+        console.note(Command::tr("%1: is skipped, since nothing in it is a part of a module item. "
+                                 "Name the file itself to check it.")
+                         .arg(path));
+    }
     for (const QString &sentence : qAsConst(complaints))
         console.complain(sentence);
     print(result.findings, fixed, config, line, console);

@@ -8,6 +8,7 @@
 #include "lint/followers.h"
 #include "lint/lintconfig.h"
 #include "lint/lintitem.h"
+#include "nearestname.h"
 
 #include <QThreadPool>
 
@@ -74,6 +75,35 @@ bool isUtf16(const ItemFile &file)
     return start == "\xff\xfe" || start == "\xfe\xff" || start.contains('\0');
 }
 
+/// Whether @p key is one of an item wherever it stands: other files have a "name" as well.
+bool isFieldAnywhere(const ItemFileKey &key)
+{
+    const bool isPlainWord
+        = std::all_of(key.name.cbegin(), key.name.cend(), [](QChar c) { return c.isLower(); });
+    return !isPlainWord && knownFields().contains(key.name);
+}
+
+/// Whether a section or a key is one of an item or nearly, or the file is empty, as one that a
+/// mistyped path has left behind.
+bool isLikeItem(const ItemFile &file)
+{
+    if (isUtf16(file) || (file.sections().isEmpty() && file.keys().isEmpty()))
+        return true;
+    const auto isNearly = [](const QString &name, const QStringList &names) {
+        return names.contains(name) || !nearestName(name, names).isEmpty();
+    };
+    const auto &sections = file.sections();
+    const auto &keys = file.keys();
+    return std::any_of(sections.cbegin(), sections.cend(),
+                       [&](const ItemFileSection &section) {
+                           return isNearly(section.name, knownSections());
+                       })
+        || std::any_of(keys.cbegin(), keys.cend(), [&](const ItemFileKey &key) {
+               return isFieldAnywhere(key)
+                   || (key.section.isEmpty() && isNearly(key.name, knownFields()));
+           });
+}
+
 bool standsBefore(const Finding &a, const Finding &b)
 {
     return std::tie(a.path, a.position.line, a.position.column)
@@ -116,13 +146,18 @@ Findings findingsAmong(const QVector<ItemFile> &files)
     return findings;
 }
 
-LintResult lint(const QStringList &paths, const LintConfig &config, Console &console)
+LintResult lint(const QStringList &paths, const LintConfig &config, Console &console,
+                const QSet<QString> &found)
 {
     LintResult result;
     QVector<ItemFile> others; // What is wrong with them is known.
     for (CheckedFile &checked : checkedFiles(paths, config, console)) {
         if (!checked.file->error().isEmpty()) {
             result.unreadable.append(checked.file->error());
+            continue;
+        }
+        if (found.contains(checked.file->path()) && !isLikeItem(*checked.file)) {
+            result.skipped.append(checked.file->path());
             continue;
         }
         result.findings += checked.findings;

@@ -1553,16 +1553,8 @@ A file that cannot be formatted without changing what is read, for example with 
         <translation>逗号使文本成为列表，因而不再读作文本；请在文本两端加引号</translation>
     </message>
     <message>
-        <source>white space at the end of a text is dropped; put quotes around the text where it is meant</source>
-        <translation>文本末尾的空白会被丢弃；如果需要，请在文本两端加引号</translation>
-    </message>
-    <message>
         <source>the text is read as a value of another type; write &quot;@@&quot; for &quot;@&quot; where a text is meant</source>
         <translation>该文本读作其他类型的值；如果需要文本，“@”请写作“@@”</translation>
-    </message>
-    <message>
-        <source>the text begins or ends with white space</source>
-        <translation>文本以空白开头或结尾</translation>
     </message>
     <message>
         <source>nothing behind the &quot;=&quot; is read here; a &quot;=&quot; in a key is written as %3D, and a default is the extra key &quot;Default.&quot; and the key</source>
@@ -1591,10 +1583,6 @@ A file that cannot be formatted without changing what is read, for example with 
     <message>
         <source>A text is split at a comma</source>
         <translation>文本在逗号处拆开</translation>
-    </message>
-    <message>
-        <source>Outside of quotes a comma makes a list of a value, and a list is no text: it is read as an empty one. Put quotes around the text.</source>
-        <translation>引号之外的逗号使值成为列表，而列表不是文本：会读作空文本。请在文本两端加引号。</translation>
     </message>
     <message>
         <source>White space at the end of a text is dropped</source>
@@ -2159,6 +2147,46 @@ Rules are configured in files named &quot;.kelto-lint.ini&quot;, in the director
     <message>
         <source>What to write; else JSON of an item file, and an item file of everything else.</source>
         <translation>要写出的格式；未给出时，模块项文件写成 JSON，其他都写成模块项文件。</translation>
+    </message>
+    <message>
+        <source>a &quot;|&quot; divides the parts of this hint, and not a comma</source>
+        <translation>此提示的各部分以“|”分隔，而不是逗号</translation>
+    </message>
+    <message>
+        <source>a &quot;|&quot; divides the parts of this hint, and not a comma: write %1</source>
+        <translation>此提示的各部分以“|”分隔，而不是逗号：请写为 %1</translation>
+    </message>
+    <message>
+        <source> A &quot;|&quot; divides the parts of this hint, and not a comma.</source>
+        <translation>此提示的各部分以“|”分隔，而不是逗号。</translation>
+    </message>
+    <message>
+        <source>A list of choices is one single choice</source>
+        <translation>可选值列表只有一个可选值</translation>
+    </message>
+    <message>
+        <source>A &quot;|&quot; divides choices. With commas in quotes the whole list is one choice, and nothing else can be chosen.</source>
+        <translation>可选值以“|”分隔。引号内用逗号分隔时，整个列表是一个可选值，没有别的可选。</translation>
+    </message>
+    <message>
+        <source>white space in front of &quot;%1&quot; is dropped; put quotes around the text where it is meant</source>
+        <translation>“%1”前面的空白会被丢弃；确需空白时请给文本加引号</translation>
+    </message>
+    <message>
+        <source>white space behind &quot;%1&quot; is dropped; put quotes around the text where it is meant</source>
+        <translation>“%1”后面的空白会被丢弃；确需空白时请给文本加引号</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; begins or ends with white space, which is a part of the text</source>
+        <translation>“%1”的开头或结尾有空白，空白是文本的一部分</translation>
+    </message>
+    <message>
+        <source>Outside of quotes a comma makes a list of a value, and a list is no text: it is read as an empty one. Put quotes around the text. The hints &quot;Choices.&quot;, &quot;When.&quot;, &quot;Belong.&quot; and &quot;Order&quot; are lists that &quot;|&quot; divides: write it in place of the commas.</source>
+        <translation>引号外的逗号会把值变成列表，而列表不是文本：它被读作空文本。请给文本加引号。提示“Choices.”、“When.”、“Belong.”和“Order”是以“|”分隔的列表：请用它代替逗号。</translation>
+    </message>
+    <message>
+        <source>%1: is skipped, since nothing in it is a part of a module item. Name the file itself to check it.</source>
+        <translation>%1：已跳过，因为其中没有模块项的任何部分。要检查它，请直接指定该文件。</translation>
     </message>
 </context>
 </TS>
