@@ -204,7 +204,8 @@ Command lintCommand()
             "Command",
             "Lists every problem of module item files, one to a line: file, line, column, "
             "severity, what is wrong, and the rule in brackets. The exit code is 1 when there is a "
-            "finding, also if it is only a warning.\n\n"
+            "finding, also if it is only a warning. A file below a directory in which nothing is a "
+            "part of a module item is skipped.\n\n"
             "Rules are configured in files named \".kelto-lint.ini\", in the directory of a file "
             "or above it; each rule is what the nearest file says that names it. They hold the "
             "section [Rules], in which a key is a rule and its value one of error, warning and "

@@ -2121,14 +2121,14 @@ Exit code 1 when projects that were stored with the old version lose something: 
         <translation>PATH 可以是文件，也可以是目录，目录代表其下所有以“.ini”结尾的文件，也包括目录链接之后的文件；隐藏的文件和目录不算在内。</translation>
     </message>
     <message>
-        <source>Lists every problem of module item files, one to a line: file, line, column, severity, what is wrong, and the rule in brackets. The exit code is 1 when there is a finding, also if it is only a warning.
+        <source>Lists every problem of module item files, one to a line: file, line, column, severity, what is wrong, and the rule in brackets. The exit code is 1 when there is a finding, also if it is only a warning. A file below a directory in which nothing is a part of a module item is skipped.
 
 Rules are configured in files named &quot;.kelto-lint.ini&quot;, in the directory of a file or above it; each rule is what the nearest file says that names it. They hold the section [Rules], in which a key is a rule and its value one of error, warning and off:
 
   [Rules]
   comment=warning
   mode-without-parameters=off</source>
-        <translation>列出模块项文件的所有问题，每行一个：文件、行、列、严重程度、问题，以及方括号中的规则。有问题时退出码为 1，即使只有警告。
+        <translation>列出模块项文件的所有问题，每行一个：文件、行、列、严重程度、问题，以及方括号中的规则。有问题时退出码为 1，即使只有警告。目录中没有模块项任何部分的文件会被跳过。
 
 规则在名为“.kelto-lint.ini”的文件中设置，该文件位于模块项文件所在的目录或其上级目录；每条规则以写有该规则的最近的文件为准。其中有 [Rules] 节，键为规则，值为 error、warning 或 off：
 
