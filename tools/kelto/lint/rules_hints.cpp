@@ -132,7 +132,8 @@ bool isConsequence(const Problem &problem, const ItemFile &file, const DeclaredK
 QString meantChoice(const Problem &problem)
 {
     QStringList values;
-    for (const QString &choice : problem.part.split(QLatin1Char('|'))) {
+    const QStringList choices = problem.part.split(QLatin1Char('|'));
+    for (const QString &choice : choices) {
         const QString value = choice.section(QLatin1Char('='), 0, 0).trimmed();
         const QString label = choice.section(QLatin1Char('='), 1).trimmed();
         if (label.compare(problem.value.trimmed(), Qt::CaseInsensitive) == 0)
