@@ -210,8 +210,18 @@ private:
             append(QChar(code), escape);
         if (m_at == start || !fits)
             report(Misspelling::BadEscape, escape);
-        else if (QChar::isSurrogate(code) || code == QChar::ByteOrderMark)
+        else if (QChar::isSurrogate(code) || (code == QChar::ByteOrderMark && beginsPiece()))
             report(Misspelling::DroppedCharacter, escape);
+    }
+
+    /// Whether QSettings begins a piece with the last character when it writes.
+    bool beginsPiece() const
+    {
+        if (m_element.size() < 2)
+            return true;
+        const QChar before = m_element.at(m_element.size() - 2);
+        return before < QLatin1Char(' ') || before == QLatin1Char('"')
+            || before == QLatin1Char('\\');
     }
 
     const char *m_at;

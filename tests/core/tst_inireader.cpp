@@ -228,7 +228,12 @@ private Q_SLOTS:
             { "1:3 dropped character", "2:3 dropped character" });
         row("byte order marks in values", "a=\xef\xbb\xbfy\nb=x\v\xef\xbb\xbf\nc=\\xfeff\n",
             { "1:3 dropped character", "2:5 dropped character", "3:3 dropped character" });
-        row("byte order marks that stay", "a=x\xef\xbb\xbfy\xef\xbb\xbf\n", {});
+        row("byte order marks that stay",
+            "a=x\xef\xbb\xbfy\xef\xbb\xbf\nb=x\\xfeff\nc=\"y\\xfeffz\"\n", {});
+        row("byte order marks in escapes behind what is escaped",
+            "a=\\t\\xfeff\nb=\\\"\\xfeff\nc=\\\\\\xfeff\nd=x, \\xfeff\n",
+            { "1:5 dropped character", "2:5 dropped character", "3:5 dropped character",
+              "4:6 dropped character" });
         row("bytes that are not UTF-8", "a=1\nb=\xe5\x80\xbc \xe4\xf6\n", { "2:5 not UTF-8" });
         row("UTF-8 that is cut off", "a=\xe5\x80", { "1:3 not UTF-8" });
         row("bytes that a replacement character begins with", "a=x\xef\nb=\xef\xbf\nc=\xef\xbf",

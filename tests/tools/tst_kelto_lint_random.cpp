@@ -286,6 +286,10 @@ void TestKeltoLintRandom::findsNoMoreInWhatToolsWrite()
         const ItemFile file("item.ini");
         // Arranging a file may undo damage and leave what followed from it, which counts, too.
         const Findings before = everyFindingIn(file) + findingsAmong({ file });
+        // In the place of a quote that is not closed, line breaks and white space are told then.
+        const auto isQuote = [](const Finding &each) { return each.rule == "quote-across-lines"; };
+        const int most
+            = before.size() + int(std::count_if(before.cbegin(), before.cend(), isQuote));
         DocumentError error;
         QByteArrayList texts { formatted(bytes, &error) };
         // What is missing in a file with errors is missed in the item, too, by another name.
@@ -294,15 +298,10 @@ void TestKeltoLintRandom::findsNoMoreInWhatToolsWrite()
         texts.removeAll({});
         for (const QByteArray &text : qAsConst(texts)) {
             QVERIFY(writeFile("written.ini", text));
-            Findings after = allFindings(ItemFile("written.ini"));
-            // FIXME: of a byte-order mark within a text the lint tells in some damaged files only
-            // after they are written anew.
-            const auto isMark
-                = [](const Finding &each) { return each.rule == "unsaved-character"; };
-            after.erase(std::remove_if(after.begin(), after.end(), isMark), after.end());
+            const Findings after = allFindings(ItemFile("written.ini"));
             const QString why = QString::fromUtf8(bytes + '\n' + text + '\n')
                 + linesOf(after, Severity::Off).join('\n');
-            QVERIFY2(after.size() <= before.size(), qPrintable(why));
+            QVERIFY2(after.size() <= most, qPrintable(why));
         }
         written += texts.size();
     }
