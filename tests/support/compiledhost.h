@@ -4,24 +4,22 @@
 #ifndef COMPILEDHOST_H
 #define COMPILEDHOST_H
 
+#include "support/programs.h"
 #include "support/testfiles.h"
 
 #include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QProcess>
 #include <QString>
 #include <QStringList>
 
 /// What @p program printed, which is nothing when it failed.
 inline QByteArray outputOf(const QString &program, const QStringList &arguments)
 {
-    QProcess process;
-    process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    process.start(program, arguments);
-    if (!process.waitForFinished(100000) || process.exitCode() != 0)
-        qCritical("%s", qUtf8Printable(program + ": " + process.errorString()));
-    return process.readAllStandardOutput();
+    const Outcome outcome = outcomeOf(program, arguments);
+    if (outcome.exitCode != 0)
+        qCritical("%s: %s", qUtf8Printable(program), outcome.errors.constData());
+    return outcome.output;
 }
 
 /// The items, as JSON, that a small host holds after it has run @p statements, which append them to

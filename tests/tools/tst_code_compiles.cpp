@@ -13,7 +13,6 @@
 #include <KeltoItemTranslation>
 #include <VIniSettings>
 
-#include <QProcess>
 #include <QTest>
 
 #include <algorithm>
@@ -48,11 +47,9 @@ AUTH_INF itemOf(const QString &context, const QString &function)
 
 void runKelto(const QStringList &arguments)
 {
-    QProcess process;
-    process.start(KELTO_COMMAND, arguments);
-    QVERIFY(process.waitForFinished());
-    QCOMPARE(QString::fromUtf8(process.readAllStandardError()), QString());
-    QCOMPARE(process.exitCode(), 0);
+    const Outcome outcome = outcomeOf(KELTO_COMMAND, arguments);
+    QCOMPARE(QString::fromUtf8(outcome.errors), QString());
+    QCOMPARE(outcome.exitCode, 0);
 }
 
 } // namespace
@@ -136,11 +133,10 @@ void TestCodeCompiles::refusesFileNamesThatResourcesCannotHave()
     QFETCH(QString, name);
     itemOf("Texts", "beam").save_ini("beam.ini");
     QVERIFY(QFile::rename("beam.ini", name));
-    QProcess process;
-    process.start(KELTO_COMMAND, QStringList { "code", "--embed", "-o", "out", "--", name });
-    QVERIFY(process.waitForFinished());
-    QCOMPARE(process.exitCode(), 1);
-    QVERIFY(process.readAllStandardOutput().contains("holds a control character"));
+    const Outcome outcome
+        = outcomeOf(KELTO_COMMAND, { "code", "--embed", "-o", "out", "--", name });
+    QCOMPARE(outcome.exitCode, 1);
+    QVERIFY(outcome.output.contains("holds a control character"));
     QVERIFY(!QFile::exists("out"));
 }
 
@@ -158,13 +154,11 @@ void TestCodeCompiles::stopsAtMacros()
     QFETCH(QString, macro);
     itemOf("Host::TEXTS", "beam").save_ini("beam.ini");
     runKelto({ "code", "-o", ".", "--name", "compiled", "beam.ini" });
-    QProcess process;
-    process.start(KELTO_COMPILER,
-                  QStringList { "-c", "compiled.cpp", "-o", "compiled.o", "-D" + macro + "=other",
-                                "@" KELTO_COMPILER_ARGUMENTS });
-    QVERIFY(process.waitForFinished());
-    QVERIFY(process.exitCode() != 0);
-    QVERIFY(process.readAllStandardError().contains("This name of an item is a macro."));
+    const Outcome outcome = outcomeOf(KELTO_COMPILER,
+                                      { "-c", "compiled.cpp", "-o", "compiled.o",
+                                        "-D" + macro + "=other", "@" KELTO_COMPILER_ARGUMENTS });
+    QVERIFY(outcome.exitCode > 0);
+    QVERIFY(outcome.errors.contains("This name of an item is a macro."));
 }
 
 QTEST_GUILESS_MAIN(TestCodeCompiles)

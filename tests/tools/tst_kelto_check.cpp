@@ -5,6 +5,7 @@
 
 #include "support/directorytest.h"
 #include "support/hintitems.h"
+#include "support/programs.h"
 #include "support/testfiles.h"
 
 #include <Kelto/AUTH_SET>
@@ -14,7 +15,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
 #include <QTest>
 
 class TestKeltoCheck : public DirectoryTest
@@ -26,20 +26,6 @@ private Q_SLOTS:
 };
 
 namespace {
-
-struct Outcome
-{
-    QByteArray output;
-    int exitCode;
-};
-
-Outcome outcomeOf(const QStringList &arguments)
-{
-    QProcess process;
-    process.start(KELTO_COMMAND, arguments);
-    process.waitForFinished();
-    return { process.readAllStandardOutput(), process.exitCode() };
-}
 
 QStringList skipArguments(const QStringList &groups)
 {
@@ -95,13 +81,13 @@ void TestKeltoCheck::agreesWithTheLibrary()
 
         QStringList arguments { "check", "--item", file, "--mode", mode, valueFile };
         arguments += skipArguments(skipped);
-        const Outcome text = outcomeOf(arguments);
+        const Outcome text = outcomeOf(KELTO_COMMAND, arguments);
         const QByteArray verdict = ": " + QByteArray(isValid ? "complete" : "not complete");
         QVERIFY2(text.output.contains(verdict + " for the mode"), text.output.constData());
         QCOMPARE(text.exitCode, findings.isEmpty() ? 0 : 1);
         QCOMPARE(text.output.count('\n'), findings.size() + 1);
 
-        const Outcome json = outcomeOf(arguments + QStringList("--json"));
+        const Outcome json = outcomeOf(KELTO_COMMAND, arguments + QStringList("--json"));
         const QJsonObject result = QJsonDocument::fromJson(json.output).object();
         QCOMPARE(result["complete"], QJsonValue(isValid));
         QCOMPARE(textsIn(result["findings"].toArray()), textsOf(findings));

@@ -5,13 +5,13 @@
 // what a reader of HTML, of Qt Help and a browser make of it.
 
 #include "support/directorytest.h"
+#include "support/programs.h"
 #include "support/testfiles.h"
 
 #include <QDirIterator>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
 #include <QSet>
 #include <QStandardPaths>
 #include <QTest>
@@ -42,29 +42,22 @@ struct Element
 
 using Page = QVector<Element>;
 
-QString outputOf(const QString &program, const QStringList &arguments, int *exitCode,
-                 int timeout = 60000)
+/// All that the program prints.
+QString run(const QString &program, const QStringList &arguments)
 {
-    QProcess process;
-    process.start(program, arguments);
-    *exitCode = process.waitForFinished(timeout) && process.exitStatus() == QProcess::NormalExit
-        ? process.exitCode()
-        : -1;
-    process.kill();
-    return QString::fromUtf8(process.readAllStandardOutput() + process.readAllStandardError());
+    const Outcome outcome = outcomeOf(program, arguments);
+    const QString output = QString::fromUtf8(outcome.output + outcome.errors);
+    if (outcome.exitCode != 0)
+        QTest::qFail(qPrintable(output), __FILE__, __LINE__);
+    return output;
 }
 
 void makeManual(const QString &directory, const QString &translation, const QStringList &more = {})
 {
-    int exitCode = -1;
-    const QString output
-        = outputOf(KELTO_COMMAND,
-                   QStringList { "doc", WORKBENCH_DIRECTORY "/modules", CASE_DIRECTORY "/names",
-                                 CASE_DIRECTORY "/hostile.ini", "-o", directory, "--translation",
-                                 translation }
-                       + more,
-                   &exitCode);
-    QVERIFY2(exitCode == 0, qPrintable(output));
+    run(KELTO_COMMAND,
+        QStringList { "doc", WORKBENCH_DIRECTORY "/modules", CASE_DIRECTORY "/names",
+                      CASE_DIRECTORY "/hostile.ini", "-o", directory, "--translation", translation }
+            + more);
 }
 
 const QString &workbenchTranslation()
@@ -246,11 +239,7 @@ void TestKeltoDoc::compiledTranslationsGiveTheSame()
 {
     if (!QFileInfo::exists(KELTO_LRELEASE))
         QSKIP("There is no lrelease.", "");
-    int exitCode = -1;
-    const QString output
-        = outputOf(KELTO_LRELEASE, { workbenchTranslation(), "-qm", "compiled_zh_CN.qm" },
-                   &exitCode);
-    QVERIFY2(exitCode == 0, qPrintable(output));
+    run(KELTO_LRELEASE, { workbenchTranslation(), "-qm", "compiled_zh_CN.qm" });
     makeManual("edited", workbenchTranslation());
     makeManual("compiled", "compiled_zh_CN.qm");
     QCOMPARE(contentsIn("compiled"), contentsIn("edited"));
@@ -286,11 +275,8 @@ void TestKeltoDoc::becomesHelp()
     makeManual("manual", workbenchTranslation(), { "--format", "qhp" });
     qputenv("QT_QPA_PLATFORM", "offscreen");
     for (const QString &name : { QString("manual"), QString("manual.zh_CN") }) {
-        int exitCode = -1;
         const QString output
-            = outputOf(generator, { "manual/" + name + ".qhp", "-o", "manual/" + name + ".qch" },
-                       &exitCode);
-        QVERIFY2(exitCode == 0, qPrintable(output));
+            = run(generator, { "manual/" + name + ".qhp", "-o", "manual/" + name + ".qch" });
         QVERIFY2(output.contains("Documentation successfully generated."), qPrintable(output));
         QVERIFY2(!output.contains("warning", Qt::CaseInsensitive), qPrintable(output));
         QVERIFY(fileContent("manual/" + name + ".qch").startsWith("SQLite format 3"));
@@ -369,18 +355,15 @@ void TestKeltoDoc::fitsTheScreenAndIsSearched()
     makeManual("manual", workbenchTranslation());
     const QStringList pages = pagesIn("manual").keys();
     QVERIFY(writeFile("trial.html", browserTrial(pages)));
-    int exitCode = -1;
     // Frames of files may look into each other only with this switch, and the administrator has no
     // sandbox.
     const QString output
-        = outputOf(browser,
-                   { "--headless", "--no-sandbox", "--disable-gpu", "--disable-dev-shm-usage",
-                     "--no-first-run", "--allow-file-access-from-files", "--enable-logging=stderr",
-                     "--user-data-dir=" + QDir::current().filePath("profile"),
-                     "--window-size=1400,900", "--virtual-time-budget=60000", "--dump-dom",
-                     QUrl::fromLocalFile(QDir::current().filePath("trial.html")).toString() },
-                   &exitCode, 120000);
-    QVERIFY2(exitCode == 0, qPrintable(output));
+        = run(browser,
+              { "--headless", "--no-sandbox", "--disable-gpu", "--disable-dev-shm-usage",
+                "--no-first-run", "--allow-file-access-from-files", "--enable-logging=stderr",
+                "--user-data-dir=" + QDir::current().filePath("profile"), "--window-size=1400,900",
+                "--virtual-time-budget=60000", "--dump-dom",
+                QUrl::fromLocalFile(QDir::current().filePath("trial.html")).toString() });
     QVERIFY2(!output.contains(":CONSOLE"), qPrintable(output));
     QVERIFY2(output.contains(QString("checks: %1; wrong: []").arg(pages.size() * 2 * 11)),
              qPrintable(output));

@@ -3,12 +3,10 @@
 
 // What the rules find, in their own examples and in other files.
 
-#include "lint/linter.h"
-
 #include "console.h"
 #include "lint/lintconfig.h"
+#include "lintfindings.h"
 #include "support/directorytest.h"
-#include "support/testfiles.h"
 #include "units/unit.h"
 
 #include <QTest>
@@ -25,44 +23,17 @@ private Q_SLOTS:
 
 namespace {
 
-/// Writes the files of an example, which a line "; --- NAME ---" divides, and reads them again.
-/// Each has a directory of its own, since QSettings may not notice that a file has changed.
-QVector<ItemFile> filesOf(const char *example, const QString &directory)
+QStringList placesIn(const QVector<ItemFile> &files)
 {
-    QByteArrayList lines = QByteArray(example).split('\n');
-    QByteArray name = "first.ini";
-    QMap<QByteArray, QByteArray> contents;
-    for (int i = 0; i < lines.size(); ++i) {
-        const QByteArray &line = lines.at(i);
-        if (line.startsWith("; --- ") && line.endsWith(" ---"))
-            name = line.mid(6).chopped(4);
-        else
-            contents[name] += line + (i + 1 < lines.size() ? "\n" : "");
+    QStringList places;
+    const Findings findings = allFindingsIn(files);
+    for (const Finding &finding : findings) {
+        places.append(QString("%1 %2:%3:%4")
+                          .arg(finding.rule, QFileInfo(finding.path).fileName())
+                          .arg(finding.position.line)
+                          .arg(finding.position.column));
     }
-    QVector<ItemFile> files;
-    for (auto each = contents.cbegin(); each != contents.cend(); ++each) {
-        const QString path = directory + '/' + QString::fromUtf8(each.key());
-        writeFile(path, each.value());
-        if (path.endsWith(".ini"))
-            files.append(ItemFile(path));
-    }
-    return files;
-}
-
-QStringList findingsOf(const QVector<ItemFile> &files)
-{
-    Findings findings;
-    for (const ItemFile &file : files)
-        findings += findingsIn(file);
-    findings += findingsAmong(files);
-    QStringList lines;
-    for (const Finding &finding : qAsConst(findings)) {
-        lines.append(QString("%1 %2:%3:%4")
-                         .arg(finding.rule, QFileInfo(finding.path).fileName())
-                         .arg(finding.position.line)
-                         .arg(finding.position.column));
-    }
-    return lines;
+    return places;
 }
 
 } // namespace
@@ -89,8 +60,8 @@ void TestKeltoLint::showsWhatItMeans()
         QSKIP("This program was built without UDUNITS.", );
     const Rule *const rule = ruleOf(finding.section(' ', 0, 0));
 
-    QCOMPARE(findingsOf(filesOf(rule->bad, "bad")), QStringList(finding));
-    QCOMPARE(findingsOf(filesOf(rule->good, "good")), QStringList());
+    QCOMPARE(placesIn(filesOf(rule->bad, "bad/")), QStringList(finding));
+    QCOMPARE(placesIn(filesOf(rule->good, "good/")), QStringList());
 }
 
 void TestKeltoLint::findsNothingInTheWorkbench()

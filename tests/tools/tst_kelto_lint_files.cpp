@@ -3,20 +3,14 @@
 
 // Findings about how one file is written, and what is mended in it.
 
-#include "lint/linter.h"
-
 #include "console.h"
-#include "itemfile.h"
 #include "lint/lintconfig.h"
 #include "lint/lintitem.h"
+#include "lintfindings.h"
 #include "support/directorytest.h"
-#include "support/testfiles.h"
 #include "terminaltext.h"
 
-#include <QRegularExpression>
 #include <QTest>
-
-#include <algorithm>
 
 class TestKeltoLintFiles : public DirectoryTest
 {
@@ -34,24 +28,6 @@ private Q_SLOTS:
     void findsInLargeFiles_data();
     void findsInLargeFiles();
 };
-
-namespace {
-
-/// "file:line:column rule" and the text.
-QStringList linesOf(const Findings &findings)
-{
-    QStringList lines;
-    for (const Finding &finding : findings) {
-        lines += QString("%1:%2:%3 %4 %5")
-                     .arg(finding.path)
-                     .arg(finding.position.line)
-                     .arg(finding.position.column)
-                     .arg(finding.rule, finding.text);
-    }
-    return lines;
-}
-
-} // namespace
 
 void TestKeltoLintFiles::findsInOneFile_data()
 {
@@ -171,14 +147,10 @@ void TestKeltoLintFiles::mendsWithOneRightAnswerOnly()
 
     writeFile("first.ini", file);
     const Findings findings = findingsIn(ItemFile("first.ini"));
-    int found = 0;
-    int fixable = 0;
-    for (const Finding &finding : findings) {
-        found += finding.rule == rule ? 1 : 0;
-        fixable += finding.rule == rule && !finding.fix.isEmpty() ? 1 : 0;
-    }
-    QVERIFY(found > 0);
-    QCOMPARE(fixable, fixes);
+    QVERIFY(countOf(findings, rule) > 0);
+    const auto isMended
+        = [&rule](const Finding &each) { return each.rule == rule && !each.fix.isEmpty(); };
+    QCOMPARE(int(std::count_if(findings.cbegin(), findings.cend(), isMended)), fixes);
 }
 
 void TestKeltoLintFiles::takesEscapesForMeantInSavedFiles_data()
@@ -222,8 +194,7 @@ void TestKeltoLintFiles::takesEscapesForMeantInSavedFiles()
     QVERIFY(bytes.contains(before));
     writeFile("first.ini", before.isEmpty() ? bytes : bytes.replace(before, after));
     const Findings findings = findingsIn(ItemFile("first.ini"));
-    const auto isEscape = [](const Finding &each) { return each.rule == "unquoted-escape"; };
-    QCOMPARE(int(std::count_if(findings.cbegin(), findings.cend(), isEscape)), count);
+    QCOMPARE(countOf(findings, "unquoted-escape"), count);
 }
 
 void TestKeltoLintFiles::findsNothingButUtf16()
@@ -233,7 +204,7 @@ void TestKeltoLintFiles::findsNothingButUtf16()
     writeFile("second.ini", text.mid(2));
     const QStringList paths { "first.ini", "second.ini" };
     Console console;
-    QCOMPARE(linesOf(lint(paths, LintConfig(paths), console).findings),
+    QCOMPARE(linesWithFilesOf(lint(paths, LintConfig(paths), console).findings),
              QStringList({ "first.ini:1:1 not-utf8 the file is UTF-16; save it as UTF-8",
                            "second.ini:1:1 not-utf8 the file is UTF-16; save it as UTF-8" }));
 }
@@ -248,8 +219,7 @@ void TestKeltoLintFiles::findsInOneFile()
     const ItemFile item("first.ini");
     for (const RuleArea &area : { damageRules(), keyRules(), structureRules(), valueRules() })
         area.checkFile(LintItem(item), &findings);
-    QStringList found = linesOf(findings);
-    QCOMPARE(found.replaceInStrings(QRegularExpression("^first.ini:"), {}), lines);
+    QCOMPARE(linesOf(findings), lines);
 }
 
 void TestKeltoLintFiles::printsNoChangeOfDirection()
@@ -307,8 +277,7 @@ void TestKeltoLintFiles::findsInLargeFiles()
 
     writeFile("first.ini", file);
     const Findings findings = findingsIn(ItemFile("first.ini"));
-    const auto isOfRule = [&rule](const Finding &finding) { return finding.rule == rule; };
-    QCOMPARE(int(std::count_if(findings.cbegin(), findings.cend(), isOfRule)), count);
+    QCOMPARE(countOf(findings, rule), count);
 }
 
 QTEST_GUILESS_MAIN(TestKeltoLintFiles)

@@ -6,11 +6,9 @@
 
 #include "lint/fixes.h"
 
-#include "itemfile.h"
 #include "lint/lintconfig.h"
-#include "lint/linter.h"
+#include "lintfindings.h"
 #include "support/directorytest.h"
-#include "support/testfiles.h"
 
 #include <QTest>
 
@@ -91,12 +89,10 @@ void TestKeltoLintLists::finds()
     const int headLines = head.count('\n');
     QStringList found;
     const Findings findings = findingsIn(file);
-    for (const Finding &finding : findings) {
-        if (finding.position.line > headLines)
-            found += QString("%1:%2 %3")
-                         .arg(finding.position.line - headLines)
-                         .arg(finding.position.column)
-                         .arg(finding.rule + ' ' + finding.text);
+    for (Finding finding : findings) {
+        finding.position.line -= headLines;
+        if (finding.position.line > 0)
+            found.append(lineOf(finding));
     }
     QCOMPARE(found, lines);
     QCOMPARE(fixedFile(file, LintConfig({})).bytes.mid(head.size()), fixed.toUtf8());

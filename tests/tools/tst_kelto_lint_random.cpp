@@ -4,18 +4,16 @@
 // The lint and thousands of files: what it says about items that come back from a file changed, and
 // about those that do not.
 
-#include "lint/linter.h"
-
 #include "convert/inidocument.h"
 #include "convert/jsonitem.h"
 #include "format/format.h"
 #include "lint/fixes.h"
 #include "lint/lintconfig.h"
+#include "lintfindings.h"
 #include "naiveitems.h"
 #include "support/directorytest.h"
 #include "support/hostilebytes.h"
 #include "support/itemjson.h"
-#include "support/testfiles.h"
 
 #include <QJsonDocument>
 #include <QRegularExpression>
@@ -45,26 +43,6 @@ private:
 };
 
 namespace {
-
-QStringList linesOf(const Findings &findings, Severity least)
-{
-    QStringList lines;
-    for (const Finding &finding : findings) {
-        const Rule *const rule = ruleOf(finding.rule);
-        if (!rule || rule->severity >= least) {
-            lines.append(QString("%1:%2 %3 %4")
-                             .arg(finding.position.line)
-                             .arg(finding.position.column)
-                             .arg(finding.rule, finding.text));
-        }
-    }
-    return lines;
-}
-
-Findings allFindings(const ItemFile &file)
-{
-    return findingsIn(file) + findingsAmong({ file });
-}
 
 /// @p bytes with some pieces changed, moved, doubled or gone.
 QByteArray mutated(QByteArray bytes, Dice *dice)
@@ -176,7 +154,7 @@ void TestKeltoLintRandom::namesWhatComesBackChanged()
         const ItemFile file(path);
         const QString changes = differences(file.item(), asRead(item));
         // What a unit means is another matter than whether it is read.
-        const QStringList errors = linesOf(allFindings(file), Severity::Error)
+        const QStringList errors = linesOf(allFindingsIn({ file }), Severity::Error)
                                        .filter(QRegularExpression("^(?!.*unit-dimension)"));
         const QString why = QString::fromUtf8(bytes) + '\n' + changes + errors.join('\n');
         QVERIFY2(changes.isEmpty() == errors.isEmpty(), qPrintable(why));
@@ -202,7 +180,7 @@ void TestKeltoLintRandom::findsNothingInWhatIsSaved()
         if (!results.isEmpty())
             file.setValue("KeltoItem/output_results", results);
         file.saveLocal();
-        const QStringList lines = linesOf(allFindings(ItemFile(path)), Severity::Warning);
+        const QStringList lines = linesOf(allFindingsIn({ ItemFile(path) }), Severity::Warning);
         QCOMPARE(lines.filter(" text-in-code ").isEmpty(), isCarried);
         QCOMPARE(lines.filter(QRegularExpression("^(?!.* text-in-code )")), QStringList());
     }
@@ -226,12 +204,10 @@ void TestKeltoLintRandom::fixesNothingButWhatIsWrong()
         QCOMPARE(fixedFile(after, config).fixed.size(), 0);
         QCOMPARE(fixed.bytes == before.bytes(), fixed.fixed.isEmpty());
         // White space is dropped either way.
-        const auto isBlank
-            = [](const Finding &finding) { return finding.rule == "dropped-white-space"; };
-        const Findings &list = fixed.fixed;
-        if (std::any_of(list.cbegin(), list.cend(), isBlank)) {
+        if (countOf(fixed.fixed, "dropped-white-space") > 0) {
             QCOMPARE(differences(after.item(), before.item()), QString());
-        } else if (!list.isEmpty() && linesOf(allFindings(after), Severity::Error).isEmpty()) {
+        } else if (!fixed.fixed.isEmpty()
+                   && linesOf(allFindingsIn({ after }), Severity::Error).isEmpty()) {
             QCOMPARE(differences(after.item(), asRead(item)), QString());
             ++restored;
         }
@@ -256,7 +232,7 @@ void TestKeltoLintRandom::survivesMutations()
         const Findings findings = found + findingsAmong({ file });
         for (const Finding &finding : findings) {
             QVERIFY2(isInside(finding.position, file.bytes()),
-                     qPrintable(path + ' ' + linesOf({ finding }, Severity::Off).join("")));
+                     qPrintable(path + ' ' + lineOf(finding)));
         }
         // What follows from something else is left out, but never the last error.
         const QStringList all = linesOf(everyFindingIn(file), Severity::Error);
@@ -287,9 +263,7 @@ void TestKeltoLintRandom::findsNoMoreInWhatToolsWrite()
         // Arranging a file may undo damage and leave what followed from it, which counts, too.
         const Findings before = everyFindingIn(file) + findingsAmong({ file });
         // In the place of a quote that is not closed, line breaks and white space are told then.
-        const auto isQuote = [](const Finding &each) { return each.rule == "quote-across-lines"; };
-        const int most
-            = before.size() + int(std::count_if(before.cbegin(), before.cend(), isQuote));
+        const int most = before.size() + countOf(before, "quote-across-lines");
         DocumentError error;
         QByteArrayList texts { formatted(bytes, &error) };
         // What is missing in a file with errors is missed in the item, too, by another name.
@@ -298,9 +272,9 @@ void TestKeltoLintRandom::findsNoMoreInWhatToolsWrite()
         texts.removeAll({});
         for (const QByteArray &text : qAsConst(texts)) {
             QVERIFY(writeFile("written.ini", text));
-            const Findings after = allFindings(ItemFile("written.ini"));
-            const QString why = QString::fromUtf8(bytes + '\n' + text + '\n')
-                + linesOf(after, Severity::Off).join('\n');
+            const Findings after = allFindingsIn({ ItemFile("written.ini") });
+            const QString why
+                = QString::fromUtf8(bytes + '\n' + text + '\n') + linesOf(after).join('\n');
             QVERIFY2(after.size() <= most, qPrintable(why));
         }
         written += texts.size();

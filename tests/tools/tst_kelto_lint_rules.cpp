@@ -3,16 +3,11 @@
 
 // Findings about what an item says, one row each: the files, and all findings in them.
 
-#include "lint/rules.h"
-
-#include "itemfile.h"
 #include "lint/lintitem.h"
+#include "lintfindings.h"
 #include "support/directorytest.h"
-#include "support/testfiles.h"
 #include "units/unit.h"
 
-#include <QDir>
-#include <QRegularExpression>
 #include <QTest>
 
 class TestKeltoLintRules : public DirectoryTest
@@ -26,30 +21,13 @@ private Q_SLOTS:
 
 namespace {
 
-/// Writes the files of an example; names of the module item files among them.
-QStringList writeFiles(const QString &text)
+/// What the rules that are not about the way a file is written find.
+Findings findingsAbout(const QVector<ItemFile> &files)
 {
-    static const QRegularExpression head("^; --- ", QRegularExpression::MultilineOption);
-    const QStringList parts
-        = QString("; --- first.ini ---\n" + text).split(head, Qt::SkipEmptyParts);
-    QStringList names;
-    for (const QString &part : parts) {
-        const QString name = part.section(" ---\n", 0, 0);
-        writeFile(name, part.section(" ---\n", 1).toUtf8());
-        if (name.endsWith(".ini"))
-            names.append(name);
-    }
-    return names;
-}
-
-Findings findingsIn(const QStringList &paths, const QVector<RuleArea> &areas = ruleAreas())
-{
-    QVector<ItemFile> files;
-    for (const QString &path : paths)
-        files.append(ItemFile(path));
     Findings findings;
-    for (const RuleArea &area : areas) {
-        for (const ItemFile &file : qAsConst(files)) {
+    for (const RuleArea &area :
+         { nameRules(), registryRules(), codeRules(), hintRules(), unitRules() }) {
+        for (const ItemFile &file : files) {
             if (area.checkFile)
                 area.checkFile(LintItem(file), &findings);
         }
@@ -57,20 +35,6 @@ Findings findingsIn(const QStringList &paths, const QVector<RuleArea> &areas = r
             area.checkAll(files, &findings);
     }
     return findings;
-}
-
-/// "file:line:column rule" and the text.
-QStringList linesOf(const Findings &findings)
-{
-    QStringList lines;
-    for (const Finding &finding : findings) {
-        lines += QString("%1:%2:%3 %4 %5")
-                     .arg(finding.path)
-                     .arg(finding.position.line)
-                     .arg(finding.position.column)
-                     .arg(finding.rule, finding.text);
-    }
-    return lines;
 }
 
 } // namespace
@@ -400,9 +364,7 @@ void TestKeltoLintRules::finds()
     QFETCH(QString, files);
     QFETCH(QStringList, lines);
 
-    const QVector<RuleArea> areas { nameRules(), registryRules(), codeRules(), hintRules(),
-                                    unitRules() };
-    QCOMPARE(linesOf(findingsIn(writeFiles(files), areas)), lines);
+    QCOMPARE(linesWithFilesOf(findingsAbout(filesOf(files.toUtf8()))), lines);
 }
 
 QTEST_GUILESS_MAIN(TestKeltoLintRules)

@@ -65,14 +65,14 @@ void TestUnit::readsWhatEngineersWrite_data()
     row("prefix in Chinese", "千牛|kN", 1e3, "kg m s^-2");
     row("line load", "kN/m|千牛/米|N/mm", 1e3, "kg s^-2");
     row("pressure", "MPa|N/mm²|N/mm2|N mm^-2|N·mm⁻²|兆帕|MN/m²", 1e6, "kg m^-1 s^-2");
-    row("pressure of the air", "bar|bar(g)|bara|巴|100 kPa", 1e5, "kg m^-1 s^-2");
+    row("pressure of the air", "bar|bar(g)|barg|bara|巴|100 kPa", 1e5, "kg m^-1 s^-2");
     row("fracture toughness", "MPa·√m|MPa√m|MPa m^0.5|MPa·m^(1/2)|MPa·m½|MPa m1/2|MPa·√(m)", 1e6,
         "kg m^-0.5 s^-2");
     row("fracture toughness in small", "N/mm^1.5|N·mm^-3/√(mm^-3)", std::pow(10, 4.5),
         "kg m^-0.5 s^-2");
     row("temperature", "°C|degC|℃|ºC|摄氏度|K|°K", 1, "K");
     row("turns", "r/min|rpm|U/min|rev/min|转/分|转/分钟|min⁻¹·r", turn / 60, "s^-1");
-    row("frequency", "Hz|1/s|s⁻¹|s^-1|s-1|赫兹", 1, "s^-1");
+    row("frequency", "Hz|1/s|s⁻¹|s^-1|s-1|/s|/ s|赫兹", 1, "s^-1");
     row("frequency in minutes", "1/min|min⁻¹|min-1", 1. / 60, "s^-1");
     row("angle", "°|deg|degree|度", M_PI / 180, "");
     row("small angle", "″|\"|arcsec", M_PI / 180 / 3600, "");
@@ -95,31 +95,27 @@ void TestUnit::readsWhatEngineersWrite_data()
     row("miles per hour are no light", "mph", 0.44704, "m s^-1");
     row("years are no area", "a", 31556925.9747, "s");
     row("dioptres are no pints", "dpt", 1, "m^-1");
-    row("column of water", "mmH2O|mmWS", 9.80665, "kg m^-1 s^-2");
     row("pounds and feet", "ft-lb|lbf·ft", 1.3558179483314, "kg m^2 s^-2");
     row("acceleration of falling", "gn|g0|9.80665 N/kg", 9.80665, "m s^-2");
     row("small letters are knots", "kn|kts", 1852. / 3600, "m s^-1");
     row("height above the sea", "m ü. NN|m ü.NN|m NHN|m a.s.l.|mNN", 1, "m");
     row("a power of the last symbol only", "kNm²|kNm^2|kNm2|kN·m²", 1e3, "kg m^3 s^-2");
     row("moment of inertia", "kgm²|kgm2|kg m²|kg·m²|t·mm²·10^3", 1, "kg m^2");
-    row("frequency without a number", "/s|/ s", 1, "s^-1");
-    row("columns of water", "m w.c.|mWS|m WC|mwc|m H2O|mH2O", 9806.65, "kg m^-1 s^-2");
-    row("columns of mercury", "cmHg|cm Hg", 1333.22387415, "kg m^-1 s^-2");
-    row("squares and cubes in words", "sq ft|sq. ft|sqft|ft²|sq.ft", 0.09290304, "m^2");
+    row("columns of water", "m w.c.|mWS|m WC|mwc|m H2O|mH2O|1000 mmH2O|1000 mmWS", 9806.65,
+        "kg m^-1 s^-2");
+    row("columns of mercury", "mmHg|mm Hg|Torr|0.1 cmHg|0.1 cm Hg", 133.322387415, "kg m^-1 s^-2");
+    row("squares in words", "sq ft|sq. ft|sqft|ft²|sq.ft", 0.09290304, "m^2");
     row("cubes in words", "cu ft|cu. ft.|cuft|ft³", 0.028316846592, "m^3");
     row("old German areas and volumes", "qm|m2|cbm/m|lfm²", 1, "m^2");
     row("forces of pounds", "lbf|kip/1000", 4.4482216152605, "kg m s^-2");
     row("pressures of pounds", "psi|psia|ksi/1000|lbf/in²", 6894.757293168, "kg m^-1 s^-2");
-    row("gauge pressure", "barg|bar(g)", 1e5, "kg m^-1 s^-2");
-    row("mercury", "mmHg|mm Hg|Torr", 133.322387415, "kg m^-1 s^-2");
     row("calories", "kcal", 4186.8, "kg m^2 s^-2");
     row("what counts nothing", "n/a|N/A|none|pH|Mach|PN", 1, "");
     row("large amounts of money", "Mio. €|Mio EUR|10^6 €", 1e6, "currency");
     row("per tooth", "mm/tooth|mm", 1e-3, "m");
     row("permittivity", "As/Vm|F/m", 1, "A^2 kg^-1 m^-3 s^4");
-    row("specific resistance", "Ωm|Ω·m", 1, "A^-2 kg m^3 s^-3");
     row("money", "€/kWh|EUR/kWh|元/千瓦时", 1 / 3.6e6, "currency kg^-1 m^-2 s^2");
-    row("resistivity", "Ω·mm²/m|Ω·mm²/m|ohm mm2/m", 1e-6, "A^-2 kg m^3 s^-3");
+    row("resistivity", "Ω·mm²/m|ohm mm2/m|10^-6 Ωm|10^-6 Ω·m", 1e-6, "A^-2 kg m^3 s^-3");
 }
 
 void TestUnit::readsWhatEngineersWrite()
