@@ -6,6 +6,7 @@
 #include "itempaths.h"
 
 #include "console.h"
+#include "itemlikeness.h"
 #include "support/directorytest.h"
 #include "support/testfiles.h"
 
@@ -24,6 +25,8 @@ private Q_SLOTS:
     void finds();
     void saysWhatMayNotBeRead_data();
     void saysWhatMayNotBeRead();
+    void tellsItemsFromOthers_data();
+    void tellsItemsFromOthers();
 };
 
 namespace {
@@ -180,6 +183,40 @@ void TestItemPaths::saysWhatMayNotBeRead()
     const QStringList lines = found({ path });
     QCOMPARE(chmod(name.constData(), 0700), 0);
     QTEST(lines, "expected");
+}
+
+void TestItemPaths::tellsItemsFromOthers_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<bool>("isLike");
+
+    const auto row = [](const char *name, const char *bytes, bool isLike) {
+        QTest::newRow(name) << QByteArray(bytes) << isLike;
+    };
+    const auto inUtf16 = [](const QString &text) {
+        return QByteArray(reinterpret_cast<const char *>(text.utf16()), 2 * text.size());
+    };
+    row("an item", "[KeltoItem]\nname=Beam\n", true);
+    row("a misspelt section", "[keltoItem]\n", true);
+    row("a section of items alone", "[Belong]\nLength=Bending\n", true);
+    row("a section behind others", "[Window]\nwidth=5\n\n[ExtraKey]\n", true);
+    row("a field in a wrong section", "[Module]\ninner_mode_count=1\n", true);
+    row("fields without a section", "name=Beam\n", true);
+    row("nothing", "", true);
+    row("nothing but comments", "; to be written\n", true);
+    row("stored values", "[Attribute]\nLength=5\n\n[Unit]\nLength=mm\n", false);
+    row("settings of QSettings", "[General]\nname=Beam\ntype=5\n", false);
+    row("sections of others", "[Group]\nname=all\n\n[Units]\nLength=mm\n", false);
+    row("a style", "[ID]\nQtClassName=QPushButton\n", false);
+    QTest::newRow("an item in UTF-16") << inUtf16("\uFEFF[KeltoItem]\n") << true;
+    QTest::newRow("another file in UTF-16") << inUtf16("\uFEFF[Window]\nname=5\n") << false;
+    QTest::newRow("without a mark") << inUtf16("[Window]\nname=5\n") << false;
+}
+
+void TestItemPaths::tellsItemsFromOthers()
+{
+    QFETCH(QByteArray, bytes);
+    QTEST(isLikeItem(bytes), "isLike");
 }
 
 QTEST_GUILESS_MAIN(TestItemPaths)

@@ -158,6 +158,18 @@ ExitCode runCommand(const Command &command, const QStringList &arguments, Consol
     return WrongUsage;
 }
 
+QString complaintAboutCommand(const QString &name)
+{
+    if (name.isEmpty() || name == QLatin1String("--json"))
+        return Command::tr("a command is missing.");
+    if (name.startsWith(QLatin1Char('-')))
+        return Command::tr("there is no option \"%1\".").arg(name)
+            + didYouMean(name,
+                         { QStringLiteral("--json"), QStringLiteral("--help"),
+                           QStringLiteral("--version") });
+    return Command::tr("there is no command \"%1\".").arg(name) + didYouMean(name, commandNames());
+}
+
 ExitCode withoutCommand(const QStringList &arguments, Console &console)
 {
     const QString first = arguments.value(0);
@@ -172,10 +184,7 @@ ExitCode withoutCommand(const QStringList &arguments, Console &console)
     }
     if (arguments.contains(QStringLiteral("--json")))
         console.useJson();
-    const QString complaint = first.isEmpty()
-        ? Command::tr("a command is missing.")
-        : Command::tr("there is no command \"%1\".").arg(first) + didYouMean(first, commandNames());
-    console.complain(complaint + tryHelp(QString()));
+    console.complain(complaintAboutCommand(first) + tryHelp(QString()));
     return WrongUsage;
 }
 
@@ -184,9 +193,15 @@ ExitCode withoutCommand(const QStringList &arguments, Console &console)
 ExitCode runCommandLine(const QStringList &arguments, Console &console)
 {
     QStringList rest = arguments;
+    // Nobody remembers on which side of the command it stands.
+    const bool isJsonFirst = rest.value(0) == QLatin1String("--json") && rest.size() > 1;
+    if (isJsonFirst)
+        rest.removeFirst();
     if (rest.value(0) == QLatin1String("help") && rest.size() > 1)
         rest = QStringList { rest.at(1), QStringLiteral("--help") };
     const QString name = rest.value(0);
+    if (isJsonFirst)
+        rest.insert(1, QStringLiteral("--json"));
     const auto command
         = std::find_if(commands().cbegin(), commands().cend(),
                        [&name](const Command &each) { return QLatin1String(each.name) == name; });

@@ -49,7 +49,8 @@ QVector<const char *> descriptionsOf(const Command &command)
         descriptions.append(QT_TRANSLATE_NOOP(
             "Command",
             "A PATH is a file, or a directory that stands for all files below it that end in "
-            "\".ini\", also behind links to directories; hidden ones are left out."));
+            "\".ini\", also behind links to directories; hidden ones are left out, and one in "
+            "which nothing is a part of a module item is skipped with a note."));
     return descriptions;
 }
 

@@ -5,6 +5,7 @@
 
 #include "command.h"
 #include "console.h"
+#include "itemlikeness.h"
 
 #include <QDir>
 #include <QFile>
@@ -38,7 +39,7 @@ QString whyUnlistable(const QFileInfo &directory)
 }
 
 /// Adds to @p problems what cannot be searched. What is no regular file is told when it is read.
-QStringList itemFilesBelow(const QString &directory, QStringList *problems)
+QStringList filesBelow(const QString &directory, QStringList *problems)
 {
     QStringList files;
     QStringList directories { directory };
@@ -80,6 +81,47 @@ QString whyMissing(const QString &path)
         : Command::tr("%1: no such file.").arg(path);
 }
 
+/// What cannot be read may be an item.
+bool mayBeItem(const QString &path)
+{
+    QFile file(path);
+    return !whyUnreadable(path).isEmpty() || !file.open(QIODevice::ReadOnly)
+        || isLikeItem(file.readAll());
+}
+
+/// Of the @p files, which were found in a directory, those that are like items or are @p named by
+/// themselves.
+QStringList likeItems(const QStringList &files, const QStringList &named, Console &console)
+{
+    QSet<QString> wanted;
+    for (const QString &path : named)
+        wanted.insert(QFileInfo(path).canonicalFilePath());
+    QStringList items;
+    for (const QString &path : files) {
+        if (wanted.contains(QFileInfo(path).canonicalFilePath()) || mayBeItem(path)) {
+            items.append(path);
+        } else {
+            console.note(Command::tr("%1: is skipped, since nothing in it is a part of a module "
+                                     "item. Name the file itself to have it read.")
+                             .arg(path));
+        }
+    }
+    return items;
+}
+
+QStringList itemFilesBelow(const QString &directory, const QStringList &named, Console &console,
+                           QStringList *problems)
+{
+    const QStringList files = filesBelow(directory, problems);
+    const QStringList items = likeItems(files, named, console);
+    if (items.isEmpty() && problems->isEmpty()) {
+        problems->append((files.isEmpty() ? Command::tr("%1: no file below it ends in \".ini\".")
+                                          : Command::tr("%1: no file below it is a module item."))
+                             .arg(directory));
+    }
+    return items;
+}
+
 /// A file stands once, however it is spelt.
 QStringList withoutDuplicates(const QStringList &files)
 {
@@ -105,9 +147,7 @@ QStringList itemFilesAt(const QStringList &paths, Console &console, bool *areAll
         QStringList found;
         QStringList problems;
         if (info.isDir()) {
-            found = itemFilesBelow(path, &problems);
-            if (found.isEmpty() && problems.isEmpty())
-                problems.append(Command::tr("%1: no file below it ends in \".ini\".").arg(path));
+            found = itemFilesBelow(path, paths, console, &problems);
         } else if (info.exists()) {
             found.append(path);
         } else {

@@ -13,7 +13,6 @@
 #include "terminaltext.h"
 
 #include <QCommandLineParser>
-#include <QFileInfo>
 #include <QJsonArray>
 
 #include <QJsonDocument>
@@ -102,20 +101,6 @@ Findings fix(const LintResult &result, const LintConfig &config, QStringList *co
     return fixed;
 }
 
-/// Of @p paths those that were found in directories, and that nobody has named.
-QSet<QString> foundPaths(const QStringList &paths, const QStringList &arguments)
-{
-    QSet<QString> named;
-    for (const QString &argument : arguments)
-        named.insert(QFileInfo(argument).canonicalFilePath());
-    QSet<QString> found;
-    for (const QString &path : paths) {
-        if (!named.contains(QFileInfo(path).canonicalFilePath()))
-            found.insert(path);
-    }
-    return found;
-}
-
 ExitCode lintFiles(const QCommandLineParser &line, Console &console)
 {
     bool areAllFound = false;
@@ -125,19 +110,13 @@ ExitCode lintFiles(const QCommandLineParser &line, Console &console)
         console.complain(complaint);
     if (!config.complaints().isEmpty())
         return WrongUsage;
-    const QSet<QString> found = foundPaths(paths, line.positionalArguments());
-    LintResult result = lint(paths, config, console, found);
+    LintResult result = lint(paths, config, console);
     QStringList complaints = result.unreadable;
     Findings fixed;
     if (line.isSet(QStringLiteral("fix")))
         fixed = fix(result, config, &complaints);
     if (!fixed.isEmpty())
-        result = lint(paths, config, console, found);
-    for (const QString &path : qAsConst(result.skipped)) {
-        console.note(Command::tr("%1: is skipped, since nothing in it is a part of a module item. "
-                                 "Name the file itself to check it.")
-                         .arg(path));
-    }
+        result = lint(paths, config, console);
     for (const QString &sentence : qAsConst(complaints))
         console.complain(sentence);
     print(result.findings, fixed, config, line, console);
@@ -204,8 +183,7 @@ Command lintCommand()
             "Command",
             "Lists every problem of module item files, one to a line: file, line, column, "
             "severity, what is wrong, and the rule in brackets. The exit code is 1 when there is a "
-            "finding, also if it is only a warning. A file below a directory in which nothing is a "
-            "part of a module item is skipped.\n\n"
+            "finding, also if it is only a warning.\n\n"
             "Rules are configured in files named \".kelto-lint.ini\", in the directory of a file "
             "or above it; each rule is what the nearest file says that names it. They hold the "
             "section [Rules], in which a key is a rule and its value one of error, warning and "

@@ -5,10 +5,10 @@
 
 #include "command.h"
 #include "console.h"
+#include "itemlikeness.h"
 #include "lint/followers.h"
 #include "lint/lintconfig.h"
 #include "lint/lintitem.h"
-#include "nearestname.h"
 
 #include <QThreadPool>
 
@@ -68,42 +68,6 @@ std::vector<CheckedFile> checkedFiles(const QStringList &paths, const LintConfig
     return checked;
 }
 
-/// As some editors save it. Read as UTF-8 such a file would be nothing but findings.
-bool isUtf16(const ItemFile &file)
-{
-    const QByteArray start = file.bytes().left(2);
-    return start == "\xff\xfe" || start == "\xfe\xff" || start.contains('\0');
-}
-
-/// Whether @p key is one of an item wherever it stands: other files have a "name" as well.
-bool isFieldAnywhere(const ItemFileKey &key)
-{
-    const bool isPlainWord
-        = std::all_of(key.name.cbegin(), key.name.cend(), [](QChar c) { return c.isLower(); });
-    return !isPlainWord && knownFields().contains(key.name);
-}
-
-/// Whether a section or a key is one of an item or nearly, or the file is empty, as one that a
-/// mistyped path has left behind.
-bool isLikeItem(const ItemFile &file)
-{
-    if (isUtf16(file) || (file.sections().isEmpty() && file.keys().isEmpty()))
-        return true;
-    const auto isNearly = [](const QString &name, const QStringList &names) {
-        return names.contains(name) || !nearestName(name, names).isEmpty();
-    };
-    const auto &sections = file.sections();
-    const auto &keys = file.keys();
-    return std::any_of(sections.cbegin(), sections.cend(),
-                       [&](const ItemFileSection &section) {
-                           return isNearly(section.name, knownSections());
-                       })
-        || std::any_of(keys.cbegin(), keys.cend(), [&](const ItemFileKey &key) {
-               return isFieldAnywhere(key)
-                   || (key.section.isEmpty() && isNearly(key.name, knownFields()));
-           });
-}
-
 bool standsBefore(const Finding &a, const Finding &b)
 {
     return std::tie(a.path, a.position.line, a.position.column)
@@ -114,7 +78,7 @@ bool standsBefore(const Finding &a, const Finding &b)
 
 Findings everyFindingIn(const ItemFile &file)
 {
-    if (isUtf16(file)) {
+    if (isUtf16(file.bytes())) { // Read as UTF-8 it would be nothing but findings.
         return { { QStringLiteral("not-utf8"),
                    file.path(),
                    {},
@@ -146,8 +110,7 @@ Findings findingsAmong(const QVector<ItemFile> &files)
     return findings;
 }
 
-LintResult lint(const QStringList &paths, const LintConfig &config, Console &console,
-                const QSet<QString> &found)
+LintResult lint(const QStringList &paths, const LintConfig &config, Console &console)
 {
     LintResult result;
     QVector<ItemFile> others; // What is wrong with them is known.
@@ -156,12 +119,8 @@ LintResult lint(const QStringList &paths, const LintConfig &config, Console &con
             result.unreadable.append(checked.file->error());
             continue;
         }
-        if (found.contains(checked.file->path()) && !isLikeItem(*checked.file)) {
-            result.skipped.append(checked.file->path());
-            continue;
-        }
         result.findings += checked.findings;
-        (isUtf16(*checked.file) ? others : result.files).append(std::move(*checked.file));
+        (isUtf16(checked.file->bytes()) ? others : result.files).append(std::move(*checked.file));
     }
     result.findings += findingsAmong(result.files);
     result.files += others;

@@ -7,7 +7,6 @@
 #include "itemfile.h"
 #include "lint/rules.h"
 
-#include <QSet>
 #include <QStringList>
 
 class Console;
@@ -27,13 +26,10 @@ struct LintResult
 {
     QVector<ItemFile> files;
     QStringList unreadable; ///< A sentence for each file that could not be read.
-    QStringList skipped; ///< Files that are no items.
     Findings findings; ///< By file, line and column, without those that are switched off.
 };
 
-/// Looks at files, on all processors. Those of @p found, which nobody has named, are skipped when
-/// nothing in them is like an item.
-LintResult lint(const QStringList &paths, const LintConfig &config, Console &console,
-                const QSet<QString> &found = {});
+/// Looks at files, on all processors.
+LintResult lint(const QStringList &paths, const LintConfig &config, Console &console);
 
 #endif

@@ -2117,26 +2117,6 @@ Exit code 1 when projects that were stored with the old version lose something: 
         <translation>引号没有在本行结束，直到第 %1 行的所有内容都读作此值的一部分</translation>
     </message>
     <message>
-        <source>A PATH is a file, or a directory that stands for all files below it that end in &quot;.ini&quot;, also behind links to directories; hidden ones are left out.</source>
-        <translation>PATH 可以是文件，也可以是目录，目录代表其下所有以“.ini”结尾的文件，也包括目录链接之后的文件；隐藏的文件和目录不算在内。</translation>
-    </message>
-    <message>
-        <source>Lists every problem of module item files, one to a line: file, line, column, severity, what is wrong, and the rule in brackets. The exit code is 1 when there is a finding, also if it is only a warning. A file below a directory in which nothing is a part of a module item is skipped.
-
-Rules are configured in files named &quot;.kelto-lint.ini&quot;, in the directory of a file or above it; each rule is what the nearest file says that names it. They hold the section [Rules], in which a key is a rule and its value one of error, warning and off:
-
-  [Rules]
-  comment=warning
-  mode-without-parameters=off</source>
-        <translation>列出模块项文件的所有问题，每行一个：文件、行、列、严重程度、问题，以及方括号中的规则。有问题时退出码为 1，即使只有警告。目录中没有模块项任何部分的文件会被跳过。
-
-规则在名为“.kelto-lint.ini”的文件中设置，该文件位于模块项文件所在的目录或其上级目录；每条规则以写有该规则的最近的文件为准。其中有 [Rules] 节，键为规则，值为 error、warning 或 off：
-
-  [Rules]
-  comment=warning
-  mode-without-parameters=off</translation>
-    </message>
-    <message>
         <source>&quot;%1&quot; is given more than once.</source>
         <translation>“%1”给出了多次。</translation>
     </message>
@@ -2185,8 +2165,32 @@ Rules are configured in files named &quot;.kelto-lint.ini&quot;, in the director
         <translation>引号外的逗号会把值变成列表，而列表不是文本：它被读作空文本。请给文本加引号。提示“Choices.”、“When.”、“Belong.”和“Order”是以“|”分隔的列表：请用它代替逗号。</translation>
     </message>
     <message>
-        <source>%1: is skipped, since nothing in it is a part of a module item. Name the file itself to check it.</source>
-        <translation>%1：已跳过，因为其中没有模块项的任何部分。要检查它，请直接指定该文件。</translation>
+        <source>A PATH is a file, or a directory that stands for all files below it that end in &quot;.ini&quot;, also behind links to directories; hidden ones are left out, and one in which nothing is a part of a module item is skipped with a note.</source>
+        <translation>PATH 可以是文件，也可以是目录，目录代表其下所有以“.ini”结尾的文件，也包括目录链接之后的文件；隐藏的文件和目录不算在内，其中没有模块项任何部分的文件会被跳过并给出提示。</translation>
+    </message>
+    <message>
+        <source>%1: is skipped, since nothing in it is a part of a module item. Name the file itself to have it read.</source>
+        <translation>%1：已跳过，因为其中没有模块项的任何部分。要读取它，请直接指定该文件。</translation>
+    </message>
+    <message>
+        <source>%1: no file below it is a module item.</source>
+        <translation>%1：其下没有模块项文件。</translation>
+    </message>
+    <message>
+        <source>Lists every problem of module item files, one to a line: file, line, column, severity, what is wrong, and the rule in brackets. The exit code is 1 when there is a finding, also if it is only a warning.
+
+Rules are configured in files named &quot;.kelto-lint.ini&quot;, in the directory of a file or above it; each rule is what the nearest file says that names it. They hold the section [Rules], in which a key is a rule and its value one of error, warning and off:
+
+  [Rules]
+  comment=warning
+  mode-without-parameters=off</source>
+        <translation>列出模块项文件的所有问题，每行一个：文件、行、列、严重程度、问题，以及方括号中的规则。有问题时退出码为 1，即使只有警告。
+
+规则在名为“.kelto-lint.ini”的文件中设置，该文件位于模块项文件所在的目录或其上级目录；每条规则以写有该规则的最近的文件为准。其中有 [Rules] 节，键为规则，值为 error、warning 或 off：
+
+  [Rules]
+  comment=warning
+  mode-without-parameters=off</translation>
     </message>
 </context>
 </TS>
