@@ -8,28 +8,14 @@
 # Ends with 77 where a tool is missing.
 
 set -euo pipefail
+# shellcheck source=tests/consumers/messages.sh
+. "$(dirname "$0")/messages.sh"
 
-what=$1
 source_dir=$2
 build_dir=$3
 work_dir=$4
 shift 4
 prefix=${KELTO_PREFIX:-$work_dir/moved} # another one for a Kelto that is installed already
-
-fail() {
-    printf 'check.sh %s: %s\n' "$what" "$*" >&2
-    exit 1
-}
-
-need() {
-    local tool
-    for tool in "$@"; do
-        command -v "$tool" >/dev/null || {
-            printf 'check.sh %s: skipped, there is no %s\n' "$what" "$tool"
-            exit 77
-        }
-    done
-}
 
 configure() {
     local from=$1 to=$2

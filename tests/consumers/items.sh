@@ -8,8 +8,9 @@
 # Ends with 77 where a tool is missing.
 
 set -euo pipefail
+# shellcheck source=tests/consumers/messages.sh
+. "$(dirname "$0")/messages.sh"
 
-what=$1
 source_dir=$2
 prefix=$3/moved
 # Neither a space nor a letter of any language may matter, even without a locale.
@@ -18,21 +19,6 @@ export LC_ALL=C
 rm -rf "${host_dir%/*}"
 mkdir -p "$host_dir"
 cd "$host_dir"
-
-fail() {
-    printf 'items.sh %s: %s\n' "$what" "$*" >&2
-    exit 1
-}
-
-need() {
-    local tool
-    for tool in "$@"; do
-        command -v "$tool" >/dev/null || {
-            printf 'items.sh %s: skipped, there is no %s\n' "$what" "$tool"
-            exit 77
-        }
-    done
-}
 
 library_dir=$(dirname "$(find "$prefix" -name libkelto.so)")
 
