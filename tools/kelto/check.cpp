@@ -74,11 +74,12 @@ public:
     bool read(Console &console)
     {
         const QString problem = whyUnreadable(m_path);
-        for (const QString &error : { m_file.error(), problem }) {
+        const QString noModule = m_file.whyNoModule();
+        for (const QString &error : { noModule, problem }) {
             if (!error.isEmpty())
                 console.complain(error);
         }
-        if (!m_file.error().isEmpty() || !problem.isEmpty())
+        if (!noModule.isEmpty() || !problem.isEmpty())
             return false;
         const AUTH_INF &item = m_file.item();
         const auto values = VIniSettings(m_path).data();

@@ -62,6 +62,27 @@ QSet<QString> setOf(const QStringList &names)
     return QSet<QString>(names.cbegin(), names.cend());
 }
 
+/// The keys of parameters and results that the mode in this column has.
+QSet<QString> keysIn(const ItemTable &table, int column)
+{
+    QSet<QString> keys;
+    const QVector<ItemTableRow> rows = table.parameters + table.results;
+    for (const ItemTableRow &row : rows) {
+        if (row.modes.at(column))
+            keys.insert(keyOf(row));
+    }
+    return keys;
+}
+
+/// Those of @p names that are among @p others.
+QStringList among(QStringList names, const QSet<QString> &others)
+{
+    names.erase(std::remove_if(names.begin(), names.end(),
+                               [&others](const QString &name) { return !others.contains(name); }),
+                names.end());
+    return names;
+}
+
 /// Those of @p names that are not among @p others.
 QStringList onlyIn(const QStringList &names, const QStringList &others)
 {
@@ -121,12 +142,7 @@ public:
         , m_afterTable(itemTable(after))
         , m_commonModes(namesOf(m_beforeTable.modes))
     {
-        const QSet<QString> modes = setOf(namesOf(m_afterTable.modes));
-        m_commonModes.erase(std::remove_if(m_commonModes.begin(), m_commonModes.end(),
-                                           [&modes](const QString &mode) {
-                                               return !modes.contains(mode);
-                                           }),
-                            m_commonModes.end());
+        m_commonModes = among(m_commonModes, setOf(namesOf(m_afterTable.modes)));
     }
 
     QVector<ItemChange> changes()
@@ -210,8 +226,12 @@ private:
             const Modes modes = modesNamed(name);
             change(ItemChange::Mode, name, QT_TRANSLATE_NOOP("Command", "description"),
                    orNothing(modes.first->description), orNothing(modes.second->description));
+            // What is there in one version only has no place in the other.
+            QSet<QString> keys = keysIn(m_beforeTable, columnOf(m_beforeTable.modes, name));
+            keys &= keysIn(m_afterTable, columnOf(m_afterTable.modes, name));
             change(ItemChange::Mode, name, QT_TRANSLATE_NOOP("Command", "order"),
-                   listed(modes.first->hints.order()), listed(modes.second->hints.order()));
+                   listed(among(modes.first->hints.order(), keys)),
+                   listed(among(modes.second->hints.order(), keys)));
         }
     }
 
