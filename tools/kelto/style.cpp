@@ -35,6 +35,22 @@ QString whyNoStyle(const VIniSettings &settings, const QString &sheet)
         : QString();
 }
 
+/// Complains about values of which the text holds nothing; whether there is none.
+bool areAllCarried(const VIniSettings &settings, const QString &path, Console &console)
+{
+    bool areAll = true;
+    const auto values = settings.data();
+    for (const auto &value : values) {
+        if (!value.second.toString().isEmpty() || value.second.toStringList().size() < 2)
+            continue;
+        areAll = false;
+        console.complain(Command::tr("%1: the value of \"%2\" is lost: a comma makes a list of it. "
+                                     "Put quotes around it.")
+                             .arg(path, value.first));
+    }
+    return areAll;
+}
+
 ExitCode run(const QCommandLineParser &line, Console &console)
 {
     const QString path = line.positionalArguments().constFirst();
@@ -57,7 +73,7 @@ ExitCode run(const QCommandLineParser &line, Console &console)
     } else {
         console.print(sheet + QLatin1Char('\n'));
     }
-    return Done;
+    return areAllCarried(settings, path, console) ? Done : Found;
 }
 
 } // namespace
@@ -74,7 +90,9 @@ Command styleCommand()
                                "makes of the file. \"QtClassName\" in the section \"ID\" is the "
                                "class of the widgets, the section \"normal\" their style, and "
                                "every other section the style of a state, such as \"hover\". A "
-                               "file without a class and without \"normal\" is an error."),
+                               "file without a class and without \"normal\" is an error, and so "
+                               "is a value that a comma outside of quotes divides: nothing of it "
+                               "is in the text."),
              {},
              { { "kelto style button.ini",
                  QT_TRANSLATE_NOOP("Command", "The style sheet of a button.") } },

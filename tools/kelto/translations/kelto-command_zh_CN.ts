@@ -2001,10 +2001,6 @@ A file that cannot be formatted without changing what is read, for example with 
         <translation>没有描述样式：除“ID”外没有其他节。</translation>
     </message>
     <message>
-        <source>Writes the style sheet text that VIniSettings::styleSheetFormat() makes of the file. &quot;QtClassName&quot; in the section &quot;ID&quot; is the class of the widgets, the section &quot;normal&quot; their style, and every other section the style of a state, such as &quot;hover&quot;. A file without a class and without &quot;normal&quot; is an error.</source>
-        <translation>输出 VIniSettings::styleSheetFormat() 由此文件生成的样式表文本。节“ID”中的“QtClassName”是部件的类，节“normal”是其样式，其他每个节是一种状态的样式，例如“hover”。既没有类也没有“normal”的文件是错误。</translation>
-    </message>
-    <message>
         <source>holds bytes that are no text; save it as UTF-8.</source>
         <translation>含有不是文本的字节；请另存为 UTF-8。</translation>
     </message>
@@ -2191,6 +2187,14 @@ Rules are configured in files named &quot;.kelto-lint.ini&quot;, in the director
   [Rules]
   comment=warning
   mode-without-parameters=off</translation>
+    </message>
+    <message>
+        <source>%1: the value of &quot;%2&quot; is lost: a comma makes a list of it. Put quotes around it.</source>
+        <translation>%1：“%2”的值丢失：逗号把它变成了列表。请给它加引号。</translation>
+    </message>
+    <message>
+        <source>Writes the style sheet text that VIniSettings::styleSheetFormat() makes of the file. &quot;QtClassName&quot; in the section &quot;ID&quot; is the class of the widgets, the section &quot;normal&quot; their style, and every other section the style of a state, such as &quot;hover&quot;. A file without a class and without &quot;normal&quot; is an error, and so is a value that a comma outside of quotes divides: nothing of it is in the text.</source>
+        <translation>输出 VIniSettings::styleSheetFormat() 由此文件生成的样式表文本。节“ID”中的“QtClassName”是部件的类，节“normal”是其样式，其他每个节是一种状态的样式，例如“hover”。既没有类也没有“normal”的文件是错误，被引号外的逗号分开的值也是错误：文本中没有它的任何内容。</translation>
     </message>
 </context>
 </TS>
