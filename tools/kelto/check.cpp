@@ -127,12 +127,15 @@ public:
     {
         QString text;
         for (const KeltoItemFinding &finding : m_findings)
-            text += m_path + QLatin1String(": ") + printable(finding.text()) + QLatin1Char('\n');
-        return text + m_path + QLatin1String(": ") + printable(verdict().arg(m_mode))
-            + QLatin1Char('\n');
+            text += lineWith(finding.text());
+        return text + lineWith(verdict().arg(m_mode));
     }
 
 private:
+    QString lineWith(const QString &sentence) const
+    {
+        return printable(m_path + QLatin1String(": ") + sentence) + QLatin1Char('\n');
+    }
     QString verdict() const
     {
         if (!m_isComplete)

@@ -7,6 +7,7 @@
 #include "itemfile.h"
 #include "itempaths.h"
 #include "outputfile.h"
+#include "terminaltext.h"
 
 #include <QCommandLineParser>
 #include <QJsonArray>
@@ -91,7 +92,7 @@ ExitCode run(const QCommandLineParser &line, Console &console)
     for (const Outcome &outcome : outcomes) {
         files.append(asJson(outcome));
         if (outcome.isChanged)
-            changed.append(outcome.path + QLatin1Char('\n'));
+            changed.append(printable(outcome.path) + QLatin1Char('\n'));
     }
     if (line.isSet(QStringLiteral("json"))) {
         console.print(QJsonObject { { QStringLiteral("written"), !isCheck },

@@ -5,6 +5,7 @@
 #include "console.h"
 #include "newitem.h"
 #include "outputfile.h"
+#include "terminaltext.h"
 
 #include <QCommandLineParser>
 #include <QFileInfo>
@@ -32,7 +33,7 @@ ExitCode write(const NewItem &item, const QString &path, const QCommandLineParse
                                     { QStringLiteral("group"), item.group },
                                     { QStringLiteral("exclusive"), item.isExclusive } });
     } else {
-        console.print(path + QLatin1Char('\n'));
+        console.print(QString(printable(path) + QLatin1Char('\n')));
     }
     return Done;
 }
