@@ -4,12 +4,9 @@
 #include "lint/fixes.h"
 
 #include "itemfile.h"
-#include "lint/lintconfig.h"
 #include "lint/linter.h"
 
-#include <QFile>
 #include <QMap>
-#include <QTemporaryDir>
 
 #include <algorithm>
 #include <iterator>
@@ -57,17 +54,14 @@ private:
 };
 
 /// @p file with as many fixes as do not touch each other. Empty findings when there is none.
-FixedFile fixedOnce(const ItemFile &file, const QString &path, const LintConfig &config)
+FixedFile fixedOnce(const ItemFile &file, const LintConfig &config)
 {
     Replacement replacement;
     FixedFile result { file.bytes(), {} };
-    const Findings findings = findingsIn(file);
+    const Findings findings = findingsIn(file, config);
     for (const Finding &finding : findings) {
-        if (finding.fix.isEmpty() || config.severity(path, finding.rule) == Severity::Off
-            || !replacement.take(finding.fix))
-            continue;
-        result.fixed.append(finding);
-        result.fixed.last().path = path;
+        if (!finding.fix.isEmpty() && replacement.take(finding.fix))
+            result.fixed.append(finding);
     }
     if (!result.fixed.isEmpty())
         result.bytes = replacement.replaced(file.bytes());
@@ -78,16 +72,13 @@ FixedFile fixedOnce(const ItemFile &file, const QString &path, const LintConfig 
 
 FixedFile fixedFile(const ItemFile &file, const LintConfig &config)
 {
-    const QTemporaryDir directory;
-    FixedFile result = fixedOnce(file, file.path(), config);
+    FixedFile result = fixedOnce(file, config);
     bool isDone = result.fixed.isEmpty();
     for (int i = 1; i < mostRounds && !isDone; ++i) {
-        // Each in a file of its own, since QSettings may not notice that a file has changed.
-        QFile copy(directory.filePath(QStringLiteral("%1.ini").arg(i)));
-        if (!copy.open(QIODevice::WriteOnly) || copy.write(result.bytes) != result.bytes.size())
+        const ItemFile copy(file.path(), result.bytes);
+        if (!copy.error().isEmpty())
             break;
-        copy.close();
-        const FixedFile next = fixedOnce(ItemFile(copy.fileName()), file.path(), config);
+        const FixedFile next = fixedOnce(copy, config);
         isDone = next.fixed.isEmpty();
         result.bytes = next.bytes;
         result.fixed += next.fixed;

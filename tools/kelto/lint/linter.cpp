@@ -36,14 +36,6 @@ void removeSwitchedOff(const LintConfig &config, Findings *findings)
     findings->erase(std::remove_if(findings->begin(), findings->end(), isOff), findings->end());
 }
 
-/// What follows from something that is switched off is found.
-Findings configuredFindingsIn(const ItemFile &file, const LintConfig &config)
-{
-    Findings findings = everyFindingIn(file);
-    removeSwitchedOff(config, &findings);
-    return withoutFollowers(file, findings);
-}
-
 /// Each in its place, whatever the order in which the threads come to them.
 std::vector<CheckedFile> checkedFiles(const QStringList &paths, const LintConfig &config,
                                       Console &console)
@@ -57,7 +49,7 @@ std::vector<CheckedFile> checkedFiles(const QStringList &paths, const LintConfig
                 CheckedFile &each = checked[static_cast<std::size_t>(position)];
                 each.file = std::make_unique<ItemFile>(paths.at(position));
                 if (each.file->error().isEmpty())
-                    each.findings = configuredFindingsIn(*each.file, config);
+                    each.findings = findingsIn(*each.file, config);
             }
         });
     }
@@ -98,6 +90,13 @@ Findings everyFindingIn(const ItemFile &file)
 Findings findingsIn(const ItemFile &file)
 {
     return withoutFollowers(file, everyFindingIn(file));
+}
+
+Findings findingsIn(const ItemFile &file, const LintConfig &config)
+{
+    Findings findings = everyFindingIn(file);
+    removeSwitchedOff(config, &findings);
+    return withoutFollowers(file, findings);
 }
 
 Findings findingsAmong(const QVector<ItemFile> &files)

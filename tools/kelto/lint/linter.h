@@ -17,6 +17,8 @@ Findings everyFindingIn(const ItemFile &file);
 
 /// The same without what only follows from something else that is found.
 Findings findingsIn(const ItemFile &file);
+/// The same without what is switched off. What follows from that is found.
+Findings findingsIn(const ItemFile &file, const LintConfig &config);
 
 /// What the rules that look at several files find in @p files.
 Findings findingsAmong(const QVector<ItemFile> &files);
