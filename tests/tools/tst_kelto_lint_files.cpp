@@ -124,6 +124,7 @@ void TestKeltoLintFiles::mendsWithOneRightAnswerOnly_data()
               "e=1\nGr%F6%DF"
               "e=2\n",
         "non-ascii-key", 0);
+    row("a field in other letters", item + "d\xc3\xa9scription=a\n", "non-ascii-key", 0);
     row("a field in capital letters", item + "DESCRIPTION=a\n", "misspelt-key", 1);
     row("two fields that would become one", item + "DESCRIPTION=a\nDescription=b\n", "misspelt-key",
         0);

@@ -4,6 +4,7 @@
 // One cause is one finding, at its place.
 
 #include "console.h"
+#include "lint/fixes.h"
 #include "lint/lintconfig.h"
 #include "lintfindings.h"
 #include "support/directorytest.h"
@@ -18,6 +19,8 @@ private Q_SLOTS:
     void findsTheCause_data();
     void findsTheCause();
     void findsWhatFollowsFromWhatIsSwitchedOff();
+    void fixesWhereItIsRead_data();
+    void fixesWhereItIsRead();
 };
 
 namespace {
@@ -51,6 +54,8 @@ void TestKeltoLintFollowers::findsTheCause_data()
                 .arg(line)
                 .arg(section));
     };
+    const QString hashKey = "%1:1 hash-key \"#\" begins no comment here: the line is a key; a "
+                            "comment begins with \";\"";
     const QString noEqualsSign = "%1:1 no-equals-sign the line has no \"=\" and is ignored";
     row("nothing", "", "", {});
 
@@ -86,7 +91,8 @@ void TestKeltoLintFollowers::findsTheCause_data()
           "this value" });
 
     row("semicolons between modes", "Design, Part load", "Design; Part load",
-        { "7:27 cut-text the list ends at the \";\"; a comma divides its elements" });
+        { "7:27 cut-text the list ends at the \";\"; a comma divides its elements, and a comment "
+          "stands on a line of its own" });
     row("a comma in the name of a mode", "=Design, Part load", "=Design, at 20 °C, Part load",
         { "6:18 mode-count \"inner_mode_count\" is 2, and \"inner_mode_nameList\" has 3; a name "
           "with a comma needs quotes" });
@@ -100,7 +106,61 @@ void TestKeltoLintFollowers::findsTheCause_data()
         { "2:1 hash-key \"#\" begins no comment here: the line is a key; a comment begins with "
           "\";\"" });
 
+    row("parameters with a colon", "Flow=\nStatic head=\nSpeed=\n\n",
+        "Flow:\nStatic head : \nSpeed=\n\n", { noEqualsSign.arg(10), noEqualsSign.arg(11) });
+    row("a quote in a key", "Static head=H", "Static head 5\"=H",
+        { "26:1 no-equals-sign the quote hides the \"=\", and all up to line 34 is ignored; write "
+          "a quote in a key as %22" });
+    const QString blankMode = "%1 unknown-mode the name of the mode begins or ends with white "
+                              "space, and [Belong] names it without";
+    row("a mode on a line of its own", "Design, Part load", "Design,\\\n\tPart load",
+        { blankMode.arg("8:2") });
+    row("a full-width blank before a mode", "Design, Part load", "Design,\u3000Part load",
+        { blankMode.arg("7:28") });
+    row("white space around the mode of a parameter", "=Part load", "=\" Part load\"",
+        { "17:7 unknown-mode there is no mode \" Part load\". Did you mean \"Part load\"?" });
+    row("lines behind \"#\" below each header", "group=Fluids",
+        "#group=Solids\ngroup=Fluids\n[Attribute]\n#Head=\n[Belong]\n#Speed=Design\n[Symbol]\n"
+        "#Flow=Q\n[KeltoItem]",
+        { hashKey.arg(4), hashKey.arg(7), hashKey.arg(9), hashKey.arg(11) });
+    row("no list of modes", "inner_mode_nameList=Design, Part load", "inner_mode_description=A, B",
+        { "10:1 missing-modes there are parameters, but \"inner_mode_nameList\" names no mode to "
+          "which they belong" });
+    row("a superfluous comma behind the mode of a parameter", "=Part load", "=Part load,",
+        { "17:17 unknown-mode a superfluous comma makes an empty name" });
+    row("a superfluous comma behind the modes", "Design, Part load", "Design, Part load,",
+        { "6:18 mode-count \"inner_mode_count\" is 2, and \"inner_mode_nameList\" has 3; a "
+          "superfluous comma makes an empty name" });
+    row("a declaration that no other section knows", "[Attribute]\nFlow=", "[Attribute]\nFlwo=",
+        { "15:1 undeclared-key there is no parameter \"Flow\". Did you mean \"Flwo\"?" });
+    row("a parameter that is misspelt in one section", "[Belong]\nFlow=", "[Belong]\nFlwo=",
+        { "15:1 undeclared-key there is no parameter \"Flwo\". Did you mean \"Flow\"?" });
+    row("a backslash at the end of a header", "[Symbol]", "[Symbol\\",
+        { "24:1 broken-header the header has no \"]\"",
+          "24:1 unknown-section nothing is read from the section \"Symbol/\nFlow=Q\"" });
+    row("a backslash at the end of a line without an equals sign",
+        "name=", "a comment\\\non two lines\nname=",
+        { "2:1 no-equals-sign the line has no \"=\" and a backslash at its end, and all up to line "
+          "3 is ignored with it" });
+    row("a backslash in front of a line with a key", "name=", "a comment\\\nname=",
+        { "2:1 quote-in-key the backslash at the end of the line makes the next line a part of the "
+          "key" });
+    row("no header", "[KeltoItem]\n", "",
+        { "1:1 key-outside-section the keys up to line 6 stand in no section and are not read" });
+    row("a unit in Latin 1", "m³/h", "m\xb3/h", { "20:6 not-utf8 the bytes are not UTF-8" });
+    row("a header with a quote", "[Symbol]", "[Symbol] \"of a pump",
+        { "24:1 broken-header the header has a quote that is not closed, and all up to line 34 is "
+          "ignored" });
+    row("comments behind what is no text", "count=2", "count=2 ; A, B", {});
+    row("a comment behind a declaration", "Flow=\n", "Flow= ; large\n", {});
+
     // What is wrong beside it.
+    row("a name behind \"#\"", "name=", "#name=",
+        { "1:1 missing-name the item has no name: [KeltoItem] has no key \"name\"",
+          hashKey.arg(2) });
+    row("a key in no section beside another of its name", "[Unit]",
+        "[General]\ninner_mode_count=3\n[Unit]",
+        { "20:1 key-outside-section the key stands in no section and is not read" });
     row("a misspelt mode beside a header without its bracket",
         "Part load\n\n[Unit]\nFlow=m³/h, m³/s\nStatic head=m, m\nSpeed=Hz, Hz\n\n[Symbol]",
         "Prt load\n\n[Unit]\nSymbol]",
@@ -148,6 +208,34 @@ void TestKeltoLintFollowers::findsWhatFollowsFromWhatIsSwitchedOff()
                            "17:1 undeclared-key there is no parameter \"Speed\"",
                            "33:5 bad-hint Max.Speed: there is no parameter or result \"Speed\"",
                            "34:11 bad-hint When.Flow: there is no parameter \"Speed\"" }));
+}
+
+void TestKeltoLintFollowers::fixesWhereItIsRead_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QByteArray>("settings");
+    QTest::addColumn<QByteArray>("fixed");
+
+    QTest::newRow("what follows from what is switched off")
+        << QByteArray("[KeltoItem]\nname=Beam\ninner_mode_count: 1\ninner_mode_nameList=A\n")
+        << QByteArray("[Rules]\nno-equals-sign=off\n")
+        << QByteArray("[KeltoItem]\nname=Beam\ninner_mode_count: 1\ninner_mode_nameList=A\n"
+                      "inner_mode_count=1\n");
+    QTest::newRow("results, before a section that is misspelt")
+        << QByteArray("[KeltoItem]\nname=Beam\n[Result]\nR=\n[Keltoitem]\nicon=a\n") << QByteArray()
+        << QByteArray("[KeltoItem]\nname=Beam\noutput_results=R\n[Result]\nR=\n[Keltoitem]\n"
+                      "icon=a\n");
+}
+
+void TestKeltoLintFollowers::fixesWhereItIsRead()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QByteArray, settings);
+    QFETCH(QByteArray, fixed);
+
+    writeFile("first.ini", bytes);
+    writeFile(".kelto-lint.ini", settings);
+    QCOMPARE(fixedFile(ItemFile("first.ini"), LintConfig({ "first.ini" })).bytes, fixed);
 }
 
 QTEST_GUILESS_MAIN(TestKeltoLintFollowers)

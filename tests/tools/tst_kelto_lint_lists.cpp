@@ -40,13 +40,18 @@ void TestKeltoLintLists::finds_data()
     row("choices with labels", "Choices.A = 1=Water, 2=Oil\n",
         { "1:20 " + bars + "Choices.A=1=Water|2=Oil" }, "Choices.A = 1=Water|2=Oil\n");
     row("choices of which some may be the rest of a label", "Choices.A=1=Water, cold, 2=Oil\n",
-        { "1:18 " + bars + "Choices.A=1=Water|cold|2=Oil" });
+        { "1:18 split-text a \"|\" divides the parts of this hint, and not a comma" });
     row("choices with bars and a comma", "Choices.A=1=Water, cold|2=Oil\n", { "1:18 " + quotes });
     row("choices in quotes", "Choices.A=\"wa;ter\",oil\n",
         { "1:19 " + bars + "Choices.A=wa;ter|oil" });
     row("a condition", "When.B=A=1,2\n", { "1:11 " + bars + "When.B=A=1|2" }, "When.B=A=1|2\n");
     row("a condition on a choice with a comma", "Choices.A=\"1, 2|3\"\nWhen.B=A=1, 2\n",
         { "2:11 " + quotes });
+    row("two conditions", "When.B=A=1, R=2\n",
+        { "1:11 split-text a \"|\" divides the parts of this hint, and not a comma" });
+    row("choices with semicolons", "Choices.A=1;2\n",
+        { "1:12 cut-text the text ends at the \";\"; a \"|\" divides the parts of this hint, and "
+          "a comment stands on a line of its own" });
     row("no condition", "When.B=A,1\n", { "1:9 " + quotes });
     row("an order", "Order=A, B, \"E, F\", R\n", { "1:8 " + bars + "Order=A|B|E|F|R" });
     row("an order without quotes", "Order@Shear=A, B, R\n",
@@ -58,6 +63,11 @@ void TestKeltoLintLists::finds_data()
     row("a mode with a comma", "Belong.R=Twist, free\n", { "1:15 " + quotes });
     row("a text", "Help.A=Water, oil\n", { "1:13 " + quotes });
     row("another key of a host", "Colours=red, green\n", { "1:12 " + quotes });
+    row("two words for one", "[Multi]\nA=true, false\n",
+        { "2:7 split-text the comma makes a list of the value, which is then not read; write one "
+          "value" });
+    row("a text in single quotes", "[Symbol]\nA='a, b'\n", { "2:5 " + quotes });
+    row("a text like a value of another type", "[Symbol]\nA=@Size(1, 2)\n", { "2:10 " + quotes });
     row("many choices", "Choices.A=" + QString("a,").repeated(80) + "b\n",
         { "1:12 split-text a \"|\" divides the parts of this hint, and not a comma" },
         "Choices.A=" + QString("a|").repeated(80) + "b\n");

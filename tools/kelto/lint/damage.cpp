@@ -7,9 +7,10 @@
 #include "core/iniproblems_p.h"
 #include "lint/brokenlines.h"
 #include "lint/filefindings.h"
+#include "lint/hintbars.h"
 #include "lint/lintitem.h"
 
-#include <QSet>
+#include <QHash>
 
 namespace {
 
@@ -121,14 +122,43 @@ void checkProblems(FileFindings *findings)
     }
 }
 
+/// Whether a quote in @p text, or a backslash at the end of its line, swallows lines behind it.
+bool swallowsLines(std::string_view text)
+{
+    return text.find_first_of("\r\n") != text.npos;
+}
+
+bool isUnclosed(std::string_view text)
+{
+    return swallowsLines(text) && text.find('"') < text.find_first_of("\r\n");
+}
+
 void checkHeader(const IniLine &line, IniPosition position, FileFindings *findings)
 {
-    if (line.value.empty()) {
+    if (isUnclosed(line.text)) {
+        findings->add("broken-header", position,
+                      Command::tr("the header has a quote that is not closed, and all up to "
+                                  "line %1 is ignored")
+                          .arg(findings->lineOfEnd(line.text)));
+    } else if (line.value.empty()) {
         findings->add("broken-header", position, Command::tr("the header has no \"]\""));
     } else if (line.value.find_last_not_of(" \t") != 0) {
         findings->add("broken-header", position,
                       Command::tr("the text behind the header is ignored"));
     }
+}
+
+QString textOnSwallowed(std::string_view text)
+{
+    if (!isUnclosed(text)) {
+        return Command::tr("the line has no \"=\" and a backslash at its end, and all up to line "
+                           "%1 is ignored with it");
+    }
+    return text.find('=') < text.find_first_of("\r\n")
+        ? Command::tr("the quote hides the \"=\", and all up to line %1 is ignored; write a quote "
+                      "in a key as %22")
+        : Command::tr("the line has no \"=\" and a quote that is not closed, and all up to line "
+                      "%1 is ignored with it");
 }
 
 /// A line that is ignored as a whole.
@@ -142,34 +172,48 @@ void checkOther(const IniLine &line, IniPosition position, FileFindings *finding
                       Command::tr("the \"[\" in front of the header is missing, so that the keys "
                                   "below do not belong to the section \"%1\"")
                           .arg(section));
-    } else if (line.text.find_first_of("\r\n") != line.text.npos) {
+    } else if (swallowsLines(line.text)) {
         findings->add("no-equals-sign", position,
-                      Command::tr(
-                          "the line has no \"=\" and a quote that is not closed, and all up "
-                          "to line %1 is ignored with it")
-                          .arg(findings->lineOfEnd(line.text)));
+                      textOnSwallowed(line.text).arg(findings->lineOfEnd(line.text)));
     } else {
         findings->add("no-equals-sign", position,
                       Command::tr("the line has no \"=\" and is ignored"));
     }
 }
 
-QSet<const char *> endsOfLists(const LintItem &item)
+/// The keys of a file by where their values end. Behind a number, a flag, and where there is no
+/// value, nothing but a comment is meant.
+QHash<const char *, const LintKey *> endsOfTexts(const LintItem &item)
 {
-    QSet<const char *> ends;
+    QHash<const char *, const LintKey *> ends;
     for (const LintKey &key : item.keys()) {
-        if (key.value == ItemValue::List || key.value == ItemValue::Units) {
-            const std::string_view value = rawValueOf(item.file(), *key.key);
-            ends.insert(value.data() + value.size());
-        }
+        const bool isText = key.value != ItemValue::Number && key.value != ItemValue::Flag
+            && key.value != ItemValue::Nothing;
+        const std::string_view value = rawValueOf(item.file(), *key.key);
+        if (isText)
+            ends.insert(value.data() + value.size(), &key);
     }
     return ends;
+}
+
+QString textOnCut(const LintKey &key)
+{
+    if (key.value == ItemValue::List || key.value == ItemValue::Units) {
+        return Command::tr("the list ends at the \";\"; a comma divides its elements, and a "
+                           "comment stands on a line of its own");
+    }
+    if (key.value == ItemValue::Extra && HintBars::isDivided(*key.key)) {
+        return Command::tr("the text ends at the \";\"; a \"|\" divides the parts of this hint, "
+                           "and a comment stands on a line of its own");
+    }
+    return Command::tr("the text ends at the \";\"; put quotes around it, or put the comment on "
+                       "a line of its own");
 }
 
 /// A "#" line with a key in it is no comment, and a ";" behind a value ends it.
 void checkLines(const LintItem &item, FileFindings *findings)
 {
-    const QSet<const char *> ends = endsOfLists(item);
+    const QHash<const char *, const LintKey *> ends = endsOfTexts(item);
     IniReader reader(findings->file().bytes());
     IniLine before;
     int lineBefore = 0;
@@ -186,14 +230,8 @@ void checkLines(const LintItem &item, FileFindings *findings)
             findings->add("hash-key", position,
                           Command::tr("\"#\" begins no comment here: the line is a key; a "
                                       "comment begins with \";\""));
-        } else if (line.kind == IniLine::Comment && before.kind == IniLine::Entry
-                   && position.line == lineBefore) {
-            findings->add(
-                "cut-text", position,
-                ends.contains(start)
-                    ? Command::tr("the list ends at the \";\"; a comma divides its elements")
-                    : Command::tr("the text ends at the \";\"; put quotes around it, or put "
-                                  "the comment on a line of its own"));
+        } else if (line.kind == IniLine::Comment && ends.contains(start)) {
+            findings->add("cut-text", position, textOnCut(*ends.value(start)));
         } else if ((isHash || line.kind == IniLine::Comment)
                    && !(before.kind == IniLine::Other && position.line == lineBefore)) {
             findings->add("comment", position,

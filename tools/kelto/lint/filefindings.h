@@ -39,6 +39,19 @@ public:
         return { begin, begin + static_cast<int>(spelt.size()), text };
     }
 
+    /// Adds a line behind that of @p key.
+    TextEdit lineBehind(const ItemFileKey &key, const QByteArray &text) const
+    {
+        const QByteArray &bytes = m_file.bytes();
+        const char lineEnd = bytes.contains('\n') ? '\n' : '\r';
+        const int valueEnd = offsetOf(key.speltValue.data() + key.speltValue.size());
+        const int end = bytes.indexOf(lineEnd, valueEnd);
+        const bool isPair = end > 0 && lineEnd == '\n' && bytes.at(end - 1) == '\r';
+        const QByteArray lineEnding = isPair ? QByteArray("\r\n") : QByteArray(1, lineEnd);
+        const int place = end < 0 ? bytes.size() : end - (isPair ? 1 : 0);
+        return { place, place, lineEnding + text };
+    }
+
     /// The line in which @p text, a part of the bytes of the file, ends.
     int lineOfEnd(std::string_view text) const
     {

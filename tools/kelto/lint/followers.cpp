@@ -37,9 +37,11 @@ public:
     MovedPositions(const ItemFile &file, const QVector<Mend> &mends)
     {
         for (const Mend &mend : mends) {
-            const IniPosition place = file.positionAt(file.bytes().constData() + mend.edit.begin);
-            const int added = mend.edit.text.size() - (mend.edit.end - mend.edit.begin);
-            m_moves[place.line].append({ place.column, added });
+            const char *const bytes = file.bytes().constData();
+            const IniPosition begin = file.positionAt(bytes + mend.edit.begin);
+            const IniPosition end = file.positionAt(bytes + mend.edit.end);
+            const int added = mend.edit.text.size() - (end.column - begin.column);
+            m_moves[begin.line].append({ begin.column, added });
         }
     }
 
@@ -135,6 +137,9 @@ Findings withoutFollowersIn(const ItemFile &file, const Findings &findings, int 
     QSet<FindingKey> before;
     for (const Finding &finding : findings)
         before.insert(moved.keyIn(finding));
+    // A line that was joined with the next one may lack a "=" of its own.
+    for (const Mend &mend : mends)
+        before.insert(keyOf(QStringLiteral("no-equals-sign"), mend.cause));
     if (hasNewDamage(left, before))
         return findings;
 

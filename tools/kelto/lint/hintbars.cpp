@@ -24,11 +24,6 @@ bool isOrder(const ItemFileKey &key)
     return key.name == QLatin1String("Order") || isOf(key, "Order@");
 }
 
-bool isList(const ItemFileKey &key)
-{
-    return isOf(key, "Choices.") || isOf(key, "When.") || isOf(key, "Belong.") || isOrder(key);
-}
-
 /// The parts between the commas, of which those inside of quotes are known to divide as well.
 QStringList partsOf(const ItemFileKey &key)
 {
@@ -36,12 +31,29 @@ QStringList partsOf(const ItemFileKey &key)
     return key.value.join(QLatin1Char(',')).trimmed().split(comma);
 }
 
+/// Whether some of the parts between the commas are most likely none: the rest of a label, or a
+/// condition on another parameter.
+bool isMixed(const ItemFileKey &key)
+{
+    const bool isCondition = isOf(key, "When.");
+    const bool isExpected = !isCondition && key.value.constFirst().contains(equalsSign);
+    return (isCondition || isOf(key, "Choices."))
+        && std::any_of(key.value.cbegin() + 1, key.value.cend(), [=](const QString &element) {
+               return element.contains(equalsSign) != isExpected;
+           });
+}
+
 } // namespace
+
+bool HintBars::isDivided(const ItemFileKey &key)
+{
+    return isOf(key, "Choices.") || isOf(key, "When.") || isOf(key, "Belong.") || isOrder(key);
+}
 
 bool HintBars::addMissing(const ItemFileKey &key, const char *comma, bool isPlain,
                           FileFindings *findings) const
 {
-    if (!isList(key) || !isMeant(key))
+    if (!isDivided(key) || !isMeant(key))
         return false;
     QVector<TextEdit> fix;
     if (isPlain && hasOneAnswer(key))
@@ -69,7 +81,7 @@ QString HintBars::advice(const ItemFileKey &key)
 {
     constexpr int mostShown = 100;
     const QString line = key.name + equalsSign + partsOf(key).join(bar);
-    return line.size() > mostShown
+    return isMixed(key) || line.size() > mostShown
         ? Command::tr("a \"|\" divides the parts of this hint, and not a comma")
         : Command::tr("a \"|\" divides the parts of this hint, and not a comma: write %1")
               .arg(line);
@@ -108,12 +120,8 @@ bool HintBars::isMeant(const ItemFileKey &key) const
 
 bool HintBars::hasOneAnswer(const ItemFileKey &key) const
 {
-    if (isOf(key, "When."))
-        return true;
-    // A part without "=" among others is most likely the rest of a label.
-    const bool isFirstLabelled = key.value.constFirst().contains(equalsSign);
-    const bool areChoices = isOf(key, "Choices.");
-    return std::all_of(key.value.cbegin(), key.value.cend(), [&](const QString &element) {
-        return areChoices ? element.contains(equalsSign) == isFirstLabelled : isKnown(key, element);
-    });
+    if (isOf(key, "When.") || isOf(key, "Choices."))
+        return !isMixed(key);
+    return std::all_of(key.value.cbegin(), key.value.cend(),
+                       [&](const QString &element) { return isKnown(key, element); });
 }

@@ -31,6 +31,9 @@ public:
     /// What to write for a text with commas, as the end of a sentence.
     static QString advice(const ItemFileKey &key);
 
+    /// Whether @p key is a hint whose text a "|" divides.
+    static bool isDivided(const ItemFileKey &key);
+
 private:
     bool isKnown(const ItemFileKey &key, const QString &element) const;
     bool isMeant(const ItemFileKey &key) const;

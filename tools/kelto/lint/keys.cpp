@@ -13,6 +13,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <iterator>
 
 namespace {
 
@@ -66,7 +67,7 @@ void checkSections(FileFindings *findings)
 
 void checkField(const LintItem &item, const ItemFileKey &key, FileFindings *findings)
 {
-    if (knownFields().contains(key.name) || key.name.isEmpty())
+    if (knownFields().contains(key.name) || key.name.isEmpty() || isMeantAsComment(key.name))
         return;
     if (isTranslatedField(key.name)) {
         findings->add("translated-field", key.position,
@@ -108,15 +109,11 @@ public:
 
     void check(const LintKey &key, FileFindings *findings)
     {
-        static const QStringList describing {
-            QStringLiteral("Belong"), QStringLiteral("Group"), QStringLiteral("ObjectName"),
-            QStringLiteral("Symbol"), QStringLiteral("Unit"),  QStringLiteral("Multi")
-        };
         const QString &name = key.name;
-        if (!describing.contains(key.section) || name.isEmpty() || isBrokenKey(*key.key)
-            || name.contains(QLatin1Char('/')))
+        if (!describingSections().contains(key.section) || name.isEmpty() || isBrokenKey(*key.key)
+            || name.contains(QLatin1Char('/')) || isMeantAsComment(name))
             return;
-        const bool isForParameters = key.section == describing.constFirst();
+        const bool isForParameters = key.section == describingSections().constFirst();
         if ((isForParameters ? m_knownParameters : m_known).contains(name))
             return;
         if (m_explained.contains(name) && m_reported.contains(name))
@@ -127,8 +124,7 @@ public:
             : Command::tr("there is neither a parameter nor a result \"%1\".");
         const NearestNames &candidates = isForParameters ? m_parameters : m_all;
         const QString meant = candidates.nearest(name);
-        // A key with a "#" was to be a comment.
-        const QString nearest = meant.startsWith(QLatin1Char('#')) ? QString() : didYouMean(meant);
+        const QString nearest = isMeantAsComment(meant) ? QString() : didYouMean(meant);
         findings->add("undeclared-key", key.key->position,
                       nearest.isEmpty() ? text.arg(name).chopped(1) : text.arg(name) + nearest);
     }
@@ -139,7 +135,7 @@ private:
     {
         QSet<QString> names;
         for (const LintKey &key : item.keys()) {
-            if (!knownSections().contains(key.section))
+            if (key.key->section.isEmpty() || !knownSections().contains(key.section))
                 names.insert(key.key->name);
             const QStringList parts = key.key->name.split(QLatin1Char('/'));
             if (parts.size() > 1)
@@ -175,10 +171,8 @@ private:
 
 bool isBoth(const LintItem &item, const LintKey &key)
 {
-    static const QStringList describing { QStringLiteral("Group"), QStringLiteral("ObjectName"),
-                                          QStringLiteral("Symbol"), QStringLiteral("Unit"),
-                                          QStringLiteral("Multi") };
-    return describing.contains(key.section) && item.find(QStringLiteral("Attribute"), key.name)
+    return describingSections().mid(1).contains(key.section)
+        && item.find(QStringLiteral("Attribute"), key.name)
         && item.find(QStringLiteral("Result"), key.name);
 }
 
@@ -219,22 +213,40 @@ void checkDuplicates(const LintItem &item, FileFindings *findings)
     }
 }
 
+// --- Keys outside of sections ------------------------------------------------------
+
+/// Keys in a row miss one header.
+void checkOutside(const LintItem &item, FileFindings *findings)
+{
+    const auto isOutside = [](const LintKey &key) { return key.key->section.isEmpty(); };
+    const auto end = item.keys().cend();
+    auto first = std::find_if(item.keys().cbegin(), end, isOutside);
+    while (first != end) {
+        const auto behind = std::find_if_not(first, end, isOutside);
+        const int lastLine = std::prev(behind)->key->position.line;
+        const QString text = behind - first == 1
+            ? Command::tr("the key stands in no section and is not read")
+            : Command::tr("the keys up to line %1 stand in no section and are not read")
+                  .arg(lastLine);
+        findings->add("key-outside-section", first->key->position, text);
+        first = std::find_if(behind, end, isOutside);
+    }
+}
+
 void check(const LintItem &item, Findings *findings)
 {
     FileFindings added(item.file(), findings);
     UndeclaredKeys undeclared(item);
     KeySpelling spelling(&added);
     checkSections(&added);
+    checkOutside(item, &added);
     for (const LintKey &key : item.keys()) {
-        if (key.key->section.isEmpty()) {
-            added.add("key-outside-section", key.key->position,
-                      Command::tr("the key stands in no section and is not read"));
-        } else if (!key.section.isEmpty()) {
-            spelling.check(*key.key);
-            undeclared.check(key, &added);
-            if (key.section == knownSections().constFirst())
-                checkField(item, *key.key, &added);
-        }
+        if (key.key->section.isEmpty() || key.section.isEmpty())
+            continue;
+        spelling.check(*key.key);
+        undeclared.check(key, &added);
+        if (key.section == knownSections().constFirst())
+            checkField(item, *key.key, &added);
     }
     checkDuplicates(item, &added);
 }

@@ -4,6 +4,7 @@
 #include "lint/keyspelling.h"
 
 #include "command.h"
+#include "lint/lintitem.h"
 
 #include <algorithm>
 
@@ -71,9 +72,12 @@ void KeySpelling::checkCharacters(const ItemFileKey &key)
     const auto isAscii = [](char c) { return static_cast<signed char>(c) >= 0; };
     const auto foreign = std::find_if_not(key.spelt.cbegin(), key.spelt.cend(), isAscii);
     if (isBrokenKey(key)) {
+        const bool isQuote = key.spelt.find('"') < key.spelt.find_first_of("\r\n");
         m_findings->add("quote-in-key", key.position,
-                        Command::tr("the quote in the key makes the next lines a part of the key; "
-                                    "write it as %22"));
+                        isQuote ? Command::tr("the quote in the key makes the next lines a part "
+                                              "of the key; write it as %22")
+                                : Command::tr("the backslash at the end of the line makes the next "
+                                              "line a part of the key"));
     } else if (key.name.isEmpty()) {
         m_findings->add("nameless-key", key.position,
                         Command::tr("no key stands before the \"=\""));
@@ -83,11 +87,13 @@ void KeySpelling::checkCharacters(const ItemFileKey &key)
             const std::string_view view(other.constData(), std::size_t(other.size()));
             return m_findings->file().find(key.section, SettingsKey { {}, view }.text());
         };
+        // No field has such letters, so that another one was meant.
+        const bool isInFields = key.section == knownSections().constFirst();
         m_findings->add("non-ascii-key", &*foreign,
                         Command::tr("the key is read as \"%1\": other letters than ASCII are "
                                     "written as %U and four hexadecimal digits in a key")
                             .arg(key.name),
-                        spelt.isEmpty() || isTaken(spelt)
+                        spelt.isEmpty() || isTaken(spelt) || isInFields
                             ? QVector<TextEdit>()
                             : QVector<TextEdit> { m_findings->edit(key.spelt, spelt) });
     } else if (const char *const escape = oddEscapeIn(key.spelt)) {

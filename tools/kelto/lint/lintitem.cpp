@@ -67,6 +67,12 @@ QString meantName(const QString &name, const QStringList &known)
     return known.contains(name) ? name : nearestName(name, known);
 }
 
+/// A header that is missing most likely was to be the first.
+QString meantSection(const QString &name)
+{
+    return name.isEmpty() ? knownSections().constFirst() : meantName(name, knownSections());
+}
+
 } // namespace
 
 QStringList knownSections()
@@ -81,12 +87,25 @@ QStringList knownFields()
     return names;
 }
 
+QStringList describingSections()
+{
+    static const QStringList names { QStringLiteral("Belong"),     QStringLiteral("Group"),
+                                     QStringLiteral("ObjectName"), QStringLiteral("Symbol"),
+                                     QStringLiteral("Unit"),       QStringLiteral("Multi") };
+    return names;
+}
+
 bool isTranslatedField(const QString &name)
 {
     static const QStringList names { QStringLiteral("name_tr"), QStringLiteral("type_tr"),
                                      QStringLiteral("group_tr"),
                                      QStringLiteral("inner_mode_nameList_tr") };
     return names.contains(name);
+}
+
+bool isMeantAsComment(const QString &key)
+{
+    return key.startsWith(QLatin1Char('#'));
 }
 
 LintItem::LintItem(const ItemFile &file)
@@ -97,17 +116,17 @@ LintItem::LintItem(const ItemFile &file)
     for (const ItemFileKey &key : file.keys()) {
         auto section = meantSections.find(key.section);
         if (section == meantSections.end())
-            section = meantSections.insert(key.section, meantName(key.section, knownSections()));
+            section = meantSections.insert(key.section, meantSection(key.section));
         const bool isField = *section == knownSections().constFirst();
-        const bool isTranslated = isField && isTranslatedField(key.name);
-        const QString name
-            = isField && !isTranslated ? meantName(key.name, knownFields()) : key.name;
+        const bool isOther = isTranslatedField(key.name) || isMeantAsComment(key.name);
+        const QString name = isField && !isOther ? meantName(key.name, knownFields()) : key.name;
         const ItemValue value = isField ? valueOf(fields(), name) : valueOf(sections(), *section);
         m_keys.append({ &key, *section, name, value });
         QHash<QString, const ItemFileKey *> &known = m_sections[*section];
         if (!known.contains(name))
             m_names[*section].append(name);
-        if (name == key.name || !known.contains(name))
+        const bool isRead = *section == key.section && name == key.name;
+        if (isRead || !known.contains(name))
             known.insert(name, &key);
     }
 }

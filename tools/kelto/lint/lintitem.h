@@ -25,8 +25,14 @@ enum class ItemValue {
 QStringList knownSections();
 QStringList knownFields();
 
+/// The sections that say more about declared keys; the first is for parameters only.
+QStringList describingSections();
+
 /// The fields that the library fills in itself.
 bool isTranslatedField(const QString &name);
+
+/// Whether @p key, with its "#" in front, was to be a comment.
+bool isMeantAsComment(const QString &key);
 
 /// A key and what it is meant to be.
 struct LintKey
@@ -38,8 +44,8 @@ struct LintKey
 };
 
 /// The keys of a file, which has to outlive it, by what they are meant to be: sections and fields
-/// that are misspelt count as what they are similar to, so that one wrong letter is one finding and
-/// not many.
+/// that are misspelt count as what they are similar to, and keys in no section as those of the
+/// section KeltoItem, so that one mistake is one finding and not many.
 class LintItem
 {
 public:

@@ -4,7 +4,9 @@
 #include "lint/mends.h"
 
 #include "lint/brokenlines.h"
+#include "lint/keyspelling.h"
 #include "lint/speltvalue.h"
+#include "nearestname.h"
 
 #include <algorithm>
 
@@ -34,6 +36,7 @@ public:
             mendValue(key);
         mendLines();
         mendModeNames();
+        mendDeclarations();
         const auto standsBefore
             = [](const Mend &a, const Mend &b) { return a.edit.begin < b.edit.begin; };
         std::sort(m_mends.begin(), m_mends.end(), standsBefore);
@@ -66,6 +69,9 @@ private:
         const ItemFileKey &spelt = *key.key;
         if (spelt.spelt.substr(0, 1) == "#")
             add(&m_mends, "hash-key", spelt.position, spelt.spelt.data(), 1, ";");
+        if (const std::size_t lineEnd = spelt.spelt.find_first_of("\r\n");
+            lineEnd < spelt.spelt.find('"'))
+            add(&m_mends, "quote-in-key", spelt.position, spelt.spelt.data() + lineEnd, 0, "\\");
         const std::string_view raw = rawValueOf(m_file, spelt);
         const char *const end = raw.data() + raw.size();
         const bool isList = key.value == ItemValue::List || key.value == ItemValue::Units;
@@ -100,15 +106,19 @@ private:
     void mendLine(std::string_view line, IniPosition position, const QString &section)
     {
         const std::size_t quote = line.find('"');
-        if (quote != line.npos) {
+        const std::size_t end = line.find_first_of("\r\n");
+        if (end < quote) {
+            add(&m_mends, "no-equals-sign", position, line.data() + end, 0, "\\");
+        } else if (quote != line.npos) {
             const char *const place = lineEndBehind(line.data() + quote);
             if (place < line.data() + line.size())
                 add(&m_quotes, "no-equals-sign", position, place, 0, "\"");
         } else if (!meantHeader(line).isEmpty()) {
             add(&m_mends, "broken-header", position, line.data(), 0, "[");
         } else if (section == QLatin1String("Attribute") || section == QLatin1String("Result")) {
-            const char *const end = line.data() + line.find_last_not_of(" \t") + 1;
-            add(&m_mends, "no-equals-sign", position, end, 0, "=");
+            const char *const last = line.data() + line.find_last_not_of(" \t");
+            const bool isColon = *last == ':';
+            add(&m_mends, "no-equals-sign", position, isColon ? last : last + 1, isColon, "=");
         } else {
             mendSeparator(line, position, section);
         }
@@ -140,27 +150,63 @@ private:
         const QSet<QString> named = namedModes();
         for (int i = 0; i < qMin(modes.size(), spelt.size()); ++i) {
             const QString name = modes.at(i).trimmed();
-            const std::string_view text = spelt.at(i).text;
             if (isSpaced(modes.at(i)) && named.contains(name) && !modes.contains(name))
-                mendModeName(text);
+                mendModeName(spelt.at(i), name.toUtf8());
         }
     }
 
-    void mendModeName(std::string_view text)
+    void mendModeName(const SpeltElement &element, const QByteArray &name)
     {
+        const std::string_view text = element.text;
+        const std::size_t at = text.find(name.constData());
+        if (text.empty() || at == text.npos || text.find_first_of("\r\n") != text.npos)
+            return;
         const IniPosition cause = m_file.positionAt(text.data());
-        const char *const end = text.data() + text.size();
-        const auto isBlankOrQuote = [](char c) { return c == ' ' || c == '"'; };
-        const char *const name = std::find_if_not(text.data(), end, isBlankOrQuote);
-        const char *nameEnd = end;
-        while (nameEnd > name && isBlankOrQuote(nameEnd[-1]))
-            --nameEnd;
-        const char *const begin = text.front() == '"' ? text.data() + 1 : text.data();
-        const char *const last = text.back() == '"' ? end - 1 : end;
-        if (begin < name)
-            add(&m_mends, "white-space-at-ends", cause, begin, int(name - begin), "");
-        if (nameEnd < last)
-            add(&m_mends, "white-space-at-ends", cause, nameEnd, int(last - nameEnd), "");
+        const char *const nameBegin = text.data() + at;
+        const char *const nameEnd = nameBegin + name.size();
+        // Behind a line that is continued the blanks in front are a part of the name.
+        const char *const begin = text.data() - (element.beginsLine ? element.blanksBefore : 0)
+            + (text.front() == '"' ? 1 : 0);
+        const char *const end = text.data() + text.size() - (text.back() == '"' ? 1 : 0);
+        if (begin < nameBegin)
+            add(&m_mends, "white-space-at-ends", cause, begin, int(nameBegin - begin), "");
+        if (nameEnd < end)
+            add(&m_mends, "white-space-at-ends", cause, nameEnd, int(end - nameEnd), "");
+    }
+
+    /// Where several sections agree on the key of a parameter, and none knows the one that is
+    /// declared, the declaration is misspelt.
+    void mendDeclarations()
+    {
+        QHash<QString, int> described;
+        for (const LintKey &key : m_item.keys())
+            described[key.name] += describingSections().contains(key.section) ? 1 : 0;
+        QStringList unknown;
+        for (const QString &name : m_item.namesIn(QStringLiteral("Attribute"))) {
+            if (described.value(name) == 0 && !isMeantAsComment(name))
+                unknown.append(name);
+        }
+        const NearestNames candidates(unknown);
+        QSet<QString> mended;
+        for (const QString &name : m_item.namesIn(QStringLiteral("Belong"))) {
+            if (m_declared.contains(name) || described.value(name) < 2)
+                continue;
+            const QString misspelt = candidates.nearest(name);
+            if (!misspelt.isEmpty() && !mended.contains(misspelt))
+                mendDeclaration(misspelt, name);
+            mended.insert(misspelt);
+        }
+    }
+
+    void mendDeclaration(const QString &misspelt, const QString &name)
+    {
+        const ItemFileKey &declaration = *m_item.find(QStringLiteral("Attribute"), misspelt);
+        const ItemFileKey &key = *m_item.find(QStringLiteral("Belong"), name);
+        const QByteArray right(key.spelt.data(), int(key.spelt.size()));
+        if (!isBrokenKey(declaration) && !isBrokenKey(key)) {
+            add(&m_mends, "undeclared-key", key.position, declaration.spelt.data(),
+                int(declaration.spelt.size()), right.constData());
+        }
     }
 
     QSet<QString> namedModes() const
@@ -192,6 +238,8 @@ QVector<Mend> mendsFor(const LintItem &item, const Findings &findings)
         QStringLiteral("joined-lines"),
         QStringLiteral("no-equals-sign"),
         QStringLiteral("quote-across-lines"),
+        QStringLiteral("quote-in-key"),
+        QStringLiteral("undeclared-key"),
         QStringLiteral("white-space-at-ends"),
     };
     const bool isAny = std::any_of(findings.cbegin(), findings.cend(), [](const Finding &finding) {

@@ -14,7 +14,7 @@ struct Mend
 {
     QString rule; ///< Of the finding.
     IniPosition cause; ///< And where it is.
-    TextEdit edit; ///< Within one line, of characters of ASCII.
+    TextEdit edit; ///< Within one line.
 };
 
 /// A finding is told from the others by its rule and its place.

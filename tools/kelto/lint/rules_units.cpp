@@ -84,6 +84,9 @@ std::optional<UnitPair> pairOf(const ItemFile &file, const ItemFileKey &key, Fin
         return std::nullopt;
     const QString first = key.value.constFirst();
     const QString second = key.value.constLast();
+    // Bytes that are not UTF-8 are another finding.
+    if (key.value.join(QString()).contains(QChar(QChar::ReplacementCharacter)))
+        return std::nullopt;
     const std::optional<Unit> units[] { unitOf(first), unitOf(second) };
     if (!units[0] || !units[1]) {
         FileFindings(file, findings)

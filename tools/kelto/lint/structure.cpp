@@ -48,29 +48,22 @@ public:
     void check()
     {
         checkName();
-        checkModeCommas();
-        checkModeCount();
-        checkDescriptions();
-        checkFlag();
         if (m_modes.isEmpty() && !m_parameters.isEmpty())
             addMissingModes();
-        else if (checkBelong())
-            checkEmptyModes();
+        else
+            checkModeLists();
         checkResults();
     }
 
 private:
-    /// A line behind that of @p key.
-    TextEdit lineBehind(const ItemFileKey &key, const QByteArray &text) const
+    void checkModeLists()
     {
-        const QByteArray &bytes = m_findings->file().bytes();
-        const char lineEnd = bytes.contains('\n') ? '\n' : '\r';
-        const int valueEnd = m_findings->offsetOf(key.speltValue.data() + key.speltValue.size());
-        const int end = bytes.indexOf(lineEnd, valueEnd);
-        const bool isPair = end > 0 && lineEnd == '\n' && bytes.at(end - 1) == '\r';
-        const QByteArray lineEnding = isPair ? QByteArray("\r\n") : QByteArray(1, lineEnd);
-        const int place = end < 0 ? bytes.size() : end - (isPair ? 1 : 0);
-        return { place, place, lineEnding + text };
+        checkModeCommas();
+        checkModeCount();
+        checkDescriptions();
+        checkFlag();
+        if (checkBelong())
+            checkEmptyModes();
     }
 
     void checkName()
@@ -104,7 +97,7 @@ private:
                                 Command::tr("\"inner_mode_count\" is missing, so that there is no "
                                             "mode; %1 have a name")
                                     .arg(m_modes.size()),
-                                { lineBehind(*names, right) });
+                                { m_findings->lineBehind(*names, right) });
             }
             return;
         }
@@ -114,13 +107,20 @@ private:
             return;
         // What fits the descriptions is right.
         const bool isCountRight = names && number == descriptions().size();
-        // Only a comma in a name makes more of them.
-        const QString text = number >= 0 && number < m_modes.size()
-            ? Command::tr("\"inner_mode_count\" is %1, and \"inner_mode_nameList\" has %2; a name "
-                          "with a comma needs quotes")
-            : Command::tr("\"inner_mode_count\" is %1, and \"inner_mode_nameList\" has %2");
         m_findings->add("mode-count", isCountRight ? names->valuePosition : count->valuePosition,
-                        text.arg(number).arg(m_modes.size()));
+                        textOnCount(number).arg(number).arg(m_modes.size()));
+    }
+
+    /// Only commas make more names than there are modes.
+    QString textOnCount(int number) const
+    {
+        if (number < 0 || number > m_modes.size())
+            return Command::tr("\"inner_mode_count\" is %1, and \"inner_mode_nameList\" has %2");
+        if (m_knownModes.contains(QString()))
+            return Command::tr("\"inner_mode_count\" is %1, and \"inner_mode_nameList\" has %2; a "
+                               "superfluous comma makes an empty name");
+        return Command::tr("\"inner_mode_count\" is %1, and \"inner_mode_nameList\" has %2; a name "
+                           "with a comma needs quotes");
     }
 
     QStringList descriptions() const
@@ -176,7 +176,8 @@ private:
                 continue;
             }
             isRight = false;
-            if (name.contains(QLatin1Char('/')) || name.isEmpty() || meant.contains(name))
+            if (name.contains(QLatin1Char('/')) || name.isEmpty() || meant.contains(name)
+                || isMeantAsComment(name))
                 continue;
             const ItemFileKey &parameter = *m_item.find(attribute(), name);
             m_findings->add("missing-belong", key ? key->position : parameter.position,
@@ -237,7 +238,9 @@ private:
             const QString meant = m_nearestModes.nearest(modes.at(i));
             // White space at the ends of a name is a mistake itself.
             const QString nearest = meant == meant.trimmed() ? didYouMean(meant) : QString();
-            const QString text = Command::tr("there is no mode \"%1\".").arg(modes.at(i));
+            const QString text = modes.at(i).isEmpty()
+                ? Command::tr("a superfluous comma makes an empty name.")
+                : Command::tr("there is no mode \"%1\".").arg(modes.at(i));
             const std::string_view place = spelt.at(qMin(i, spelt.size() - 1)).text;
             m_findings->add("unknown-mode", place.data(),
                             nearest.isEmpty() ? text.chopped(1) : text + nearest,
@@ -313,9 +316,9 @@ private:
     QVector<TextEdit> fixOfResults(const QStringList &names) const
     {
         const ItemFileKey *last = nullptr;
-        for (const LintKey &key : m_item.keys()) {
+        for (const ItemFileKey &key : m_findings->file().keys()) {
             if (key.section == QLatin1String("KeltoItem"))
-                last = key.key;
+                last = &key;
         }
         const auto isSimple = [](const QString &name) {
             return std::all_of(name.cbegin(), name.cend(), [](QChar c) {
@@ -325,7 +328,9 @@ private:
         };
         if (!last || !std::all_of(names.cbegin(), names.cend(), isSimple))
             return {};
-        return { lineBehind(*last, "output_results=" + names.join(QStringLiteral(", ")).toUtf8()) };
+        return { m_findings->lineBehind(*last,
+                                        "output_results="
+                                            + names.join(QStringLiteral(", ")).toUtf8()) };
     }
 
     FileFindings *const m_findings;

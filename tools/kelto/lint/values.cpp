@@ -37,6 +37,7 @@ public:
     ValueCheck(const LintKey &key, const SavedSpelling &saved, const HintBars &bars,
                FileFindings *findings)
         : m_key(*key.key)
+        , m_section(key.section)
         , m_kind(key.value)
         , m_raw(rawValueOf(findings->file(), m_key))
         , m_spelt(speltValueOf(m_raw))
@@ -109,8 +110,14 @@ private:
         if (m_kind == ItemValue::Extra
             && m_bars.addMissing(m_key, m_spelt.comma, isPlain, m_findings))
             return;
+        if (!isOneText() || m_section == QLatin1String("Multi")) {
+            m_findings->add("split-text", m_spelt.comma,
+                            Command::tr("the comma makes a list of the value, which is then not "
+                                        "read; write one value"));
+            return;
+        }
         QVector<TextEdit> fix;
-        if (isPlain && m_kind == ItemValue::Text) {
+        if (isPlain && m_kind == ItemValue::Text && !isMeantOtherwise()) {
             const QByteArray text(m_key.speltValue.data(), int(m_key.speltValue.size()));
             fix = { m_findings->edit(m_key.speltValue, '"' + text + '"') };
         }
@@ -118,6 +125,14 @@ private:
                         Command::tr("the comma makes a list of the text, which is then not read "
                                     "as a text; put quotes around it"),
                         fix);
+    }
+
+    /// Within quotes the text would hold single quotes that were to be its quotes, or be read as a
+    /// value of another type.
+    bool isMeantOtherwise() const
+    {
+        const char first = m_key.speltValue.front();
+        return first == '\'' || first == '@';
     }
 
     void checkBlanks(int index)
@@ -156,7 +171,9 @@ private:
             m_findings->add("typed-value", element.text.data(),
                             Command::tr("the text is read as a value of another type; write "
                                         "\"@@\" for \"@\" where a text is meant"));
-        } else if (text.trimmed() != text && m_spelt.longQuotes.isEmpty()) {
+        } else if (text.trimmed() != text && m_spelt.longQuotes.isEmpty()
+                   && m_section != QLatin1String("Belong")) {
+            // What is in [Belong] is the name of a mode, or none.
             m_findings->add("white-space-at-ends", element.text.data(),
                             Command::tr("\"%1\" begins or ends with white space, which is a part "
                                         "of the text")
@@ -165,6 +182,7 @@ private:
     }
 
     const ItemFileKey &m_key;
+    const QString m_section;
     const ItemValue m_kind;
     const std::string_view m_raw;
     const SpeltValue m_spelt;

@@ -2097,10 +2097,6 @@ Exit code 1 when projects that were stored with the old version lose something: 
         <translation>该行没有“=”，且有未结束的引号，直到第 %1 行的所有内容都会随之被忽略</translation>
     </message>
     <message>
-        <source>the list ends at the &quot;;&quot;; a comma divides its elements</source>
-        <translation>列表在“;”处结束；元素之间用逗号分隔</translation>
-    </message>
-    <message>
         <source>A header is a name in brackets and nothing else. Text behind it is ignored, and so is a header without the first bracket.</source>
         <translation>节标题是方括号中的名称，此外没有其他内容。其后的文本会被忽略，缺少前一个方括号的节标题也会被忽略。</translation>
     </message>
@@ -2191,6 +2187,46 @@ Rules are configured in files named &quot;.kelto-lint.ini&quot;, in the director
     <message>
         <source>%1: the value of &quot;%2&quot; is lost: a comma makes a list of it. Put quotes around it.</source>
         <translation>%1：“%2”的值丢失：逗号把它变成了列表。请给它加引号。</translation>
+    </message>
+    <message>
+        <source>the header has a quote that is not closed, and all up to line %1 is ignored</source>
+        <translation>节标题中有未结束的引号，直到第 %1 行的所有内容都会被忽略</translation>
+    </message>
+    <message>
+        <source>the quote hides the &quot;=&quot;, and all up to line %1 is ignored; write a quote in a key as %22</source>
+        <translation>引号遮住了“=”，直到第 %1 行的所有内容都会被忽略；键中的引号请写作 %22</translation>
+    </message>
+    <message>
+        <source>the list ends at the &quot;;&quot;; a comma divides its elements, and a comment stands on a line of its own</source>
+        <translation>列表在“;”处结束；元素以逗号分隔，注释放在单独一行</translation>
+    </message>
+    <message>
+        <source>the text ends at the &quot;;&quot;; a &quot;|&quot; divides the parts of this hint, and a comment stands on a line of its own</source>
+        <translation>文本在“;”处结束；此提示的各部分以“|”分隔，注释放在单独一行</translation>
+    </message>
+    <message>
+        <source>the keys up to line %1 stand in no section and are not read</source>
+        <translation>直到第 %1 行的键都不在任何节中，不会被读取</translation>
+    </message>
+    <message>
+        <source>&quot;inner_mode_count&quot; is %1, and &quot;inner_mode_nameList&quot; has %2; a superfluous comma makes an empty name</source>
+        <translation>“inner_mode_count”为 %1，而“inner_mode_nameList”有 %2 个；多余的逗号会产生空名称</translation>
+    </message>
+    <message>
+        <source>a superfluous comma makes an empty name.</source>
+        <translation>多余的逗号会产生空名称。</translation>
+    </message>
+    <message>
+        <source>the comma makes a list of the value, which is then not read; write one value</source>
+        <translation>逗号使此值成为列表，因而不会被读取；请只写一个值</translation>
+    </message>
+    <message>
+        <source>the line has no &quot;=&quot; and a backslash at its end, and all up to line %1 is ignored with it</source>
+        <translation>该行没有“=”，且以反斜杠结尾，直到第 %1 行的所有内容都会随之被忽略</translation>
+    </message>
+    <message>
+        <source>the backslash at the end of the line makes the next line a part of the key</source>
+        <translation>行末的反斜杠使下一行成为键的一部分</translation>
     </message>
     <message>
         <source>Writes the style sheet text that VIniSettings::styleSheetFormat() makes of the file. &quot;QtClassName&quot; in the section &quot;ID&quot; is the class of the widgets, the section &quot;normal&quot; their style, and every other section the style of a state, such as &quot;hover&quot;. A file without a class and without &quot;normal&quot; is an error, and so is a value that a comma outside of quotes divides: nothing of it is in the text.</source>
