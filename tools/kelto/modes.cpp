@@ -128,6 +128,13 @@ ExitCode run(const QCommandLineParser &line, Console &console)
                                      "Try \"kelto modes --help\"."));
         return WrongUsage;
     }
+    const QString application = line.value(QStringLiteral("app"));
+    if (application.contains(QLatin1Char(':'))) {
+        console.complain(
+            Command::tr("%1: a name cannot hold \":\", which divides the names of modes.")
+                .arg(application));
+        return WrongUsage;
+    }
     std::optional<TranslationFile> translation;
     if (line.isSet(QStringLiteral("translation")))
         translation.emplace(line.value(QStringLiteral("translation")));
@@ -139,7 +146,6 @@ ExitCode run(const QCommandLineParser &line, Console &console)
     const QVector<ItemFile> files = readItemFiles(line.positionalArguments(), console, &areAllRead);
     if (files.isEmpty())
         return Found;
-    const QString application = line.value(QStringLiteral("app"));
     const QVector<OfferedMode> modes = offeredModes(
         registryOf(application, itemsOf(files, translation ? &*translation : nullptr)));
     if (line.isSet(QStringLiteral("json")))
