@@ -17,6 +17,9 @@
 
 namespace {
 
+/// A directory of stored projects would fill the screen with more.
+constexpr int mostSkippedNotes = 5;
+
 QString unreadable(const QString &path, const QString &why)
 {
     return Command::tr("%1: cannot be read: %2.").arg(path, why);
@@ -89,23 +92,39 @@ bool mayBeItem(const QString &path)
         || isLikeItem(file.readAll());
 }
 
-/// Of the @p files, which were found in a directory, those that are like items or are @p named by
+void noteSkipped(const QStringList &files, const QString &directory, Console &console)
+{
+    if (files.size() > mostSkippedNotes) {
+        console.note(Command::tr("%1: %2 files below it are skipped, since nothing in them is a "
+                                 "part of a module item, %3 for example. Name a file itself to "
+                                 "have it read.")
+                         .arg(directory)
+                         .arg(files.size())
+                         .arg(files.constFirst()));
+        return;
+    }
+    for (const QString &path : files) {
+        console.note(Command::tr("%1: is skipped, since nothing in it is a part of a module "
+                                 "item. Name the file itself to have it read.")
+                         .arg(path));
+    }
+}
+
+/// Of the @p files, which were found in @p directory, those that are like items or are @p named by
 /// themselves.
-QStringList likeItems(const QStringList &files, const QStringList &named, Console &console)
+QStringList likeItems(const QStringList &files, const QString &directory, const QStringList &named,
+                      Console &console)
 {
     QSet<QString> wanted;
     for (const QString &path : named)
         wanted.insert(QFileInfo(path).canonicalFilePath());
     QStringList items;
+    QStringList skipped;
     for (const QString &path : files) {
-        if (wanted.contains(QFileInfo(path).canonicalFilePath()) || mayBeItem(path)) {
-            items.append(path);
-        } else {
-            console.note(Command::tr("%1: is skipped, since nothing in it is a part of a module "
-                                     "item. Name the file itself to have it read.")
-                             .arg(path));
-        }
+        const bool isWanted = wanted.contains(QFileInfo(path).canonicalFilePath());
+        (isWanted || mayBeItem(path) ? items : skipped).append(path);
     }
+    noteSkipped(skipped, directory, console);
     return items;
 }
 
@@ -113,7 +132,7 @@ QStringList itemFilesBelow(const QString &directory, const QStringList &named, C
                            QStringList *problems)
 {
     const QStringList files = filesBelow(directory, problems);
-    const QStringList items = likeItems(files, named, console);
+    const QStringList items = likeItems(files, directory, named, console);
     if (items.isEmpty() && problems->isEmpty()) {
         problems->append((files.isEmpty() ? Command::tr("%1: no file below it ends in \".ini\".")
                                           : Command::tr("%1: no file below it is a module item."))

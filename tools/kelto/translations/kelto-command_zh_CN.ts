@@ -2232,5 +2232,9 @@ Rules are configured in files named &quot;.kelto-lint.ini&quot;, in the director
         <source>Writes the style sheet text that VIniSettings::styleSheetFormat() makes of the file. &quot;QtClassName&quot; in the section &quot;ID&quot; is the class of the widgets, the section &quot;normal&quot; their style, and every other section the style of a state, such as &quot;hover&quot;. A file without a class and without &quot;normal&quot; is an error, and so is a value that a comma outside of quotes divides: nothing of it is in the text.</source>
         <translation>输出 VIniSettings::styleSheetFormat() 由此文件生成的样式表文本。节“ID”中的“QtClassName”是部件的类，节“normal”是其样式，其他每个节是一种状态的样式，例如“hover”。既没有类也没有“normal”的文件是错误，被引号外的逗号分开的值也是错误：文本中没有它的任何内容。</translation>
     </message>
+    <message>
+        <source>%1: %2 files below it are skipped, since nothing in them is a part of a module item, %3 for example. Name a file itself to have it read.</source>
+        <translation>%1：已跳过其下的 %2 个文件，因为其中没有模块项的任何部分，例如 %3。要读取某个文件，请直接指定它。</translation>
+    </message>
 </context>
 </TS>
