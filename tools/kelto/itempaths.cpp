@@ -87,9 +87,11 @@ QString whyMissing(const QString &path)
 /// What cannot be read may be an item.
 bool mayBeItem(const QString &path)
 {
+    // Opening a pipe would wait for somebody who writes.
+    if (!QFileInfo(path).isFile())
+        return true;
     QFile file(path);
-    return !whyUnreadable(path).isEmpty() || !file.open(QIODevice::ReadOnly)
-        || isLikeItem(file.readAll());
+    return !file.open(QIODevice::ReadOnly) || isLikeItem(file.readAll());
 }
 
 void noteSkipped(const QStringList &files, const QString &directory, Console &console)
@@ -182,7 +184,6 @@ QStringList itemFilesAt(const QStringList &paths, Console &console, bool *areAll
 
 QString whyUnreadable(const QString &path)
 {
-    // Opening a pipe would wait for somebody who writes.
     const QFileInfo info(path);
     if (!info.exists())
         return whyMissing(path);
