@@ -182,13 +182,15 @@ private:
         for (const LintKey &key : m_item.keys())
             described[key.name] += describingSections().contains(key.section) ? 1 : 0;
         QStringList unknown;
-        for (const QString &name : m_item.namesIn(QStringLiteral("Attribute"))) {
+        const QStringList declared = m_item.namesIn(QStringLiteral("Attribute"));
+        for (const QString &name : declared) {
             if (described.value(name) == 0 && !isMeantAsComment(name))
                 unknown.append(name);
         }
         const NearestNames candidates(unknown);
         QSet<QString> mended;
-        for (const QString &name : m_item.namesIn(QStringLiteral("Belong"))) {
+        const QStringList named = m_item.namesIn(QStringLiteral("Belong"));
+        for (const QString &name : named) {
             if (m_declared.contains(name) || described.value(name) < 2)
                 continue;
             const QString misspelt = candidates.nearest(name);
