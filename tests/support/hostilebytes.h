@@ -89,6 +89,32 @@ inline QByteArray damagedBytes(Dice *dice)
     return bytes;
 }
 
+/// @p bytes with some pieces changed, moved, doubled or gone.
+inline QByteArray mutated(QByteArray bytes, Dice *dice)
+{
+    for (int i = dice->between(1, 6); i > 0 && !bytes.isEmpty(); --i) {
+        const int begin = dice->between(0, bytes.size() - 1);
+        const int length = dice->between(1, dice->chance(80) ? 4 : 200);
+        switch (dice->between(0, 4)) {
+        case 0:
+            bytes.remove(begin, length);
+            break;
+        case 1:
+            bytes.insert(begin, bytes.mid(dice->between(0, bytes.size() - 1), length));
+            break;
+        case 2:
+            bytes[begin] = char(dice->between(0, 255));
+            break;
+        case 3:
+            bytes.truncate(dice->chance(90) ? bytes.size() : begin);
+            break;
+        default:
+            bytes.insert(begin, pieceOfSyntax(dice));
+        }
+    }
+    return bytes;
+}
+
 inline QByteArray anyBytes(Dice *dice)
 {
     if (dice->chance(50))
