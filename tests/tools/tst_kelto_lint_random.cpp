@@ -196,13 +196,13 @@ void TestKeltoLintRandom::findsNoMoreInWhatToolsWrite()
         const QByteArray bytes = fileOf(seed);
         QVERIFY(writeFile("item.ini", bytes));
         const ItemFile file("item.ini");
-        // Arranging a file may undo damage and leave what followed from it, which counts, too.
+        // Arranging a file may mend damage. What followed from that is told then, so it counts.
         const Findings before = everyFindingIn(file) + findingsAmong({ file });
-        // In the place of a quote that is not closed, line breaks and white space are told then.
+        // Once a quote is closed, the line breaks and the white space in it are two findings.
         const int most = before.size() + countOf(before, "quote-across-lines");
         DocumentError error;
         QByteArrayList texts { formatted(bytes, &error) };
-        // What is missing in a file with errors is missed in the item, too, by another name.
+        // Another rule may tell an error of the file in what is written from the item.
         if (linesOf(before, Severity::Error).isEmpty())
             texts.append(thereAndBack(file.item()));
         texts.removeAll({});

@@ -18,7 +18,7 @@ namespace {
 bool isInt(double number)
 {
     return number >= std::numeric_limits<int>::min() && number <= std::numeric_limits<int>::max()
-        && number == std::floor(number) && !(number == 0 && std::signbit(number));
+        && number == std::floor(number);
 }
 
 /// A number that JSON would not give back with its type.
@@ -40,7 +40,7 @@ QJsonValue valueAsJson(const QVariant &value)
     case QMetaType::Int:
         return value.toInt();
     case QMetaType::Double:
-        if (!std::isfinite(value.toDouble()) || isInt(value.toDouble()) || value.toDouble() == 0)
+        if (!std::isfinite(value.toDouble()) || isInt(value.toDouble()))
             return typed(value);
         return value.toDouble();
     case QMetaType::QStringList:
