@@ -77,6 +77,14 @@ void TestKeltoLintFollowers::findsTheCause_data()
     row("modes of a parameter behind a blank", "Static head=Design", "Static head Design",
         { noEqualsSign.arg(16) });
 
+    row("a result without an equals sign", "[Unit]\n", "[Result]\nPower\n\n[Unit]\nPower=kW, kW\n",
+        { noEqualsSign.arg(20) });
+    row("a symbol of a result behind a blank", "[Symbol]\nFlow=Q\nStatic head=H\nSpeed=n\n",
+        "[Result]\nPower=\n\n[Symbol]\nPower P\n",
+        { "25:1 results-not-read no result is read, since \"output_results\" is missing under "
+          "[KeltoItem]",
+          noEqualsSign.arg(28) });
+
     row("a quote that is not closed", "group=", "description=\"Pumps, radial\ngroup=",
         { "4:13 quote-across-lines the quote is not closed on this line, and all up to line 35 is "
           "read as a part of this value" });
@@ -93,6 +101,9 @@ void TestKeltoLintFollowers::findsTheCause_data()
     row("semicolons between modes", "Design, Part load", "Design; Part load",
         { "7:27 cut-text the list ends at the \";\"; a comma divides its elements, and a comment "
           "stands on a line of its own" });
+    row("semicolons between units", "m³/h, m³/s", "m³/h; m³/s",
+        { "20:10 cut-text the list ends at the \";\"; a comma divides its elements, and a comment "
+          "stands on a line of its own" });
     row("a comma in the name of a mode", "=Design, Part load", "=Design, at 20 °C, Part load",
         { "6:18 mode-count \"inner_mode_count\" is 2, and \"inner_mode_nameList\" has 3; a name "
           "with a comma needs quotes" });
@@ -102,6 +113,15 @@ void TestKeltoLintFollowers::findsTheCause_data()
     row("blanks at both ends of a mode", "Design, Part load", "Design, \"  Part load \"",
         { "7:29 unknown-mode the name of the mode begins or ends with white space, and [Belong] "
           "names it without" });
+    row("a blank at the end of a copy of a mode", "Design, Part load",
+        "Design, Part load, \"Part load \"",
+        { "6:18 mode-count \"inner_mode_count\" is 2, and \"inner_mode_nameList\" has 3; a name "
+          "with a comma needs quotes",
+          "7:40 white-space-at-ends \"Part load \" begins or ends with white space, which is a "
+          "part "
+          "of the text",
+          "7:40 like-modes the inner modes \"Part load\" and \"Part load \" differ only in case or "
+          "white space" });
     row("a line that was to be a comment", "name=", "# name=Beam\nname=",
         { "2:1 hash-key \"#\" begins no comment here: the line is a key; a comment begins with "
           "\";\"" });
@@ -171,10 +191,24 @@ void TestKeltoLintFollowers::findsTheCause_data()
           "read as a part of this value",
           "26:14 stray-quote the quote is not around the whole text and is dropped; put quotes "
           "around all of it and write the ones inside as \\\"" });
+    row("a quote that is not closed in front of two others", "name=Pump\n",
+        "icon=\"pump\nname=Pump\n; of 5\" pipes\nlib_name=\"a\ndescription=\"b\n",
+        { "2:6 quote-across-lines the quote is not closed on this line, and all up to line 4 is "
+          "read as a part of this value",
+          "5:10 quote-across-lines the quote is not closed on this line, and all up to line 6 is "
+          "read as a part of this value",
+          "6:14 stray-quote the quote is not around the whole text and is dropped; put quotes "
+          "around all of it and write the ones inside as \\\"" });
     row("a text that is meant to have two lines",
         "group=", "description=\"Pumps,\nradial and axial\"\ngroup=",
         { "4:13 quote-across-lines the quote is not closed on this line, and all up to line 5 is "
           "read as a part of this value" });
+    row("an error that follows from a line that was to be a comment", "[Attribute]\n",
+        "[Attribute]\n# Width=\n",
+        { "10:1 hash-key \"#\" begins no comment here: the line is a key; a comment begins with "
+          "\";\"",
+          "10:1 missing-belong the parameter \"# Width\" belongs to no mode; [Belong] has to name "
+          "the modes that take it" });
     row("errors beside a line that was to be a comment", "Static head=\n", "# Static head=\n",
         { "11:1 hash-key \"#\" begins no comment here: the line is a key; a comment begins with "
           "\";\"",

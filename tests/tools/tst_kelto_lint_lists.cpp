@@ -77,6 +77,13 @@ void TestKeltoLintLists::finds_data()
         { "2:7 dropped-white-space white space in front of \"m\"" + blanks }, "[Unit]\nA=mm, m\n");
     row("white space before a comma", "[Unit]\nA=mm , m\n",
         { "2:5 dropped-white-space white space behind \"mm\"" + blanks }, "[Unit]\nA=mm, m\n");
+    row("white space in front of the rest of a list", "[Unit]\nA=mm,\\\n    m\n",
+        { "3:5 white-space-at-ends \"    m\" begins or ends with white space, which is a part of "
+          "the "
+          "text" });
+    row("white space in front of a comment", "Help.A=Water  ; cold\n",
+        { "1:15 cut-text the text ends at the \";\"; put quotes around it, or put the comment on a "
+          "line of its own" });
     row("white space that is a part of an element", "[Unit]\nA=mm, \" m\"\n",
         { "2:7 white-space-at-ends \" m\" begins or ends with white space, which is a part of the "
           "text" });
