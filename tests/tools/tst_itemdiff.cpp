@@ -1,10 +1,12 @@
 // SPDX-FileCopyrightText: The Kelto developers
 // SPDX-License-Identifier: MIT
 
-// The comparison of items, on random ones: what is gone one way has come the other way.
+// The comparison of items: what is told of a change, and on random items, that what is gone one way
+// has come the other way.
 
 #include "itemdiff.h"
 #include "support/hintitems.h"
+#include "support/parameters.h"
 
 #include <QTest>
 
@@ -13,6 +15,9 @@ class TestItemDiff : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void tells_data();
+    void tells();
+    void renamesOnce();
     void findsNothingInOneItem();
     void isTheSameBackwards();
 };
@@ -53,6 +58,62 @@ QStringList linesOf(const QVector<ItemChange> &changes, bool isBackwards)
 }
 
 } // namespace
+
+void TestItemDiff::tells_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<QString>("after");
+    QTest::addColumn<QStringList>("lines");
+
+    const auto row = [](const char *name, const char *key, const char *before, const char *after,
+                        const char *line) {
+        QTest::newRow(name) << QString(key) << QString(before) << QString(after)
+                            << QStringList(line);
+    };
+    row("a key of the host", "Author", "a", "b", "Author value");
+    row("filters of files", "Files.x", "*.a", "*.b", "x files");
+    row("a limit of a parameter", "Max.x", "5", "4", "x maximum loses");
+    row("a limit of a result", "Max.R", "5", "4", "R maximum");
+}
+
+void TestItemDiff::tells()
+{
+    QFETCH(QString, key);
+    QFETCH(QString, before);
+    QFETCH(QString, after);
+
+    AUTH_INF item;
+    item.inner_mode_count = 1;
+    item.inner_mode_nameList = QStringList { "A" };
+    item.inner_mode_parameterList = { { entry("x") } };
+    item.output_results = { entry("R") };
+    item.extraKey = { { key, before } };
+    AUTH_INF changed = item;
+    changed.extraKey = { { key, after } };
+    QStringList found;
+    const QVector<ItemChange> changes = itemDiff(item, changed);
+    for (const ItemChange &change : changes)
+        found.append(change.name + ' ' + change.property + (change.loses ? " loses" : ""));
+    QTEST(found, "lines");
+}
+
+void TestItemDiff::renamesOnce()
+{
+    AUTH_INF before;
+    before.inner_mode_count = 2;
+    before.inner_mode_nameList = QStringList { "Part load", "Part-load" };
+    AUTH_INF after = before;
+    after.inner_mode_nameList = QStringList { "part_load", "full load" };
+    QStringList found;
+    const QVector<ItemChange> changes = itemDiff(before, after);
+    for (const ItemChange &change : changes)
+        found.append(QString("%1 %2 %3").arg(change.name).arg(change.kind).arg(change.after));
+    QCOMPARE(found,
+             QStringList({ QString("Part load %1 part_load").arg(ItemChange::Renamed),
+                           QString("Part-load %1 ").arg(ItemChange::Removed),
+                           QString("full load %1 ").arg(ItemChange::Added) }));
+}
 
 void TestItemDiff::findsNothingInOneItem()
 {

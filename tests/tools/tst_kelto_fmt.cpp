@@ -136,6 +136,26 @@ private Q_SLOTS:
         QCOMPARE(formattedFile(path, &error), fileContent(path));
     }
 
+    void arranges_data()
+    {
+        QTest::addColumn<QByteArray>("end");
+        QTest::addColumn<QByteArray>("expected");
+
+        QTest::newRow("an order for one mode behind the one for all")
+            << QByteArray("[ExtraKey]\nOrder@A=b\nOrder=a\n")
+            << QByteArray("[ExtraKey]\nOrder=a\nOrder@A=b\n");
+        QTest::newRow("a section with the name of the one without a name")
+            << QByteArray("[%General]\na=1\n") << QByteArray("[%General]\na=1\n");
+    }
+    void arranges()
+    {
+        QFETCH(QByteArray, end);
+        QFETCH(QByteArray, expected);
+        const QByteArray start = "[KeltoItem]\nname=a\n\n";
+        DocumentError error;
+        QCOMPARE(formatted(start + end, &error), start + expected);
+    }
+
     void spells_data()
     {
         QTest::addColumn<QByteArray>("spelling");

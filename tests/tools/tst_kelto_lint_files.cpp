@@ -4,6 +4,7 @@
 // Findings about how one file is written, and what is mended in it.
 
 #include "console.h"
+#include "lint/fixes.h"
 #include "lint/lintconfig.h"
 #include "lint/lintitem.h"
 #include "lintfindings.h"
@@ -21,6 +22,8 @@ private Q_SLOTS:
     void findsInOneFile();
     void mendsWithOneRightAnswerOnly_data();
     void mendsWithOneRightAnswerOnly();
+    void addsALine_data();
+    void addsALine();
     void takesEscapesForMeantInSavedFiles_data();
     void takesEscapesForMeantInSavedFiles();
     void findsNothingButUtf16();
@@ -66,6 +69,14 @@ void TestKeltoLintFiles::findsInOneFile_data()
           "9:5 other-comma the \"，\" divides no list; write a \",\" for it" });
     row("a count that is too large", modes + "A\n[Attribute]\nLength=\n[Belong]\nLength=A\n",
         { "4:18 mode-count \"inner_mode_count\" is 2, and \"inner_mode_nameList\" has 1" });
+    row("a count that the descriptions confirm",
+        modes + "A\ninner_mode_description=a, b\n[Attribute]\nLength=\n[Belong]\nLength=A\n",
+        { "5:21 mode-count \"inner_mode_count\" is 2, and \"inner_mode_nameList\" has 1" });
+    row("a flag without a text",
+        "[KeltoItem]\nname=Beam\nexclusive_group=\ninner_mode_count=1\ninner_mode_nameList=A\n"
+        "[Attribute]\nLength=\n[Belong]\nLength=A\n",
+        { "5:1 missing-exclusive-group modes are listed, and \"exclusive_group\" does not say "
+          "whether one of them is selected at a time" });
     row("a count that is too small",
         modes + "A, B, C\n[Attribute]\nLength=\n[Belong]\nLength=A, B, C\n",
         { "4:18 mode-count \"inner_mode_count\" is 2, and \"inner_mode_nameList\" has 3; a name "
@@ -146,6 +157,18 @@ void TestKeltoLintFiles::mendsWithOneRightAnswerOnly_data()
         "other-comma", 1);
     row("full-width commas in quotes", item + "inner_mode_count=2\ninner_mode_nameList=\"A，B\"\n",
         "other-comma", 0);
+    row("a mode in other letters",
+        item
+            + "inner_mode_count=2\ninner_mode_nameList=part, "
+              "FULL\n[Attribute]\na=\n[Belong]\na=Part\n",
+        "unknown-mode", 1);
+    row("a mode in other letters than two",
+        item
+            + "inner_mode_count=2\ninner_mode_nameList=part, "
+              "PART\n[Attribute]\na=\n[Belong]\na=Part\n",
+        "unknown-mode", 0);
+    row("results that no field counts", item + "[Result]\na=\nb=\n", "results-not-read", 1);
+    row("a result with a comma", item + "[Result]\na%2Cb=\n", "results-not-read", 0);
     row("one unit", item + "[Unit]\nPower=kW\n", "single-unit", 1);
     row("one unit beside others that are converted", item + "[Unit]\nPower=kW\nLength=mm, m\n",
         "single-unit", 0);
@@ -163,6 +186,30 @@ void TestKeltoLintFiles::mendsWithOneRightAnswerOnly()
     const auto isMended
         = [&rule](const Finding &each) { return each.rule == rule && !each.fix.isEmpty(); };
     QCOMPARE(int(std::count_if(findings.cbegin(), findings.cend(), isMended)), fixes);
+}
+
+void TestKeltoLintFiles::addsALine_data()
+{
+    QTest::addColumn<QByteArray>("lineEnd");
+    QTest::addColumn<QByteArray>("end");
+
+    for (const QByteArray lineEnd : { "\n", "\r\n", "\r" }) {
+        QTest::addRow("behind %s", lineEnd.toHex().constData()) << lineEnd << lineEnd + lineEnd;
+        QTest::addRow("at the end, behind %s", lineEnd.toHex().constData())
+            << lineEnd << QByteArray();
+    }
+}
+
+void TestKeltoLintFiles::addsALine()
+{
+    QFETCH(QByteArray, lineEnd);
+    QFETCH(QByteArray, end);
+
+    const QByteArray lines
+        = QByteArray("[KeltoItem]\nname=Beam\ninner_mode_nameList=A").replace("\n", lineEnd);
+    writeFile("first.ini", lines + end);
+    QCOMPARE(fixedFile(ItemFile("first.ini"), LintConfig({})).bytes,
+             lines + lineEnd + "inner_mode_count=1" + end);
 }
 
 void TestKeltoLintFiles::takesEscapesForMeantInSavedFiles_data()

@@ -79,11 +79,6 @@ void TestKeltoLintFollowers::findsTheCause_data()
 
     row("a result without an equals sign", "[Unit]\n", "[Result]\nPower\n\n[Unit]\nPower=kW, kW\n",
         { noEqualsSign.arg(20) });
-    row("a symbol of a result behind a blank", "[Symbol]\nFlow=Q\nStatic head=H\nSpeed=n\n",
-        "[Result]\nPower=\n\n[Symbol]\nPower P\n",
-        { "25:1 results-not-read no result is read, since \"output_results\" is missing under "
-          "[KeltoItem]",
-          noEqualsSign.arg(28) });
 
     row("a quote that is not closed", "group=", "description=\"Pumps, radial\ngroup=",
         { "4:13 quote-across-lines the quote is not closed on this line, and all up to line 35 is "

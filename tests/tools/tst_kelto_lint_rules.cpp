@@ -154,7 +154,7 @@ void TestKeltoLintRules::finds_data()
           "first.ini:11:1 text-in-code \"a\"b\" holds a double quote",
           "first.ini:15:7 text-in-code \"\"\" holds a double quote",
           "first.ini:17:9 text-in-code \"a\"\" holds a double quote" });
-    row("a text in a list that cannot be carried", head + "lib_name=a, \"b\\\\\", c\n",
+    row("a text in a list that cannot be carried", head + "lib_name=a, \"b\\\\\", \"b\\\\\"\n",
         { "first.ini:5:13 text-in-code \"b\\\" holds a backslash" });
     row("an escape that wants quotes is another finding", item + "description=a\\nb\n", {});
     row("a long text is shortened", item + "icon=\"\\\\" + QString(100, 'i') + "\"\n",
@@ -320,7 +320,7 @@ void TestKeltoLintRules::finds_data()
         row("units with two meanings",
             item + letters
                 + "[Unit]\nA=g, m/s²\nB=m/s, kn\nC=kn, kN\nD=kg/cm², MPa\nE=C/m, K/m\n"
-                  "F=g, kg\nG=DN, mm\nH=deg C, K\nI=KN/CM², MPa\n",
+                  "F=g, kg\nG=DN, mm\nH=deg C, K\nI=KN/CM², MPa\nJ=kN, t\n",
             { "first.ini:21:3 ambiguous-unit \"g\" and \"m/s²\" measure the same only if \"g\" "
               "means "
               "\"gn\"; then write that",
@@ -338,7 +338,9 @@ void TestKeltoLintRules::finds_data()
               "C\" "
               "means \"°C\"; then write that",
               "first.ini:29:3 unknown-unit \"KN/CM²\" is no known unit. Did you mean "
-              "\"kN/cm²\"?" });
+              "\"kN/cm²\"?",
+              "first.ini:30:7 ambiguous-unit \"kN\" and \"t\" measure the same only if \"t\" "
+              "means \"tf\"; then write that" });
         row("units that nobody knows", item + letters + "[Unit]\nA=Foo, mm\nB=Foo, Foo\n",
             { "first.ini:21:3 unknown-unit \"Foo\" is no known unit and not compared with \"mm\"",
               "first.ini:22:3 unknown-unit \"Foo\" is no known unit" });

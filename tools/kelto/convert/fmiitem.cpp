@@ -24,7 +24,7 @@ QString plainName(const QString &text)
             plain += QLatin1Char('\'');
         else if (character == QLatin1Char('\\'))
             plain += QLatin1Char('/');
-        else if (character.isPrint() && !character.isSurrogate())
+        else if (character.isPrint())
             plain += character;
     }
     return plain.simplified();

@@ -46,7 +46,8 @@ public:
         const char lineEnd = bytes.contains('\n') ? '\n' : '\r';
         const int valueEnd = offsetOf(key.speltValue.data() + key.speltValue.size());
         const int end = bytes.indexOf(lineEnd, valueEnd);
-        const bool isPair = end > 0 && lineEnd == '\n' && bytes.at(end - 1) == '\r';
+        const int last = end < 0 ? bytes.lastIndexOf(lineEnd) : end;
+        const bool isPair = last > 0 && lineEnd == '\n' && bytes.at(last - 1) == '\r';
         const QByteArray lineEnding = isPair ? QByteArray("\r\n") : QByteArray(1, lineEnd);
         const int place = end < 0 ? bytes.size() : end - (isPair ? 1 : 0);
         return { place, place, lineEnding + text };
