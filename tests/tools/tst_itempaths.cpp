@@ -118,6 +118,10 @@ void TestItemPaths::finds_data()
     QTest::newRow("a link to nothing below a directory")
         << List { "file items/b.ini", "link items/a.ini gone.ini" } << List("items")
         << List { "items/a.ini: is a link to a file that does not exist.", "items/b.ini" };
+    QTest::newRow("two links to nothing")
+        << List { "link items/a.ini gone", "link items/b.ini gone" } << List("items")
+        << List { "items/a.ini: is a link to a file that does not exist.",
+                  "items/b.ini: is a link to a file that does not exist." };
     QTest::newRow("a link to nothing") << List("link a.ini gone.ini") << List("a.ini")
                                        << List("a.ini: is a link to a file that does not exist.");
     QTest::newRow("a link to itself")

@@ -11,11 +11,14 @@
 #include <Kelto/AUTH_SET>
 #include <Kelto/KeltoItemFinding>
 #include <Kelto/KeltoItemParameterVerify>
+#include <Kelto/KeltoParameterEntry>
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTest>
+
+#include <algorithm>
 
 class TestKeltoCheck : public DirectoryTest
 {
@@ -39,7 +42,8 @@ QStringList textsIn(const QJsonArray &findings)
 {
     QStringList texts;
     for (const QJsonValue &finding : findings)
-        texts.append(finding["text"].toString());
+        texts.append(QString::number(finding["position"].toInt(-1)) + ' '
+                     + finding["text"].toString());
     return texts;
 }
 
@@ -47,8 +51,22 @@ QStringList textsOf(const QVector<KeltoItemFinding> &findings)
 {
     QStringList texts;
     for (const KeltoItemFinding &finding : findings)
-        texts.append(finding.text());
+        texts.append(QString::number(finding.position) + ' ' + finding.text());
     return texts;
+}
+
+/// Those of @p groups in which no parameter of the mode is.
+int unknownGroups(const QStringList &groups, const AUTH_INF &item, const QString &mode)
+{
+    QStringList known;
+    const int position = item.inner_mode_nameList.indexOf(mode);
+    const QVector<QStringList> entries = item.inner_mode_parameterList.value(position);
+    for (const QStringList &entry : entries)
+        known.append(entry.value(KeltoParameterEntry::Group));
+    return position < 0
+        ? 0
+        : int(std::count_if(groups.cbegin(), groups.cend(),
+                            [&](const QString &each) { return !known.contains(each); }));
 }
 
 } // namespace
@@ -86,6 +104,7 @@ void TestKeltoCheck::agreesWithTheLibrary()
         QVERIFY2(text.output.contains(verdict + " for the mode"), text.output.constData());
         QCOMPARE(text.exitCode, findings.isEmpty() ? 0 : 1);
         QCOMPARE(text.output.count('\n'), findings.size() + 1);
+        QCOMPARE(text.errors.count('\n'), unknownGroups(skipped, item, mode));
 
         const Outcome json = outcomeOf(KELTO_COMMAND, arguments + QStringList("--json"));
         const QJsonObject result = QJsonDocument::fromJson(json.output).object();

@@ -198,12 +198,11 @@ void TestKeltoLintFollowers::findsTheCause_data()
         "group=", "description=\"Pumps,\nradial and axial\"\ngroup=",
         { "4:13 quote-across-lines the quote is not closed on this line, and all up to line 5 is "
           "read as a part of this value" });
-    row("an error that follows from a line that was to be a comment", "[Attribute]\n",
-        "[Attribute]\n# Width=\n",
-        { "10:1 hash-key \"#\" begins no comment here: the line is a key; a comment begins with "
+    row("an error that follows from a line that was to be a comment", "[ExtraKey]\n",
+        "[ExtraKey]\n# Flow%41=q\n",
+        { "30:1 hash-key \"#\" begins no comment here: the line is a key; a comment begins with "
           "\";\"",
-          "10:1 missing-belong the parameter \"# Width\" belongs to no mode; [Belong] has to name "
-          "the modes that take it" });
+          "30:7 escape-in-key the key is read as \"# FlowA\"; write \"%\" as %25" });
     row("errors beside a line that was to be a comment", "Static head=\n", "# Static head=\n",
         { "11:1 hash-key \"#\" begins no comment here: the line is a key; a comment begins with "
           "\";\"",

@@ -320,7 +320,7 @@ void TestKeltoLintRules::finds_data()
         row("units with two meanings",
             item + letters
                 + "[Unit]\nA=g, m/s²\nB=m/s, kn\nC=kn, kN\nD=kg/cm², MPa\nE=C/m, K/m\n"
-                  "F=g, kg\nG=DN, mm\nH=deg C, K\nI=KN/CM², MPa\nJ=kN, t\n",
+                  "F=g, kg\nG=DN, mm\nH=deg C, K\nI=KN/CM², MPa\nJ=kN, t\nK=kg·C, N·K\n",
             { "first.ini:21:3 ambiguous-unit \"g\" and \"m/s²\" measure the same only if \"g\" "
               "means "
               "\"gn\"; then write that",
@@ -340,7 +340,9 @@ void TestKeltoLintRules::finds_data()
               "first.ini:29:3 unknown-unit \"KN/CM²\" is no known unit. Did you mean "
               "\"kN/cm²\"?",
               "first.ini:30:7 ambiguous-unit \"kN\" and \"t\" measure the same only if \"t\" "
-              "means \"tf\"; then write that" });
+              "means \"tf\"; then write that",
+              "first.ini:31:3 ambiguous-unit \"kg·C\" and \"N·K\" measure the same only if "
+              "\"kg·C\" means \"kgf·°C\"; then write that" });
         row("units that nobody knows", item + letters + "[Unit]\nA=Foo, mm\nB=Foo, Foo\n",
             { "first.ini:21:3 unknown-unit \"Foo\" is no known unit and not compared with \"mm\"",
               "first.ini:22:3 unknown-unit \"Foo\" is no known unit" });

@@ -100,6 +100,8 @@ void TestUnit::readsWhatEngineersWrite_data()
     row("small letters are knots", "kn|kts", 1852. / 3600, "m s^-1");
     row("height above the sea", "m ü. NN|m ü.NN|m NHN|m a.s.l.|mNN", 1, "m");
     row("a power of the last symbol only", "kNm²|kNm^2|kNm2|kN·m²", 1e3, "kg m^3 s^-2");
+    row("a cube of the last symbol only", "kgm³|kgm^3|kg·m³", 1, "kg m^3");
+    row("no root", "m1/20|m/20", 0.05, "m");
     row("moment of inertia", "kgm²|kgm2|kg m²|kg·m²|t·mm²·10^3", 1, "kg m^2");
     row("columns of water", "m w.c.|mWS|m WC|mwc|m H2O|mH2O|1000 mmH2O|1000 mmWS", 9806.65,
         "kg m^-1 s^-2");
