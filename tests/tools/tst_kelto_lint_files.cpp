@@ -193,7 +193,7 @@ void TestKeltoLintFiles::addsALine_data()
     QTest::addColumn<QByteArray>("lineEnd");
     QTest::addColumn<QByteArray>("end");
 
-    for (const QByteArray lineEnd : { "\n", "\r\n", "\r" }) {
+    for (const QByteArray &lineEnd : { QByteArray("\n"), QByteArray("\r\n"), QByteArray("\r") }) {
         QTest::addRow("behind %s", lineEnd.toHex().constData()) << lineEnd << lineEnd + lineEnd;
         QTest::addRow("at the end, behind %s", lineEnd.toHex().constData())
             << lineEnd << QByteArray();
