@@ -68,6 +68,12 @@ void TestKeltoLintFollowers::findsTheCause_data()
         header(14, "Belong") + QStringList());
     row("a header without its second bracket", "[Symbol]", "[Symbol",
         { "24:1 broken-header the header has no \"]\"" });
+    row("a header without brackets", "[Symbol]", "Symbol ",
+        { "24:1 broken-header the line has no \"=\" and is ignored; the header of a section is "
+          "written [Symbol]" });
+    row("another header for the fields", "[KeltoItem]", "[Item]",
+        { "1:1 misspelt-section nothing is read from the section \"Item\". Did you mean "
+          "\"KeltoItem\"?" });
     row("text behind a header", "[Symbol]", "[Symbol] of parameters",
         { "24:1 broken-header the text behind the header is ignored" });
 

@@ -9,6 +9,8 @@
 QString meantHeader(std::string_view line)
 {
     const QString text = QString::fromUtf8(line.data(), static_cast<int>(line.size())).trimmed();
+    if (knownSections().contains(text))
+        return text;
     if (!text.endsWith(QLatin1Char(']')) || text.contains(QLatin1Char('[')))
         return {};
     return nearestName(text.chopped(1), knownSections());

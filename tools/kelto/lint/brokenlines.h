@@ -8,8 +8,8 @@
 
 #include <string_view>
 
-/// The section whose header @p line, which is none, most likely was to be: "Symbol]" lacks the "[".
-/// Empty when it is not similar to one.
+/// The section whose header @p line, which is none, most likely was to be: "Symbol]" lacks the "[",
+/// and "Symbol" both brackets. Empty when it is not similar to one.
 QString meantHeader(std::string_view line);
 
 #endif

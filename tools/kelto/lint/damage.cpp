@@ -168,10 +168,13 @@ void checkOther(const IniLine &line, IniPosition position, FileFindings *finding
         return;
     const QString section = meantHeader(line.text);
     if (!section.isEmpty()) {
-        findings->add("broken-header", position,
-                      Command::tr("the \"[\" in front of the header is missing, so that the keys "
-                                  "below do not belong to the section \"%1\"")
-                          .arg(section));
+        // A name without brackets may also be that of a parameter.
+        const QString text = line.text.find(']') == line.text.npos
+            ? Command::tr("the line has no \"=\" and is ignored; the header of a section is "
+                          "written [%1]")
+            : Command::tr("the \"[\" in front of the header is missing, so that the keys below "
+                          "do not belong to the section \"%1\"");
+        findings->add("broken-header", position, text.arg(section));
     } else if (swallowsLines(line.text)) {
         findings->add("no-equals-sign", position,
                       textOnSwallowed(line.text).arg(findings->lineOfEnd(line.text)));

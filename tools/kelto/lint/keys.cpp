@@ -37,7 +37,7 @@ QMultiHash<QString, QString> sectionSpellings(const ItemFile &file)
     return spellings;
 }
 
-void checkSections(FileFindings *findings)
+void checkSections(const LintItem &item, FileFindings *findings)
 {
     const ItemFile &file = findings->file();
     const auto spellings = sectionSpellings(file);
@@ -45,7 +45,7 @@ void checkSections(FileFindings *findings)
         if (knownSections().contains(section.name)
             || areAlike(section.name, QStringLiteral("General")))
             continue;
-        const QString nearest = nearestName(section.name, knownSections());
+        const QString nearest = item.meantSection(section.name);
         const QString text
             = Command::tr("nothing is read from the section \"%1\".").arg(section.name);
         if (nearest.isEmpty()) {
@@ -55,8 +55,7 @@ void checkSections(FileFindings *findings)
         // Of several that would become one, which other text comes before which is not known.
         const bool isClear
             = areAlike(nearest, section.name) && spellings.count(nearest.toLower()) == 1;
-        findings->add("misspelt-section", section.position,
-                      text + didYouMean(section.name, knownSections()),
+        findings->add("misspelt-section", section.position, text + didYouMean(nearest),
                       isClear
                           ? QVector<TextEdit> { findings->edit(section.spelt, nearest.toUtf8()) }
                           : QVector<TextEdit>());
@@ -238,7 +237,7 @@ void check(const LintItem &item, Findings *findings)
     FileFindings added(item.file(), findings);
     UndeclaredKeys undeclared(item);
     KeySpelling spelling(&added);
-    checkSections(&added);
+    checkSections(item, &added);
     checkOutside(item, &added);
     for (const LintKey &key : item.keys()) {
         if (key.key->section.isEmpty() || key.section.isEmpty())

@@ -67,10 +67,23 @@ QString meantName(const QString &name, const QStringList &known)
     return known.contains(name) ? name : nearestName(name, known);
 }
 
-/// A header that is missing most likely was to be the first.
-QString meantSection(const QString &name)
+/// The first section with some of the fields, where no name is similar to that of their own.
+QString otherSectionOfFields(const ItemFile &file)
 {
-    return name.isEmpty() ? knownSections().constFirst() : meantName(name, knownSections());
+    constexpr int fewest = 3;
+    const QString own = knownSections().constFirst();
+    for (const ItemFileSection &section : file.sections()) {
+        if (meantName(section.name, knownSections()) == own)
+            return {};
+    }
+    QHash<QString, int> fields;
+    for (const ItemFileKey &key : file.keys()) {
+        const bool isField = !key.section.isEmpty() && knownFields().contains(key.name);
+        if (isField && meantName(key.section, knownSections()).isEmpty()
+            && ++fields[key.section] == fewest)
+            return key.section;
+    }
+    return {};
 }
 
 } // namespace
@@ -110,8 +123,10 @@ bool isMeantAsComment(const QString &key)
 
 LintItem::LintItem(const ItemFile &file)
     : m_file(file)
+    , m_sectionOfFields(otherSectionOfFields(file))
 {
-    QHash<QString, QString> meantSections;
+    // A header that is missing most likely was to be the first.
+    QHash<QString, QString> meantSections { { QString(), knownSections().constFirst() } };
     m_keys.reserve(file.keys().size());
     for (const ItemFileKey &key : file.keys()) {
         auto section = meantSections.find(key.section);
@@ -129,6 +144,12 @@ LintItem::LintItem(const ItemFile &file)
         if (isRead || !known.contains(name))
             known.insert(name, &key);
     }
+}
+
+QString LintItem::meantSection(const QString &name) const
+{
+    return !name.isEmpty() && name == m_sectionOfFields ? knownSections().constFirst()
+                                                        : meantName(name, knownSections());
 }
 
 const ItemFileKey *LintItem::find(const QString &section, const QString &name) const

@@ -44,8 +44,8 @@ struct LintKey
 };
 
 /// The keys of a file, which has to outlive it, by what they are meant to be: sections and fields
-/// that are misspelt count as what they are similar to, and keys in no section as those of the
-/// section KeltoItem, so that one mistake is one finding and not many.
+/// that are misspelt count as what they are similar to, and keys in no section or fields in another
+/// one as those of the section KeltoItem, so that one mistake is one finding and not many.
 class LintItem
 {
 public:
@@ -62,11 +62,15 @@ public:
     /// Without duplicates, in the order of the file.
     QStringList namesIn(const QString &section) const { return m_names.value(section); }
 
+    /// The section as which the keys under the header @p name are meant; empty when it is none.
+    QString meantSection(const QString &name) const;
+
     /// The elements of a list; none for an empty value.
     static QStringList elements(const ItemFileKey *key);
 
 private:
     const ItemFile &m_file;
+    const QString m_sectionOfFields; ///< Under another name than KeltoItem.
     QVector<LintKey> m_keys;
     QHash<QString, QHash<QString, const ItemFileKey *>> m_sections;
     QHash<QString, QStringList> m_names;

@@ -114,7 +114,10 @@ private:
             if (place < line.data() + line.size())
                 add(&m_quotes, "no-equals-sign", position, place, 0, "\"");
         } else if (!meantHeader(line).isEmpty()) {
+            const char *const behind = line.data() + line.find_last_not_of(" \t") + 1;
             add(&m_mends, "broken-header", position, line.data(), 0, "[");
+            if (behind[-1] != ']')
+                add(&m_mends, "broken-header", position, behind, 0, "]");
         } else if (section == QLatin1String("Attribute") || section == QLatin1String("Result")) {
             const char *const last = line.data() + line.find_last_not_of(" \t");
             const bool isColon = *last == ':';

@@ -2236,5 +2236,9 @@ Rules are configured in files named &quot;.kelto-lint.ini&quot;, in the director
         <source>%1: %2 files below it are skipped, since nothing in them is a part of a module item, %3 for example. Name a file itself to have it read.</source>
         <translation>%1：已跳过其下的 %2 个文件，因为其中没有模块项的任何部分，例如 %3。要读取某个文件，请直接指定它。</translation>
     </message>
+    <message>
+        <source>the line has no &quot;=&quot; and is ignored; the header of a section is written [%1]</source>
+        <translation>该行没有 &quot;=&quot;，因此被忽略；节的标题写作 [%1]</translation>
+    </message>
 </context>
 </TS>
