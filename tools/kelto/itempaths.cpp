@@ -63,7 +63,7 @@ QStringList filesBelow(const QString &directory, QStringList *problems)
         for (const QFileInfo &entry : entries) {
             if (entry.isDir())
                 (entry.isSymLink() ? links : directories).append(entry.filePath());
-            else if (QDir::match(QStringLiteral("*.ini"), entry.fileName()))
+            else if (entry.fileName().endsWith(QLatin1String(".ini"), Qt::CaseInsensitive))
                 files.append(entry.filePath());
         }
     }

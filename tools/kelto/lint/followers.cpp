@@ -126,7 +126,7 @@ private:
 
 Findings withoutFollowersIn(const ItemFile &file, const Findings &findings, int copies)
 {
-    const QVector<Mend> mends = copies > 0 ? mendsFor(LintItem(file), findings) : QVector<Mend>();
+    const QVector<Mend> mends = copies > 0 ? mendsFor(file, findings) : QVector<Mend>();
     if (mends.isEmpty())
         return findings;
     const ItemFile copy(file.path(), mended(file.bytes(), mends));

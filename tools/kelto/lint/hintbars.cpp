@@ -64,8 +64,10 @@ bool HintBars::addMissing(const ItemFileKey &key, const char *comma, bool isPlai
 
 bool HintBars::isOneChoiceOfWords(const ItemFileKey &key)
 {
-    if (!isOf(key, "Choices.") || key.value.size() != 1
-        || key.value.constFirst().contains(QRegularExpression(QStringLiteral("[|=]"))))
+    if (!isOf(key, "Choices.") || key.value.size() != 1)
+        return false;
+    const QString &text = key.value.constFirst();
+    if (text.contains(bar) || text.contains(equalsSign))
         return false;
     static const QRegularExpression word(QStringLiteral("^\\S*\\pL\\S*$"));
     static const QRegularExpression words(QStringLiteral("^\\S+( \\S+)?$"));

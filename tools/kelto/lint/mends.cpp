@@ -234,7 +234,7 @@ private:
 
 } // namespace
 
-QVector<Mend> mendsFor(const LintItem &item, const Findings &findings)
+QVector<Mend> mendsFor(const ItemFile &file, const Findings &findings)
 {
     static const QStringList rules {
         QStringLiteral("broken-header"),
@@ -250,5 +250,8 @@ QVector<Mend> mendsFor(const LintItem &item, const Findings &findings)
     const bool isAny = std::any_of(findings.cbegin(), findings.cend(), [](const Finding &finding) {
         return rules.contains(finding.rule);
     });
-    return isAny ? MendSearch(item, findings).mends() : QVector<Mend>();
+    if (!isAny)
+        return {};
+    const LintItem item(file);
+    return MendSearch(item, findings).mends();
 }

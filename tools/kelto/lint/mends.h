@@ -27,6 +27,6 @@ inline FindingKey keyOf(const QString &rule, IniPosition position)
 
 /// The mends for @p findings, in the order of the file. Whatever stands behind an unclosed quote is
 /// not what it seems, so that the first of these is mended alone.
-QVector<Mend> mendsFor(const LintItem &item, const Findings &findings);
+QVector<Mend> mendsFor(const ItemFile &file, const Findings &findings);
 
 #endif
