@@ -89,7 +89,7 @@ inline QByteArray damagedBytes(Dice *dice)
     return bytes;
 }
 
-/// @p bytes with some pieces changed, moved, doubled or gone.
+/// @p bytes with some pieces changed, inserted, duplicated or removed.
 inline QByteArray mutated(QByteArray bytes, Dice *dice)
 {
     for (int i = dice->between(1, 6); i > 0 && !bytes.isEmpty(); --i) {

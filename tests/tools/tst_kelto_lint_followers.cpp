@@ -153,7 +153,8 @@ void TestKeltoLintFollowers::findsTheCause_data()
         { "6:18 mode-count \"inner_mode_count\" is 2, and \"inner_mode_nameList\" has 3; a "
           "superfluous comma makes an empty name" });
     row("a declaration that no other section knows", "[Attribute]\nFlow=", "[Attribute]\nFlwo=",
-        { "15:1 undeclared-key there is no parameter \"Flow\". Did you mean \"Flwo\"?" });
+        { "15:1 undeclared-key there is no parameter \"Flow\". Did you mean \"Flwo\"? Other "
+          "sections have this key, too, so that its declaration may be misspelt" });
     row("a parameter that is misspelt in one section", "[Belong]\nFlow=", "[Belong]\nFlwo=",
         { "15:1 undeclared-key there is no parameter \"Flwo\". Did you mean \"Flow\"?" });
     row("a backslash at the end of a header", "[Symbol]", "[Symbol\\",

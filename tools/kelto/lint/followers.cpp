@@ -84,14 +84,18 @@ bool hasNewDamage(const Findings &left, const QSet<FindingKey> &before)
     });
 }
 
-/// White space around a name is a matter of taste until parameters are lost by it.
-Finding asError(Finding finding)
+/// What is told of a cause in place of @p finding. White space around a name is a matter of taste
+/// until parameters are lost by it, and a declaration is misspelt that no other section knows.
+Finding asCause(Finding finding)
 {
     if (finding.rule == QLatin1String("white-space-at-ends")) {
         finding.rule = QStringLiteral("unknown-mode");
         finding.text = Command::tr("the name of the mode begins or ends with white space, and "
                                    "[Belong] names it without");
     }
+    if (finding.rule == QLatin1String("undeclared-key"))
+        finding.text += Command::tr(" Other sections have this key, too, so that its declaration "
+                                    "may be misspelt");
     return finding;
 }
 
@@ -105,7 +109,7 @@ public:
         for (const Mend &mend : mends)
             m_causes.insert(keyOf(mend.rule, mend.cause));
         m_hasError = std::any_of(findings.cbegin(), findings.cend(), [this](const Finding &each) {
-            return isCause(each) && isError(asError(each));
+            return isCause(each) && isError(asCause(each));
         });
     }
 
@@ -147,7 +151,7 @@ Findings withoutFollowersIn(const ItemFile &file, const Findings &findings, int 
     Findings kept;
     for (const Finding &finding : findings) {
         if (independence.isKept(finding, moved.keyIn(finding)))
-            kept.append(independence.isCause(finding) ? asError(finding) : finding);
+            kept.append(independence.isCause(finding) ? asCause(finding) : finding);
     }
     return kept;
 }

@@ -170,7 +170,8 @@ private:
 
 bool isBoth(const LintItem &item, const LintKey &key)
 {
-    return describingSections().mid(1).contains(key.section)
+    return key.section != describingSections().constFirst()
+        && describingSections().contains(key.section)
         && item.find(QStringLiteral("Attribute"), key.name)
         && item.find(QStringLiteral("Result"), key.name);
 }

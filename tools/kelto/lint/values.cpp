@@ -171,15 +171,17 @@ private:
             m_findings->add("typed-value", element.text.data(),
                             Command::tr("the text is read as a value of another type; write "
                                         "\"@@\" for \"@\" where a text is meant"));
-        } else if (text.trimmed() != text && m_spelt.longQuotes.isEmpty()
-                   && m_section != QLatin1String("Belong")) {
-            // What is in [Belong] is the name of a mode, or none.
+        } else if (text.trimmed() != text && m_spelt.longQuotes.isEmpty() && !isNameOfMode()) {
             m_findings->add("white-space-at-ends", element.text.data(),
                             Command::tr("\"%1\" begins or ends with white space, which is a part "
                                         "of the text")
                                 .arg(text));
         }
     }
+
+    /// Of [Belong], where it is told when there is no such mode, and of the list of modes
+    /// otherwise.
+    bool isNameOfMode() const { return m_section == QLatin1String("Belong"); }
 
     const ItemFileKey &m_key;
     const QString m_section;

@@ -2240,5 +2240,9 @@ Rules are configured in files named &quot;.kelto-lint.ini&quot;, in the director
         <source>the line has no &quot;=&quot; and is ignored; the header of a section is written [%1]</source>
         <translation>该行没有 &quot;=&quot;，因此被忽略；节的标题写作 [%1]</translation>
     </message>
+    <message>
+        <source> Other sections have this key, too, so that its declaration may be misspelt</source>
+        <translation>其他节也有此键，因此可能是其声明拼写有误</translation>
+    </message>
 </context>
 </TS>
